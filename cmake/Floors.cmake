@@ -1,0 +1,33 @@
+# A floor is one static library made from one folder below Source/. What it may link is what it may include.
+#
+#   zn_add_floor (zn_midi SOURCES NoteGate.cpp ... LINKS zn_foundation zn_reflection)
+
+function (zn_add_floor name)
+    cmake_parse_arguments (FLOOR "" "" "SOURCES;LINKS" ${ARGN})
+
+    if (FLOOR_SOURCES)
+        add_library (${name} STATIC ${FLOOR_SOURCES})
+        set (scope PUBLIC)
+        target_link_libraries (${name} PRIVATE zn_warnings)
+        target_compile_options (${name} PRIVATE -ffunction-sections -fdata-sections)
+    else()
+        add_library (${name} INTERFACE)
+        set (scope INTERFACE)
+    endif()
+
+    target_include_directories (${name} ${scope} "${PROJECT_SOURCE_DIR}/Source")
+    target_link_libraries (${name} ${scope} ${FLOOR_LINKS})
+endfunction()
+
+# The test program of a floor: zn_<folder>_tests, run by CTest one case at a time.
+#
+#   zn_add_tests (zn_midi_tests SOURCES NoteGateTests.cpp ... LINKS zn_midi)
+
+function (zn_add_tests name)
+    cmake_parse_arguments (TESTS "" "" "SOURCES;LINKS" ${ARGN})
+
+    add_executable (${name} ${TESTS_SOURCES})
+    target_include_directories (${name} PRIVATE "${PROJECT_SOURCE_DIR}/Tests")
+    target_link_libraries (${name} PRIVATE ${TESTS_LINKS} zn_test_support zn_warnings GTest::gmock)
+    gtest_discover_tests (${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()

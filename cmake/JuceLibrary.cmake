@@ -1,0 +1,36 @@
+# JUCE, compiled once under its own flags: floors, plug-in formats, tests and tools all link this one library.
+# -DJUCE_DIR=... chooses another JUCE than the one the system provides.
+
+find_package (JUCE CONFIG REQUIRED)
+find_package (PkgConfig REQUIRED)
+
+# Distributions may build JUCE against the system's codecs and image libraries, which its modules do not name.
+pkg_check_modules (ZN_JUCE_CODECS REQUIRED IMPORTED_TARGET flac vorbisenc vorbisfile vorbis ogg libpng libjpeg)
+
+add_library (zn_juce STATIC)
+
+target_link_libraries (zn_juce
+    PRIVATE
+        juce::juce_audio_utils
+    PUBLIC
+        PkgConfig::ZN_JUCE_CODECS
+        juce::juce_recommended_config_flags)
+
+target_compile_definitions (zn_juce
+    PUBLIC
+        JUCE_WEB_BROWSER=0
+        JUCE_USE_CURL=0
+        JUCE_DISPLAY_SPLASH_SCREEN=0
+        JUCE_REPORT_APP_USAGE=0
+        JUCE_STRICT_REFCOUNTEDPOINTER=1
+        JUCE_VST3_CAN_REPLACE_VST2=0
+        JUCE_JACK=1
+        JUCE_PLUGINHOST_VST3=1
+    INTERFACE
+        $<TARGET_PROPERTY:zn_juce,COMPILE_DEFINITIONS>)
+
+target_include_directories (zn_juce SYSTEM INTERFACE $<TARGET_PROPERTY:zn_juce,INCLUDE_DIRECTORIES>)
+
+# Whatever a program does not use is left out of it.
+target_compile_options (zn_juce PRIVATE -w -ffunction-sections -fdata-sections)
+target_link_options (zn_juce INTERFACE -Wl,--gc-sections)
