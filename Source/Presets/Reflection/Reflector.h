@@ -5,7 +5,9 @@
 
 #include <juce_core/juce_core.h>
 
+#include <algorithm>
 #include <concepts>
+#include <limits>
 #include <memory>
 #include <string>
 
@@ -97,6 +99,7 @@ private:
 
 /** Reflects a container as an array: loading resizes it to the stored count, deleting the surplus from its
    end, and reads each element in place, so that whatever the document omits of an element keeps its value.
+   What the document holds beyond the largest size is ignored.
 
     The container has size(), resize() and begin(); its elements are Reflectable, or smart pointers to one,
    which are created by default construction where they are null.
@@ -105,8 +108,10 @@ template <typename Container>
 class ChildContainerSerializer
 {
 public:
-    explicit ChildContainerSerializer (Container& containerToUse, bool shouldClearFirst = false)
-        : container (containerToUse), clearFirst (shouldClearFirst)
+    explicit ChildContainerSerializer (Container& containerToUse,
+                                       bool shouldClearFirst = false,
+                                       int largestSize = std::numeric_limits<int>::max())
+        : container (containerToUse), clearFirst (shouldClearFirst), maxSize (largestSize)
     {}
 
     void reflect (Reflector& r);
@@ -130,6 +135,7 @@ private:
 
     Container& container;
     bool clearFirst;
+    int maxSize; // elements that are read
 };
 
 template <typename Container>
@@ -146,9 +152,9 @@ void ChildContainerSerializer<Container>::reflect (Reflector& r)
     }
 
     if (clearFirst)
-        container.clear();
+        container.resize (0);
 
-    const auto count = static_cast<std::size_t> (r.getSize());
+    const auto count = static_cast<std::size_t> (std::min (r.getSize(), maxSize));
     container.resize (count);
 
     for (std::size_t i = 0; i < count; ++i)
