@@ -1,0 +1,193 @@
+#include "Plugin/Transport/InternalPlayHead.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace Zn::Audio
+{
+namespace
+{
+constexpr auto defaultTempo = 100.0;
+constexpr auto slowestTempo = 1.0;
+constexpr auto fastestTempo = 10000.0; // far beyond music, near enough that no step is shorter than a sample
+constexpr auto secondsPerMinute = 60.0;
+
+constexpr auto defaultSampleRate = 44100.0;
+constexpr auto defaultBlockSize = 512;
+
+// Hosts that count samples in floating point wander by a few; a musician's jump is longer than this.
+constexpr std::int64_t jitterSamples = 30;
+
+// Beyond these a double no longer tells neighbouring samples apart.
+constexpr auto farthestPpq = 1.0e12;
+constexpr std::int64_t farthestSample = std::int64_t{ 1 } << 52;
+
+bool isUsablePpq (double ppq) noexcept
+{
+    return std::abs (ppq) <= farthestPpq; // false for NaN
+}
+
+bool isUsableSample (std::int64_t sample) noexcept
+{
+    return -farthestSample <= sample && sample <= farthestSample;
+}
+
+std::int64_t nearestSample (double sample) noexcept
+{
+    constexpr auto limit = static_cast<double> (farthestSample);
+    return std::llround (std::clamp (sample, -limit, limit));
+}
+
+using PositionInfo = juce::AudioPlayHead::PositionInfo;
+
+juce::AudioPlayHead::LoopPoints loopOf (const PositionInfo& position) noexcept
+{
+    const auto points = position.getLoopPoints();
+
+    if (! position.getIsLooping() || ! points.hasValue() || ! isUsablePpq (points->ppqStart)
+        || ! isUsablePpq (points->ppqEnd))
+        return {};
+
+    return *points;
+}
+} // namespace
+
+InternalPlayHead::InternalPlayHead()
+{
+    prepare (defaultSampleRate, defaultBlockSize);
+}
+
+void InternalPlayHead::prepare (double newSampleRate, int blockSize)
+{
+    ppqBySample.reserve (static_cast<std::size_t> (std::max (blockSize, 0)));
+    sampleRate = newSampleRate;
+    updateRate();
+}
+
+bool InternalPlayHead::isUsableTempo (double bpm) noexcept
+{
+    return slowestTempo <= bpm && bpm <= fastestTempo; // false for NaN
+}
+
+double InternalPlayHead::getTempo() const noexcept
+{
+    return info.getBpm().orFallback (defaultTempo);
+}
+
+std::int64_t InternalPlayHead::getTimeInSamples() const noexcept
+{
+    return info.getTimeInSamples().orFallback (0);
+}
+
+void InternalPlayHead::setTempo (double newBpm) noexcept
+{
+    if (! isUsableTempo (newBpm))
+        return;
+
+    info.setBpm (newBpm);
+    updateRate();
+}
+
+void InternalPlayHead::setInternalState (bool shouldPlay, double ppq) noexcept
+{
+    info.setIsPlaying (shouldPlay);
+    info.setIsLooping (false);
+    loop = {};
+
+    if (isUsablePpq (ppq))
+        info.setPpqPosition (ppq);
+}
+
+void InternalPlayHead::updateRate() noexcept
+{
+    const auto isUsable = std::isfinite (sampleRate) && sampleRate > 0.0;
+    ppqPerSample = isUsable ? getTempo() / (sampleRate * secondsPerMinute) : 0.0;
+}
+
+void InternalPlayHead::update (juce::AudioPlayHead* host, int numSamples) noexcept
+{
+    const auto n = std::max (numSamples, 0);
+
+    if (host == nullptr)
+        info.setTimeInSamples (expectedSample);
+    else if (const auto position = host->getPosition())
+        follow (*position);
+
+    const auto playing = isPlaying();
+    const auto time = getTimeInSamples();
+
+    stateChanged = wasPlaying != playing;
+    jumped = std::exchange (jumpForced, false) || isAwayFrom (time);
+    wasPlaying = playing;
+    startPpq = endPpq = info.getPpqPosition().orFallback (0.0);
+    expectedSample = playing ? time + n : time;
+
+    ppqBySample.resize (static_cast<std::size_t> (n));
+
+    if (playing)
+        fillPlaying (n);
+    else
+        std::fill (ppqBySample.begin(), ppqBySample.end(), startPpq);
+}
+
+/** Takes over the host's position, and works out what it does not tell from where the last block ended. */
+void InternalPlayHead::follow (const PositionInfo& host) noexcept
+{
+    const auto expectedPpq = info.getPpqPosition().orFallback (0.0);
+    const auto lastTempo = info.getBpm();
+    const auto tempo = host.getBpm();
+    const auto time = host.getTimeInSamples();
+    const auto ppq = host.getPpqPosition();
+    const auto hasTime = time.hasValue() && isUsableSample (*time);
+    const auto hasPpq = ppq.hasValue() && isUsablePpq (*ppq);
+
+    info = host;
+    info.setBpm (tempo.hasValue() && isUsableTempo (*tempo) ? tempo : lastTempo);
+    updateRate();
+    loop = loopOf (host);
+
+    if (! hasTime)
+    {
+        const auto moved = hasPpq && ppqPerSample > 0.0 ? (*ppq - expectedPpq) / ppqPerSample : 0.0;
+        info.setTimeInSamples (nearestSample (static_cast<double> (expectedSample) + moved));
+    }
+
+    if (! hasPpq)
+    {
+        const auto moved = hasTime ? static_cast<double> (*time - expectedSample) * ppqPerSample : 0.0;
+        info.setPpqPosition (std::clamp (expectedPpq + moved, -farthestPpq, farthestPpq));
+    }
+}
+
+bool InternalPlayHead::isAwayFrom (std::int64_t time) const noexcept
+{
+    if (! isPlaying())
+        return time != expectedSample;
+
+    return time < expectedSample - jitterSamples || time >= expectedSample + jitterSamples;
+}
+
+void InternalPlayHead::fillPlaying (int numSamples) noexcept
+{
+    for (auto i = 0; i < numSamples; ++i)
+        ppqBySample[static_cast<std::size_t> (i)] = startPpq + i * ppqPerSample;
+
+    if (loop.ppqEnd > loop.ppqStart)
+        for (auto& ppq : ppqBySample)
+            ppq = wrapIntoLoop (ppq);
+
+    endPpq = wrapIntoLoop (startPpq + numSamples * ppqPerSample);
+    info.setTimeInSamples (expectedSample);
+    info.setPpqPosition (endPpq);
+}
+
+/** Only the loop's own range is wrapped, which moves its very end: a position the host puts beyond it stays.
+ */
+double InternalPlayHead::wrapIntoLoop (double ppq) const noexcept
+{
+    const auto isInside = loop.ppqEnd > loop.ppqStart && ppq >= loop.ppqStart && ppq <= loop.ppqEnd;
+
+    return isInside ? std::fmod (ppq - loop.ppqStart, loop.ppqEnd - loop.ppqStart) + loop.ppqStart : ppq;
+}
+} // namespace Zn::Audio

@@ -1,0 +1,450 @@
+#include "Plugin/Transport/ClockSelection.h"
+#include "Plugin/Transport/TransportSlice.h"
+#include "Support/TestPlayHead.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
+#include <vector>
+
+namespace Zn::Audio
+{
+namespace
+{
+using PositionInfo = juce::AudioPlayHead::PositionInfo;
+using ::testing::DoubleNear;
+using ::testing::Each;
+using ::testing::ElementsAreArray;
+using ::testing::Pointwise;
+using Testing::TestPlayHead;
+
+constexpr auto nan = std::numeric_limits<double>::quiet_NaN();
+constexpr auto infinity = std::numeric_limits<double>::infinity();
+
+std::vector<double> positionsOf (const InternalPlayHead& clock)
+{
+    const auto positions = clock.getPpqBySample();
+    return { positions.begin(), positions.end() };
+}
+
+struct Clock
+{
+    explicit Clock (double sampleRate = 48000.0) { internal.prepare (sampleRate, 512); }
+
+    ClockSource run (juce::AudioPlayHead* host, int numSamples = 512)
+    {
+        return updateClock (internal, shared, host, keyMode, numSamples);
+    }
+
+    ClockSource run (TestPlayHead& host, int numSamples = 512)
+    {
+        const auto source = run (&host, numSamples);
+        host.advance (numSamples);
+        return source;
+    }
+
+    bool keyMode = false;
+    InternalPlayHead internal;
+    Sequencer::PlayHead shared;
+};
+
+TEST (InternalPlayHead, MovesByTempoAndSampleRate)
+{
+    struct Row
+    {
+        double bpm, sampleRate, ppqPerSample;
+    };
+
+    for (const auto& row : { Row{ 120.0, 48000.0, 4.1666667e-05 },
+                             Row{ 100.0, 44100.0, 3.77928949e-05 },
+                             Row{ 999.0, 192000.0, 8.671875e-05 },
+                             Row{ 120.0, 0.0, 0.0 },
+                             Row{ 120.0, nan, 0.0 } })
+    {
+        TestPlayHead host{ 48000.0, row.bpm };
+        InternalPlayHead clock;
+        clock.prepare (row.sampleRate, 512);
+        clock.update (&host, 512);
+
+        EXPECT_NEAR (clock.getPpqPerSample(), row.ppqPerSample, 1e-12) << row.bpm << " at " << row.sampleRate;
+        EXPECT_NEAR (clock.getEndPpq(), 512 * row.ppqPerSample, 1e-9);
+        EXPECT_EQ (clock.getPpqBySample()[0], 0.0);
+        EXPECT_NEAR (clock.getPpqBySample()[511], 511 * row.ppqPerSample, 1e-9);
+    }
+}
+
+TEST (InternalPlayHead, LetsAHostsSampleCountWanderWhileItPlays)
+{
+    struct Row
+    {
+        bool isPlaying;
+        std::int64_t time;
+        bool jumps;
+    };
+
+    for (const auto& row : { Row{ true, 512, false },
+                             Row{ true, 482, false },
+                             Row{ true, 541, false },
+                             Row{ true, 481, true },
+                             Row{ true, 542, true },
+                             Row{ false, 512, false },
+                             Row{ false, 513, true },
+                             Row{ false, 511, true } })
+    {
+        TestPlayHead host;
+        InternalPlayHead clock;
+        clock.update (&host, 512);
+
+        host.isPlaying = row.isPlaying;
+        host.samples = static_cast<double> (row.time);
+        clock.update (&host, 512);
+
+        EXPECT_EQ (clock.hasJumped(), row.jumps) << row.time << (row.isPlaying ? " playing" : " stopped");
+        EXPECT_EQ (clock.hasStateChanged(), ! row.isPlaying);
+    }
+}
+
+TEST (InternalPlayHead, WrapsTheEndOfTheLoopAndNothingBeyond)
+{
+    struct Row
+    {
+        double loopStart, loopEnd, start;
+        std::vector<double> expected;
+    };
+
+    const Row rows[] = {
+        { 2.0, 4.0, 3.5, { 3.5, 3.625, 3.75, 3.875, 2.0, 4.125, 4.25, 4.375, 4.5 } },
+        { 2.0, 4.0, 1.5, { 1.5, 1.625, 1.75, 1.875, 2.0, 2.125, 2.25, 2.375, 2.5 } },
+        { 4.0, 2.0, 3.0, { 3.0, 3.125, 3.25, 3.375, 3.5, 3.625, 3.75, 3.875, 4.0 } },
+        { 4.0, 4.0, 3.5, { 3.5, 3.625, 3.75, 3.875, 4.0, 4.125, 4.25, 4.375, 4.5 } },
+        { -infinity, infinity, 0.0, { 0.0, 0.125, 0.25, 0.375, 0.5, 0.625, 0.75, 0.875, 1.0 } },
+        { nan, 4.0, 0.0, { 0.0, 0.125, 0.25, 0.375, 0.5, 0.625, 0.75, 0.875, 1.0 } },
+    };
+
+    for (const auto& row : rows)
+    {
+        TestPlayHead host{ 16.0 };
+        host.jumpTo (row.start);
+        host.edit = [&row] (auto& position) {
+            position.setIsLooping (true);
+            position.setLoopPoints (juce::AudioPlayHead::LoopPoints{ row.loopStart, row.loopEnd });
+        };
+
+        InternalPlayHead clock;
+        clock.prepare (16.0, 8);
+        clock.update (&host, 8);
+
+        auto actual = positionsOf (clock);
+        actual.push_back (clock.getEndPpq());
+        EXPECT_THAT (actual, ElementsAreArray (row.expected))
+            << "loop " << row.loopStart << " to " << row.loopEnd << " from " << row.start;
+    }
+}
+
+TEST (InternalPlayHead, StandsStillWhileTheHostIsStopped)
+{
+    TestPlayHead host;
+    host.jumpTo (7.5);
+    host.stop();
+
+    InternalPlayHead clock;
+    clock.update (&host, 64);
+    clock.update (&host, 64);
+
+    EXPECT_THAT (positionsOf (clock), Each (7.5));
+    EXPECT_EQ (clock.getEndPpq(), 7.5);
+    EXPECT_FALSE (clock.hasJumped());
+    EXPECT_FALSE (clock.hasStateChanged());
+}
+
+TEST (InternalPlayHead, CutsABlockWithoutMovingItsSamples)
+{
+    TestPlayHead wholeHost, cutHost;
+    InternalPlayHead whole, cut;
+    whole.prepare (wholeHost.sampleRate, 512);
+    cut.prepare (cutHost.sampleRate, 512);
+    whole.update (&wholeHost, 512);
+
+    std::vector<double> pieces;
+
+    for (auto size : { 1, 0, 36, 256, 219 })
+    {
+        cut.update (&cutHost, size);
+        cutHost.advance (size);
+        const auto positions = positionsOf (cut);
+        pieces.insert (pieces.end(), positions.begin(), positions.end());
+        EXPECT_FALSE (cut.hasJumped()) << size;
+    }
+
+    EXPECT_THAT (pieces, Pointwise (DoubleNear (1e-12), positionsOf (whole)));
+}
+
+TEST (InternalPlayHead, GoesOnEvenlyThroughWhatAHostLeavesOut)
+{
+    struct Row
+    {
+        const char* name;
+        std::function<void (PositionInfo&)> edit;
+    };
+
+    const Row rows[] = {
+        { "no quarter notes", [] (auto& p) { p.setPpqPosition ({}); } },
+        { "no samples", [] (auto& p) { p.setTimeInSamples ({}); } },
+        { "only playing",
+          [] (auto& p) {
+              p = {};
+              p.setIsPlaying (true);
+          } },
+        { "quarter notes not a number", [] (auto& p) { p.setPpqPosition (nan); } },
+        { "quarter notes infinite", [] (auto& p) { p.setPpqPosition (-infinity); } },
+        { "quarter notes absurd", [] (auto& p) { p.setPpqPosition (1e300); } },
+        { "samples absurd", [] (auto& p) { p.setTimeInSamples (std::numeric_limits<std::int64_t>::max()); } },
+        { "samples absurd, negative",
+          [] (auto& p) { p.setTimeInSamples (std::numeric_limits<std::int64_t>::min()); } },
+    };
+
+    for (const auto& row : rows)
+    {
+        TestPlayHead host{ 48000.0, 100.0 };
+        host.edit = row.edit;
+        Clock clock;
+
+        for (auto block = 0; block < 20; ++block)
+        {
+            EXPECT_EQ (clock.run (host), ClockSource::host) << row.name;
+            EXPECT_FALSE (clock.internal.hasJumped()) << row.name << ", block " << block;
+            EXPECT_NEAR (clock.internal.getEndPpq(), host.ppq, 1e-9) << row.name << ", block " << block;
+        }
+    }
+}
+
+TEST (InternalPlayHead, HearsAJumpInWhicheverPositionTheHostGives)
+{
+    struct Row
+    {
+        const char* name;
+        std::function<void (PositionInfo&)> edit;
+    };
+
+    const Row rows[] = {
+        { "samples only", [] (auto& p) { p.setPpqPosition ({}); } },
+        { "quarter notes only", [] (auto& p) { p.setTimeInSamples ({}); } },
+    };
+
+    for (const auto& row : rows)
+        for (auto target : { 8.0, -2.0, 4000.0, 1e9 })
+        {
+            TestPlayHead host;
+            host.edit = row.edit;
+            Clock clock;
+            clock.run (host);
+            host.jumpTo (target);
+            clock.run (host);
+
+            EXPECT_TRUE (clock.internal.hasJumped()) << row.name << " to " << target;
+            EXPECT_NEAR (clock.internal.getStartPpq(), target, 1e-4) << row.name;
+
+            clock.run (host);
+            EXPECT_FALSE (clock.internal.hasJumped()) << row.name << " to " << target;
+        }
+}
+
+TEST (InternalPlayHead, KeepsTheLastGoodTempo)
+{
+    for (auto bad : { 0.0, 0.5, -120.0, nan, infinity, -infinity, 1e300 })
+    {
+        TestPlayHead host{ 48000.0, 87.3 };
+        Clock clock;
+        clock.run (host);
+        const auto rate = clock.internal.getPpqPerSample();
+
+        host.edit = [bad] (auto& position) { position.setBpm (bad); };
+        clock.run (host);
+
+        EXPECT_EQ (clock.internal.getPpqPerSample(), rate) << bad;
+        EXPECT_FLOAT_EQ (clock.shared.bpm, 87.3f) << bad;
+    }
+}
+
+TEST (InternalPlayHead, SurvivesWhateverAHostSends)
+{
+    juce::Random random{ 7 };
+    const double values[] = { nan,   infinity, -infinity, 1e308, -1e308, 1e18,
+                              -1e18, 5e-324,   0.0,       -0.0,  -2.0,   24.0 };
+    const auto pick = [&] { return values[random.nextInt (juce::numElementsInArray (values))]; };
+    const int sizes[] = { 512, 1, 0, -1, 4096 };
+
+    TestPlayHead host;
+    host.edit = [&] (auto& position) {
+        position.setIsPlaying (random.nextBool());
+        position.setBpm (pick());
+        position.setPpqPosition (pick());
+        position.setTimeInSamples (random.nextInt64());
+        position.setIsLooping (random.nextBool());
+        position.setLoopPoints (juce::AudioPlayHead::LoopPoints{ pick(), pick() });
+        position.setTimeSignature (juce::AudioPlayHead::TimeSignature{ 0, 0 });
+    };
+
+    Clock clock;
+
+    for (auto block = 0; block < 2000; ++block)
+    {
+        clock.keyMode = random.nextBool();
+        clock.shared.internalClock = random.nextInt (4) == 0;
+        clock.run (host, sizes[random.nextInt (juce::numElementsInArray (sizes))]);
+
+        for (auto ppq : clock.internal.getPpqBySample())
+            ASSERT_TRUE (std::isfinite (ppq)) << "block " << block;
+
+        ASSERT_TRUE (std::isfinite (clock.shared.positionPpq)) << "block " << block;
+    }
+}
+
+TEST (ClockSelection, FollowsTheHostOnlyWhileItPlaysOrKeysWaitForIt)
+{
+    struct Row
+    {
+        bool hasPosition, hostPlays, keyMode, internalClock;
+        ClockSource expected;
+        bool plays;
+    };
+
+    for (const auto& row : { Row{ false, false, false, false, ClockSource::internal, true },
+                             Row{ false, false, true, false, ClockSource::internal, true },
+                             Row{ true, false, false, false, ClockSource::internal, true },
+                             Row{ true, false, true, false, ClockSource::host, false },
+                             Row{ true, true, false, false, ClockSource::host, true },
+                             Row{ true, true, true, false, ClockSource::host, true },
+                             Row{ true, true, false, true, ClockSource::internal, false },
+                             Row{ true, false, true, true, ClockSource::internal, false } })
+    {
+        TestPlayHead host;
+        host.answers = row.hasPosition;
+        host.isPlaying = row.hostPlays;
+
+        Clock clock;
+        clock.keyMode = row.keyMode;
+        clock.shared.internalClock = row.internalClock;
+
+        const auto name = ::testing::PrintToString (
+            std::vector<bool>{ row.hasPosition, row.hostPlays, row.keyMode, row.internalClock });
+        EXPECT_EQ (clock.run (host), row.expected) << name;
+        EXPECT_EQ (clock.internal.isPlaying(), row.plays) << name;
+        EXPECT_EQ (clock.shared.isPlaying, row.plays) << name;
+    }
+}
+
+TEST (ClockSelection, RunsFromZeroAtTheSharedTempoWithoutAHost)
+{
+    Clock clock;
+    clock.shared.bpm = 90.0f;
+
+    for (auto block = 0; block < 1000; ++block)
+    {
+        EXPECT_EQ (clock.run (nullptr, 480), ClockSource::internal);
+        EXPECT_FALSE (clock.internal.hasJumped());
+        EXPECT_EQ (clock.internal.hasStateChanged(), block == 0);
+    }
+
+    EXPECT_NEAR (clock.shared.positionPpq, 15.0, 1e-9); // ten seconds at 90
+    EXPECT_EQ (clock.shared.positionSamples, 480000);
+}
+
+TEST (ClockSelection, GoesOnFromWhereAStoppedHostStood)
+{
+    TestPlayHead host;
+    Clock clock;
+    clock.run (host);
+    host.stop();
+    clock.run (host);
+
+    EXPECT_FALSE (clock.internal.hasJumped());
+    EXPECT_FALSE (clock.internal.hasStateChanged()) << "one clock hands over to the other without a gap";
+    EXPECT_NEAR (clock.internal.getStartPpq(), host.ppq, 1e-12);
+    EXPECT_GT (clock.shared.positionPpq, host.ppq);
+}
+
+TEST (ClockSelection, DoesNotLoopItsOwnClockWithTheHost)
+{
+    TestPlayHead host{ 16.0 };
+    host.setLoop (0.0, 1.0);
+
+    Clock clock{ 16.0 };
+    clock.run (host, 4);
+    clock.shared.internalClock = true;
+    clock.run (host, 8);
+
+    EXPECT_EQ (clock.shared.positionPpq, 1.5);
+}
+
+TEST (ClockSelection, MovesTheInternalClockWhereTheEditorPutsIt)
+{
+    Clock clock;
+    clock.run (nullptr);
+    clock.shared.positionPpq = 0.0;
+    clock.shared.positionSamples = 0;
+    clock.run (nullptr);
+
+    EXPECT_TRUE (clock.internal.hasJumped());
+    EXPECT_EQ (clock.internal.getStartPpq(), 0.0);
+
+    clock.run (nullptr);
+    EXPECT_FALSE (clock.internal.hasJumped());
+}
+
+TEST (ClockSelection, TakesTheEditorsTempoFromAHostWithoutOne)
+{
+    TestPlayHead host{ 48000.0, 150.0 };
+    host.edit = [] (auto& position) { position.setBpm ({}); };
+
+    Clock clock;
+    clock.shared.bpm = 150.0f;
+    clock.run (host);
+
+    EXPECT_NEAR (clock.internal.getEndPpq(), host.ppq, 1e-12);
+    EXPECT_EQ (clock.shared.bpm, 150.0f);
+}
+
+TEST (TransportSlice, KeepsItsFlagsToTheBlocksFirstSample)
+{
+    TestPlayHead host;
+    host.jumpTo (16.0);
+    Clock clock;
+    clock.run (&host);
+
+    const TransportSlice block{ clock.internal };
+    const auto first = block.part ({ 0, 100 });
+    const auto later = block.part ({ 100, 1000 });
+    const auto nested = later.part ({ 12, 500 });
+
+    EXPECT_TRUE (block.jumped && block.stateChanged);
+    EXPECT_TRUE (first.jumped && first.stateChanged && first.clock().jumped && first.clock().stateChanged);
+    EXPECT_FALSE (later.jumped || later.stateChanged || later.clock().jumped || later.clock().stateChanged);
+    EXPECT_EQ (later.length, 412) << "cut off at the block's end";
+    EXPECT_EQ (nested.offset, 112);
+    EXPECT_EQ (nested.length, 400);
+    EXPECT_EQ (nested.clock().size(), 400);
+    EXPECT_EQ (nested.clock().ppq[0], clock.internal.getPpqBySample()[112]);
+}
+
+TEST (TransportSlice, AnswersAsAPlayHeadForItsOwnFirstSample)
+{
+    TestPlayHead host;
+    host.jumpTo (16.0);
+    Clock clock;
+    clock.run (&host);
+
+    for (auto offset : { 0, 100, 512 })
+    {
+        const TransportSlice slice{ clock.internal, { offset, 8 } };
+        const auto position = *slice.playHead.getPosition();
+
+        EXPECT_NEAR (*position.getPpqPosition(), 16.0 + offset * host.ppqPerSample(), 1e-9);
+        EXPECT_EQ (*position.getBpm(), 120.0);
+        EXPECT_EQ (*position.getTimeInSamples(), clock.internal.getTimeInSamples() + offset);
+        EXPECT_TRUE (position.getIsPlaying());
+    }
+}
+} // namespace
+} // namespace Zn::Audio
