@@ -2,6 +2,7 @@
 
 #include <array>
 #include <atomic>
+#include <cstddef>
 
 namespace Zn
 {
@@ -34,7 +35,7 @@ private:
     static constexpr int next (int index) noexcept { return (index + 1) % N; }
     static constexpr int previous (int index) noexcept { return (index + N - 1) % N; }
 
-    std::array<T, N> frames{};
+    std::array<T, static_cast<std::size_t> (N)> frames{};
     std::atomic<int> writeIndex{ 1 }; // written: writer, read: reader
     std::atomic<int> readIndex{ 0 };  // written: reader, read: writer
 };
