@@ -1,0 +1,22 @@
+#pragma once
+
+#include <juce_audio_basics/juce_audio_basics.h>
+
+namespace Zn::Midi
+{
+// What a block does to its MIDI before anything listens. Each function collects its result in a scratch
+// buffer and swaps it with the one it is given, so that nothing is copied twice. Thread: audio.
+
+/** Keeps messages of exactly three bytes, and moves a sample outside the block to its nearest end: hosts send
+    such events, and all that follows relies on the range. A block has at least one sample.
+*/
+void keepThreeByteMessages (juce::MidiBuffer& scratch, juce::MidiBuffer& buffer, int numSamples) noexcept;
+
+/** Moves every message that has a channel to channel 1. */
+void flattenChannels (juce::MidiBuffer& scratch, juce::MidiBuffer& buffer) noexcept;
+
+/** Leaves notes and the sustain pedal (controller 64) in the buffer, and everything else in `others`. */
+void splitNotesAndPedal (juce::MidiBuffer& scratch,
+                         juce::MidiBuffer& others,
+                         juce::MidiBuffer& buffer) noexcept;
+} // namespace Zn::Midi
