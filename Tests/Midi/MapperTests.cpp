@@ -1,0 +1,145 @@
+#include "Midi/Mapper/NoteLimitProcessor.h"
+#include "Midi/Mapper/TransposeProcessor.h"
+#include "Support/MidiText.h"
+#include "Support/NoteStreams.h"
+
+#include <gtest/gtest.h>
+
+using namespace Zn::Midi;
+using namespace Zn::Test;
+
+namespace
+{
+std::string through (Mapper::NoteModifierProcessor& processor, std::string_view input)
+{
+    auto buffer = events (input);
+    processor.process (buffer);
+    return text (buffer);
+}
+
+juce::MidiBuffer allNotes (int status, int sample)
+{
+    juce::MidiBuffer result;
+
+    for (auto note = 0; note < 128; ++note)
+        result.addEvent (juce::MidiMessage (status, note, 90), sample);
+
+    return result;
+}
+} // namespace
+
+TEST (Transpose, MovesNotesAndNothingElse)
+{
+    Mapper::TransposeProcessor transpose;
+    transpose.setSemitones (7);
+
+    EXPECT_EQ (through (transpose, "on 60 v1 @0, cc 1 2 @1, off 60 v99 @9"),
+               "on 67 v1 @0, cc 1 2 @1, off 67 v1 @9");
+    EXPECT_EQ (through (transpose, "on 125 ch4 @0, on 125 v0 ch4 @1"), "on 127 ch4 @0, off 127 v100 ch4 @1");
+
+    transpose.setSemitones (-100);
+    EXPECT_EQ (through (transpose, "on 60 @0, off 60 @1"), "on 0 @0, off 0 v100 @1");
+}
+
+TEST (Transpose, KeepsEveryVelocity)
+{
+    Mapper::TransposeProcessor transpose;
+
+    for (auto velocity = 1; velocity < 128; ++velocity)
+    {
+        const auto on = "on 60 v" + std::to_string (velocity) + " ch2 @0";
+        EXPECT_EQ (through (transpose, on), velocity == 100 ? "on 60 ch2 @0" : on);
+        through (transpose, "off 60 @0");
+    }
+}
+
+TEST (Transpose, RestartsWhatSoundsWhenTheAmountChanges)
+{
+    Mapper::TransposeProcessor transpose;
+    EXPECT_EQ (through (transpose, "on 60 v80 ch2 @3, on 64 @4"), "on 60 v80 ch2 @3, on 64 @4");
+
+    transpose.setSemitones (12);
+    EXPECT_EQ (through (transpose, "off 60 @0"),
+               "off 60 v80 ch2 @0, off 64 v100 @0, on 72 v80 ch2 @0, on 76 @0, off 72 v80 ch2 @0");
+
+    transpose.setSemitones (12);
+    EXPECT_EQ (through (transpose, ""), "");
+    EXPECT_EQ (through (transpose, "off 64 @5"), "off 76 v100 @5");
+
+    transpose.setSemitones (0);
+    EXPECT_EQ (through (transpose, ""), "");
+}
+
+TEST (NoteModifier, EndsAKeyThatIsPressedTwiceAndDropsLiftsWithoutAPress)
+{
+    Mapper::TransposeProcessor transpose;
+
+    EXPECT_EQ (through (transpose, "off 60 @0, on 60 @1, on 60 v50 @2, off 60 @3, off 60 @4"),
+               "on 60 @1, off 60 v100 @2, on 60 v50 @2, off 60 v50 @3");
+}
+
+TEST (NoteLimit, MovesNotesToTheNearerEnd)
+{
+    Mapper::NoteLimitProcessor limit;
+    limit.setLimits ({ 48, 72 });
+    EXPECT_EQ (through (limit, "on 47 @0, on 60 @1, on 72 @2, on 73 @3"),
+               "on 48 @0, on 60 @1, on 72 @2, on 72 @3");
+
+    limit.setLimits ({ 72, 48 });
+    EXPECT_EQ (limit.map (71), 72);
+    EXPECT_EQ (limit.map (72), 48);
+}
+
+TEST (NoteModifier, StaysBalancedWhileItsRuleChanges)
+{
+    for (auto seed = 0; seed < 20; ++seed)
+    {
+        Mapper::TransposeProcessor transpose;
+        Mapper::NoteLimitProcessor limit;
+        juce::Random random (seed);
+
+        const auto output = inBlocks (randomPlaying (seed, { .lowestNote = 50, .highestNote = 60 }),
+                                      randomBlocks (seed, 4000),
+                                      [&] (juce::MidiBuffer& block) {
+                                          transpose.setSemitones (random.nextInt ({ -80, 80 }));
+                                          limit.setLimits ({ random.nextInt (128), random.nextInt (129) });
+                                          transpose.process (block);
+                                          limit.process (block);
+                                      });
+
+        EXPECT_EQ (unbalanced (output), "") << "seed " << seed;
+        EXPECT_EQ (stillSounding (output), "") << "seed " << seed;
+        EXPECT_FALSE (output.isEmpty());
+    }
+}
+
+TEST (NoteModifier, HoldsAllKeysAtOnce)
+{
+    Mapper::TransposeProcessor transpose;
+    auto pressed = allNotes (0x90, 0), changed = juce::MidiBuffer(), released = allNotes (0x80, 5);
+
+    transpose.process (pressed);
+    transpose.setSemitones (1);
+    transpose.process (changed);
+    transpose.process (released);
+
+    EXPECT_EQ (changed.getNumEvents(), 256);
+
+    auto all = pressed;
+    all.addEvents (changed, 0, -1, 100);
+    all.addEvents (released, 0, -1, 200);
+    EXPECT_EQ (unbalanced (all), "");
+}
+
+TEST (NoteModifier, GivesTheSameNotesHoweverTheBlockIsCut)
+{
+    const auto input = randomPlaying (1);
+    const auto play = [&] (const std::vector<int>& blocks) {
+        Mapper::TransposeProcessor transpose;
+        transpose.setSemitones (5);
+        return text (inBlocks (input, blocks, [&] (juce::MidiBuffer& block) { transpose.process (block); }));
+    };
+
+    for (auto seed = 0; seed < 10; ++seed)
+        EXPECT_EQ (play (randomBlocks (seed, 4000)), play ({ 4000 })) << "seed " << seed;
+}
