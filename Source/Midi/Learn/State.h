@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Midi/Learn/Handler.h"
+#include "Midi/Learn/LearnerRecord.h"
+
+#include <memory>
+#include <vector>
+
+namespace Zn::Midi::Learn
+{
+/** The learn table as one frame of a ring. The frames share the handlers, so that none dies in the audio
+    thread's hands: the writer releases a frame's old handlers when it fills it anew.
+*/
+struct State
+{
+    LearnerRecord* learner = nullptr; // null as if idle; outlives the ring
+    std::vector<std::shared_ptr<Handler>> handlers;
+};
+} // namespace Zn::Midi::Learn
