@@ -1,0 +1,194 @@
+#include "Plugin/Transport/LV2Clock.h"
+
+#include "Plugin/Transport/InternalPlayHead.h"
+
+#include <cmath>
+
+namespace Zn::Audio
+{
+namespace
+{
+constexpr auto secondsPerMinute = 60.0;
+constexpr auto quartersPerWhole = 4.0;
+constexpr auto fastestSpeed = 100.0; // winding, at most
+constexpr auto highestMeter = 256.0; // both numbers of a time signature
+constexpr auto farthest = 1.0e15;    // samples or quarter notes; what lies beyond is nonsense
+
+// Bars and beats come in single precision.
+constexpr auto beatTolerance = 1.0e-3;
+
+bool isBetween (double low, std::optional<double> value, double high) noexcept
+{
+    return value.has_value() && low <= *value && *value <= high; // false for NaN
+}
+
+std::optional<double> ifUsable (std::optional<double> value) noexcept
+{
+    return isBetween (-farthest, value, farthest) ? value : std::nullopt;
+}
+
+std::optional<double> ifUsable (std::optional<std::int64_t> value) noexcept
+{
+    return value.has_value() ? ifUsable (std::optional{ static_cast<double> (*value) }) : std::nullopt;
+}
+
+bool isWhole (double beats) noexcept
+{
+    return std::abs (beats - std::round (beats)) < beatTolerance;
+}
+
+struct MusicalPosition
+{
+    std::optional<double> ppq, barStartPpq; // quarter notes
+};
+
+/** Where a message puts the song. The running count of beats is best, as bars times beats overlooks that the
+   time signature may have changed on the way. But some hosts round it to whole beats, and not all agree on
+   its unit: where it contradicts the beat within the bar, or the beat is no quarter note, bar and beat tell
+   the place.
+*/
+MusicalPosition musicalPositionOf (const LV2Position& message, double beatsPerBar, int beatUnit) noexcept
+{
+    const auto beat = ifUsable (message.beat);
+    const auto barBeat = ifUsable (message.barBeat);
+    const auto bar = ifUsable (message.bar);
+    const auto ppqPerBeat = quartersPerWhole / beatUnit;
+    const auto isBeatExact = beat && (! barBeat || (ppqPerBeat == 1.0 && isWhole (*beat - *barBeat)));
+
+    if (isBeatExact)
+        return { *beat, barBeat ? std::optional{ *beat - *barBeat } : std::nullopt };
+
+    if (! bar || ! barBeat)
+        return { beat, {} };
+
+    const auto barStart = *bar * beatsPerBar * ppqPerBeat;
+    return { barStart + *barBeat * ppqPerBeat, barStart };
+}
+} // namespace
+
+void LV2Clock::prepare (double newSampleRate) noexcept
+{
+    *this = {};
+    sampleRate = newSampleRate > 0.0 ? newSampleRate : sampleRate;
+}
+
+void LV2Clock::receive (const LV2Position& message, int offset) noexcept
+{
+    samplesSince += offset;
+    const auto oldFrame = getFrame();
+    const auto oldPpq = getPpq();
+    samplesSince = -offset;
+
+    hasMessage = true;
+    takeOverRates (message);
+
+    const auto [newPpq, newBarStart] = musicalPositionOf (message, beatsPerBar, beatUnit);
+    const auto newFrame = ifUsable (message.frame);
+    const auto rate = getPpqPerSample();
+
+    if (newPpq)
+        barStartPpq = newBarStart;
+
+    anchorFrame = newFrame ? newFrame : oldFrame;
+    anchorPpq = newPpq ? newPpq : oldPpq;
+
+    // One of the two alone moves the other along.
+    if (newFrame && ! newPpq && rate > 0.0)
+        anchorPpq = oldPpq && oldFrame ? *oldPpq + (*newFrame - *oldFrame) * rate : *newFrame * rate;
+
+    if (newPpq && ! newFrame && rate > 0.0)
+        anchorFrame = oldPpq && oldFrame ? *oldFrame + (*newPpq - *oldPpq) / rate : *newPpq / rate;
+}
+
+void LV2Clock::takeOverRates (const LV2Position& message) noexcept
+{
+    if (isBetween (-fastestSpeed, message.speed, fastestSpeed))
+        speed = *message.speed;
+
+    if (message.beatsPerMinute && InternalPlayHead::isUsableTempo (*message.beatsPerMinute))
+        tempo = message.beatsPerMinute;
+
+    if (const auto unit = ifUsable (message.beatUnit); isBetween (1.0, unit, highestMeter))
+        beatUnit = static_cast<int> (*unit);
+
+    if (isBetween (1.0, message.beatsPerBar, highestMeter))
+    {
+        beatsPerBar = *message.beatsPerBar;
+        hasTimeSignature = true;
+    }
+}
+
+void LV2Clock::advance (int numSamples) noexcept
+{
+    samplesSince += numSamples;
+}
+
+/** The tempo that is heard: a song at another speed has another tempo. */
+std::optional<double> LV2Clock::getTempo() const noexcept
+{
+    return tempo && isMoving() ? std::optional{ *tempo * speed } : tempo;
+}
+
+double LV2Clock::getPpqPerSample() const noexcept
+{
+    return tempo ? *tempo / (sampleRate * secondsPerMinute) : 0.0;
+}
+
+std::optional<double> LV2Clock::getFrame() const noexcept
+{
+    if (! anchorFrame || ! isMoving())
+        return anchorFrame;
+
+    return *anchorFrame + static_cast<double> (samplesSince) * speed;
+}
+
+/** Without a tempo the quarter notes are known only where a message put them. */
+std::optional<double> LV2Clock::getPpq() const noexcept
+{
+    if (! anchorPpq || ! isMoving() || samplesSince == 0)
+        return anchorPpq;
+
+    if (! tempo)
+        return std::nullopt;
+
+    return *anchorPpq + static_cast<double> (samplesSince) * speed * getPpqPerSample();
+}
+
+double LV2Clock::barStartBefore (double ppq) const noexcept
+{
+    const auto ppqPerBar = beatsPerBar * quartersPerWhole / beatUnit;
+    return *barStartPpq + std::floor ((ppq - *barStartPpq) / ppqPerBar) * ppqPerBar;
+}
+
+juce::Optional<juce::AudioPlayHead::PositionInfo> LV2Clock::getPosition() const noexcept
+{
+    if (! hasMessage)
+        return {};
+
+    juce::AudioPlayHead::PositionInfo position;
+    position.setIsPlaying (isMoving());
+
+    if (const auto heardTempo = getTempo())
+        position.setBpm (*heardTempo);
+
+    if (const auto ppq = getPpq())
+    {
+        position.setPpqPosition (*ppq);
+
+        if (barStartPpq)
+            position.setPpqPositionOfLastBarStart (barStartBefore (*ppq));
+    }
+
+    if (const auto frame = getFrame())
+    {
+        position.setTimeInSamples (std::llround (*frame));
+        position.setTimeInSeconds (*frame / sampleRate);
+    }
+
+    if (hasTimeSignature)
+        position.setTimeSignature (
+            juce::AudioPlayHead::TimeSignature{ juce::roundToInt (beatsPerBar), beatUnit });
+
+    return position;
+}
+} // namespace Zn::Audio
