@@ -10,6 +10,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <typeinfo>
 
 namespace Zn
 {
@@ -166,12 +167,30 @@ void ChildContainerSerializer<Container>::reflect (Reflector& r)
 
 namespace Serializing
 {
-/** Reflects a polymorphic member under the key `name` of its concrete type.
+/** Reflects a polymorphic member under a key that names its concrete type, and tells whether it did.
 
     Saving: nothing is written unless the member's dynamic type is exactly Concrete. Loading: when the key is
-    there, a new Concrete replaces what the pointer held and then reflects itself; returns true.
+    there, a new Concrete replaces what the pointer held and then reflects itself. Of several types the first
+    that is present wins: `addPoly<A> (r, "A", child) || addPoly<B> (r, "B", child)`.
 */
 template <typename Concrete, typename OwningPointer>
-bool addPoly (Reflector& r, const std::string& name, OwningPointer& pointer);
+bool addPoly (Reflector& r, const std::string& name, OwningPointer& pointer)
+{
+    const auto isConcrete = [] (const auto& object) { return typeid (object) == typeid (Concrete); };
+
+    if (! r.isLoading() && (pointer == nullptr || ! isConcrete (*pointer)))
+        return false;
+
+    auto* child = r.getChild (name);
+
+    if (child == nullptr)
+        return false;
+
+    if (r.isLoading())
+        pointer = std::make_unique<Concrete>();
+
+    pointer->reflect (*child);
+    return true;
+}
 } // namespace Serializing
 } // namespace Zn

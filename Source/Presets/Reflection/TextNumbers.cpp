@@ -17,7 +17,7 @@ constexpr bool isDigit (char c) noexcept
 std::string_view withoutLeadingBlanks (std::string_view text) noexcept
 {
     const auto start = text.find_first_not_of (" \t\n\v\f\r");
-    return start == std::string_view::npos ? std::string_view{} : text.substr (start);
+    return start == std::string_view::npos ? std::string_view {} : text.substr (start);
 }
 
 template <typename Number>
@@ -35,7 +35,7 @@ Number numberFromText (std::string_view text, const std::string& converter)
     if (text.starts_with ('+')) // which from_chars does not know
         text = unsignedText;
 
-    Number number{};
+    Number number {};
     const auto result = std::from_chars (text.data(), text.data() + text.size(), number);
 
     if (result.ec == std::errc::result_out_of_range)

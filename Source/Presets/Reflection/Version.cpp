@@ -8,7 +8,7 @@ namespace Zn
 {
 Version Version::fromText (std::string_view text) noexcept
 {
-    std::array<int, 3> numbers{};
+    std::array<int, 3> numbers {};
     const auto* position = text.data();
     const auto* const end = position + text.size();
 
@@ -25,7 +25,7 @@ Version Version::fromText (std::string_view text) noexcept
         position = result.ptr;
     }
 
-    return position == end ? Version{ numbers[0], numbers[1], numbers[2] } : Version{};
+    return position == end ? Version { numbers[0], numbers[1], numbers[2] } : Version {};
 }
 
 std::string Version::toText() const

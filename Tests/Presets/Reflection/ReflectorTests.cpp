@@ -66,17 +66,17 @@ const auto none = ReflectedValue (std::monostate());
 TEST (Reflector, LeavesEveryKindOfFieldAloneWhenThereIsNoValue)
 {
     EXPECT_EQ (loaded (none, true), true);
-    EXPECT_EQ (loaded (none, std::int32_t{ 7 }), 7);
+    EXPECT_EQ (loaded (none, std::int32_t { 7 }), 7);
     EXPECT_EQ (loaded (none, 0.5), 0.5);
     EXPECT_EQ (loaded (none, 0.5f), 0.5f);
     EXPECT_EQ (loaded (none, std::string ("kept")), "kept");
     EXPECT_EQ (loaded (none, juce::String ("kept")), juce::String ("kept"));
-    EXPECT_EQ (loaded (none, Version{ 1, 2, 3 }), (Version{ 1, 2, 3 }));
+    EXPECT_EQ (loaded (none, Version { 1, 2, 3 }), (Version { 1, 2, 3 }));
 }
 
 TEST (Reflector, ReadsABooleanFromAnyScalar)
 {
-    const std::vector<std::pair<ReflectedValue, bool>> table{
+    const std::vector<std::pair<ReflectedValue, bool>> table {
         { true, true },         { false, false },        { integer (1), true },
         { integer (0), false }, { integer (-3), false }, { integer (2), true },
         { 0.9, false },         { 1.0, true },           { text ("0"), false },
@@ -93,7 +93,7 @@ TEST (Reflector, ReadsAnIntegerFromAnyScalarWithinItsRange)
     constexpr auto highest = std::numeric_limits<std::int32_t>::max();
     constexpr auto lowest = std::numeric_limits<std::int32_t>::min();
 
-    const std::vector<std::pair<ReflectedValue, std::int32_t>> table{
+    const std::vector<std::pair<ReflectedValue, std::int32_t>> table {
         { integer (-12), -12 },
         { integer (3'000'000'000), highest },
         { integer (-3'000'000'000), lowest },
@@ -107,12 +107,12 @@ TEST (Reflector, ReadsAnIntegerFromAnyScalarWithinItsRange)
     };
 
     for (std::size_t row = 0; row < table.size(); ++row)
-        EXPECT_EQ (loaded (table[row].first, std::int32_t{ 99 }), table[row].second) << "row " << row;
+        EXPECT_EQ (loaded (table[row].first, std::int32_t { 99 }), table[row].second) << "row " << row;
 }
 
 TEST (Reflector, ReadsAFractionFromAnyScalar)
 {
-    const std::vector<std::pair<ReflectedValue, double>> table{
+    const std::vector<std::pair<ReflectedValue, double>> table {
         { integer (3), 3.0 },         { 0.25, 0.25 },         { true, 1.0 },
         { text ("-3.19 dB"), -3.19 }, { text (" +.5"), 0.5 }, { text ("1e3x"), 1000.0 },
         { text ("2e"), 2.0 },         { text ("0,5"), 0.0 },
@@ -150,7 +150,7 @@ TEST (Reflector, TakesTextOnlyFromText)
     for (const auto& number : { integer (5), ReflectedValue (0.5), ReflectedValue (true) })
     {
         EXPECT_EQ (loaded (number, std::string ("kept")), "kept");
-        EXPECT_EQ (loaded (number, Version{ 1, 2, 3 }), (Version{ 1, 2, 3 }));
+        EXPECT_EQ (loaded (number, Version { 1, 2, 3 }), (Version { 1, 2, 3 }));
     }
 }
 
@@ -163,16 +163,16 @@ TEST (Reflector, SavesEachFieldUnderItsTag)
     };
 
     EXPECT_EQ (saved (true), ReflectedValue (true));
-    EXPECT_EQ (saved (std::int32_t{ -4 }), integer (-4));
+    EXPECT_EQ (saved (std::int32_t { -4 }), integer (-4));
     EXPECT_EQ (saved (0.8f), ReflectedValue (0.800000011920929)) << "a float keeps its own value";
     EXPECT_EQ (saved (juce::String ("Bass")), text ("Bass"));
-    EXPECT_EQ (saved (Version{ 0, 7, 3 }), text ("0.7.3"));
+    EXPECT_EQ (saved (Version { 0, 7, 3 }), text ("0.7.3"));
 }
 
 TEST (Version, IsThreeNumbersOrNothing)
 {
-    EXPECT_EQ (Version::fromText ("0.5.3"), (Version{ 0, 5, 3 }));
-    EXPECT_EQ (Version::fromText ("10.20.30"), (Version{ 10, 20, 30 }));
+    EXPECT_EQ (Version::fromText ("0.5.3"), (Version { 0, 5, 3 }));
+    EXPECT_EQ (Version::fromText ("10.20.30"), (Version { 10, 20, 30 }));
     EXPECT_LT (Version::fromText ("0.9.9"), Version::fromText ("0.10.0"));
 
     for (const auto* malformed : { "",
