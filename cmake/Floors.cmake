@@ -28,6 +28,6 @@ function (zn_add_tests name)
 
     add_executable (${name} ${TESTS_SOURCES})
     target_include_directories (${name} PRIVATE "${PROJECT_SOURCE_DIR}/Tests")
-    target_link_libraries (${name} PRIVATE ${TESTS_LINKS} zn_test_support zn_warnings GTest::gmock)
+    target_link_libraries (${name} PRIVATE ${TESTS_LINKS} zn_test_support zn_real_time_guard zn_warnings GTest::gmock)
     gtest_discover_tests (${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()

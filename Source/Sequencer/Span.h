@@ -14,8 +14,11 @@ struct Span
     /** Just past the span's last moment; never ahead of its start. */
     constexpr double end() const noexcept { return std::max (start + length, start); }
 
-    /** Loading limits both fields to a range in which sums and products of them stay finite. */
-    void reflect (Reflector& r);
+    void reflect (Reflector& r)
+    {
+        r.add ("start", start);
+        r.add ("length", length);
+    }
 
     constexpr bool operator== (const Span&) const = default;
 };
