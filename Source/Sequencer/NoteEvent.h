@@ -15,7 +15,7 @@ struct NoteEvent
     int channel = 1;         // 1..16
 
     /** Reads and writes `noteNum`, `velocity` and `channel` only; a step keeps the rest (TimedNote). A
-       velocity may also come as text; text that is no number loads as 0.
+        velocity may also come as text; text that is no number loads as 0.
     */
     void reflect (Reflector& r);
 

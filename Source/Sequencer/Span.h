@@ -14,11 +14,8 @@ struct Span
     /** Just past the span's last moment; never ahead of its start. */
     constexpr double end() const noexcept { return std::max (start + length, start); }
 
-    void reflect (Reflector& r)
-    {
-        r.add ("start", start);
-        r.add ("length", length);
-    }
+    /** Loading limits both fields to a range in which sums and products of them stay finite. */
+    void reflect (Reflector& r);
 
     constexpr bool operator== (const Span&) const = default;
 };

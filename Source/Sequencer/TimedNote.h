@@ -13,8 +13,8 @@ struct TimedNote
     bool enabled = false; // a disabled note is kept but does not sound
 
     /** Keys `enabled`, `Time`, `Event`, and `Play` {`chance`, `spreadLow`, `spreadHigh`}, which is written
-       only when one of its three differs from its default. Loading sets the three to their defaults first, so
-       that a list that is read in place never keeps another note's chance.
+        only when one of its three differs from its default. Loading sets the three to their defaults first, so
+        that a list that is read in place never keeps another note's chance.
     */
     void reflect (Reflector& r);
 
