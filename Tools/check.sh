@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Everything a change is judged by, quickest first: format, layers, build and tests.
+# Everything a change is judged by, quickest first: format, layers, build and tests; with the word `tidy` clang-tidy too.
 set -euo pipefail
 
 # shellcheck source=Tools/build.sh
@@ -12,3 +12,8 @@ git -C "$root" ls-files -z -- '*.h' '*.cpp' \
 
 python3 "$root/Tools/check_layers.py"
 "$root/test"
+
+if [[ ${1:-} == tidy ]]; then
+    "$root/Tools/install_dependencies.sh" tidy
+    run-clang-tidy-14 -quiet -p "$root/build/release" "^$root/(Source|Tests|Tools|Benchmarks)/"
+fi
