@@ -19,58 +19,50 @@ BoolParam::BoolParam (ParamList& list,
                       const juce::String& id,
                       bool isOnByDefault,
                       const juce::String& displayName)
-    : ParamHolder (id, nameOr (displayName, id), isOnByDefault, Parameters::onOff())
-{
-    list.addParam (*this);
-}
+    : ListedParam (list, id, nameOr (displayName, id), isOnByDefault, Parameters::onOff())
+{}
 
 IntParam::IntParam (ParamList& list,
                     const juce::String& id,
                     IntRange range,
                     int defaultValue,
                     const juce::String& displayName)
-    : ParamHolder (id,
+    : ListedParam (list,
+                   id,
                    nameOr (displayName, id),
                    range.minimum,
                    range.maximum,
                    defaultValue,
                    Parameters::wholeNumbers (range.minimum, range.maximum))
-{
-    list.addParam (*this);
-}
+{}
 
 FloatParam::FloatParam (ParamList& list,
                         const juce::String& id,
                         FloatRange range,
                         float defaultValue,
                         const juce::String& displayName)
-    : ParamHolder (id,
+    : ListedParam (list,
+                   id,
                    nameOr (displayName, id),
                    juce::NormalisableRange<float> (range.minimum, range.maximum), // no steps: see decimals()
                    defaultValue,
                    Parameters::decimals())
-{
-    list.addParam (*this);
-}
+{}
 
 ChoiceParam::ChoiceParam (ParamList& list,
                           const juce::String& id,
                           const juce::StringArray& choices,
                           int defaultIndex,
                           const juce::String& displayName)
-    : ParamHolder (id, nameOr (displayName, id), choices, defaultIndex)
-{
-    list.addParam (*this);
-}
+    : ListedParam (list, id, nameOr (displayName, id), choices, defaultIndex)
+{}
 
 VolumeParam::VolumeParam (ParamList& list,
                           const juce::String& id,
                           float maxDecibels,
                           float defaultDecibels,
                           const juce::String& displayName)
-    : ParamHolder (
-        id, nameOr (displayName, id), silenceDecibels, maxDecibels, defaultDecibels, middleDecibels)
-{
-    list.addParam (*this);
-}
+    : ListedParam (
+        list, id, nameOr (displayName, id), silenceDecibels, maxDecibels, defaultDecibels, middleDecibels)
+{}
 } // namespace Zn::Audio

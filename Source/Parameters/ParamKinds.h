@@ -11,7 +11,7 @@
 namespace Zn::Audio
 {
 /** A switch, shown as "On" and "Off". */
-struct BoolParam : ParamHolder<juce::AudioParameterBool>
+struct BoolParam : ListedParam<juce::AudioParameterBool>
 {
     BoolParam (ParamList& list,
                const juce::String& id,
@@ -27,7 +27,7 @@ struct IntRange
 };
 
 /** A whole number. */
-struct IntParam : ParamHolder<juce::AudioParameterInt>
+struct IntParam : ListedParam<juce::AudioParameterInt>
 {
     IntParam (ParamList& list,
               const juce::String& id,
@@ -44,7 +44,7 @@ struct FloatRange
 };
 
 /** A number without steps, shown with two decimals. */
-struct FloatParam : ParamHolder<juce::AudioParameterFloat>
+struct FloatParam : ListedParam<juce::AudioParameterFloat>
 {
     FloatParam (ParamList& list,
                 const juce::String& id,
@@ -56,7 +56,7 @@ struct FloatParam : ParamHolder<juce::AudioParameterFloat>
 };
 
 /** One of a list of texts. A text that is not in the list reads as the first. */
-struct ChoiceParam : ParamHolder<juce::AudioParameterChoice>
+struct ChoiceParam : ListedParam<juce::AudioParameterChoice>
 {
     ChoiceParam (ParamList& list,
                  const juce::String& id,
@@ -68,7 +68,7 @@ struct ChoiceParam : ParamHolder<juce::AudioParameterChoice>
 };
 
 /** Decibels, from silence at -100 dB; reads as a linear gain. -12 dB stands in the middle of the control. */
-struct VolumeParam : ParamHolder<VolumeParameter>
+struct VolumeParam : ListedParam<VolumeParameter>
 {
     VolumeParam (ParamList& list,
                  const juce::String& id,

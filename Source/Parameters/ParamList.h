@@ -9,8 +9,8 @@ namespace Zn::Audio
 {
 /** A named group of parameters and of further groups, which presets save as an object.
 
-    Declaring is listing: a struct derived from it has holders (see ParamKinds.h) as members, each of which joins
-    the list when it is constructed. Holders and groups must outlive the list's last use. Thread: message.
+    Declaring is listing: a struct derived from it has holders (ListedParam, and the kinds of ParamKinds.h) as
+    members, each of which joins the list when it is constructed. Holders and groups must outlive the list's last use. Thread: message.
 */
 class ParamList
 {
@@ -39,5 +39,17 @@ public:
 private:
     std::vector<NamedHolder> params;
     std::vector<NamedChild> children;
+};
+
+/** A holder that joins the list it is declared in. */
+template <typename T>
+struct ListedParam : ParamHolder<T>
+{
+    template <typename... Arguments>
+    ListedParam (ParamList& list, const juce::String& id, Arguments&&... arguments)
+        : ParamHolder<T> (id, std::forward<Arguments> (arguments)...)
+    {
+        list.addParam (*this);
+    }
 };
 } // namespace Zn::Audio
