@@ -47,7 +47,7 @@ FLOORS = (
     Floor("Presets/Reflection", (), ("core",), ("nlohmann",)),
     Floor("Midi", FOUNDATIONS, MIDI),
     Floor("Parameters", FOUNDATIONS, HOSTED),
-    Floor("Sequencer", MODELS, MIDI),
+    Floor("Sequencer", MODELS, HOSTED),
     Floor("Synth", (*MODELS, "Synth/Kernels"), SOUND),
     Floor("Presets", MODELS, EVENTS, ("nlohmann",)),
     Floor("Plugin/Transport", ENGINES, MIDI),
@@ -55,7 +55,7 @@ FLOORS = (
     Floor("Plugin/Vornel", BASES, (*HOSTED, "dsp"), ("nlohmann",)),
     Floor("GUI/Framework", FOUNDATIONS, WINDOWS, ("nlohmann",)),
     Floor("GUI", (*PLUGIN, "GUI/Framework"), (*WINDOWS, *HOSTED)),
-    Floor("Plugin/Host", EVERYTHING, (*WINDOWS, *HOSTED, "audio_plugin_client", "audio_utils"), ("lv2",)),
+    Floor("Plugin/Host", EVERYTHING, (*WINDOWS, *HOSTED, "audio_utils"), ("lv2", "juce_audio_plugin_client")),
 )
 
 OUT_OF_REACH = re.compile(
@@ -108,6 +108,9 @@ def fault_of_own_include(floor, target, sources):
 def fault_of_library_include(floor, target):
     library = target.split("/")[0]
 
+    if library in floor.libraries:
+        return None
+
     if library.startswith("juce_"):
         module = library.removeprefix("juce_")
 
@@ -116,7 +119,7 @@ def fault_of_library_include(floor, target):
 
         return None if module in floor.modules else f"{floor.folder} may not use {library}"
 
-    if "/" in target and library != "sys" and library not in floor.libraries:
+    if "/" in target and library != "sys":
         return f"{floor.folder} may not use <{target}>"
 
     return None
