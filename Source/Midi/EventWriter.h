@@ -11,7 +11,7 @@ namespace Zn::Midi
     juce::MidiBuffer::addEvent walks the whole buffer to find an event's place, so that a stage copying n
     events takes n * n steps; this one goes straight to the end and falls back on addEvent only for an event
     that is earlier than the last. The outcome is the same: sorted by sample, in the order of adding within
-   one sample. While a writer is in use nobody else may write to its buffer. Thread: audio.
+    one sample. While a writer is in use nobody else may write to its buffer. Thread: audio.
 */
 class EventWriter
 {

@@ -15,7 +15,7 @@ public:
     /** Follows a note-on or note-off, and tells whether the pitch table has to be rebuilt.
 
         In key mode every note does that. Otherwise lifting one key of a chord does not, so that a pattern
-       keeps its pitches while the hand moves on; only a new key or the lift of the last one does.
+        keeps its pitches while the hand moves on; only a new key or the lift of the last one does.
     */
     [[nodiscard]] bool follow (const Event& note, bool keyMode) noexcept;
 };

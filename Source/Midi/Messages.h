@@ -13,7 +13,7 @@ constexpr int allSoundOffController = 120;
 constexpr int allNotesOffController = 123;
 
 /** What our own buffers reserve, so that they never grow in a block: every note of every channel ended at
-   once takes 2048 events of 9 bytes, and a block's own events come on top.
+    once takes 2048 events of 9 bytes, and a block's own events come on top.
 */
 constexpr std::size_t reservedBufferBytes = 32768;
 

@@ -8,7 +8,7 @@ namespace Zn::Midi
 
     Closing flushes but does not block: what comes after a close still passes. The note-offs of a flush stand
     before every other event of sample 0, so that a key pressed there is not killed. A gate sees its own
-   source only: what else passes it would be flushed with it. Starts closed. Thread: audio.
+    source only: what else passes it would be flushed with it. Starts closed. Thread: audio.
 */
 class NoteGate
 {

@@ -10,7 +10,7 @@ namespace Zn::Midi
 /** Different notes (0..127) in the order in which they came.
 
     There are only 128, so the list has its place in the object and never needs the heap. What lies outside
-   the range is ignored. Thread: any.
+    the range is ignored. Thread: any.
 */
 class NoteList
 {

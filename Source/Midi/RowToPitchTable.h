@@ -11,10 +11,10 @@ namespace Zn::Midi
 
     Row 64 is the lowest held note; the rows above and below walk through the held notes, octave after octave.
     A limit of an octave or more moves a pitch by octaves until it is at least `low` and below `high`; a
-   narrower one cuts it off at `low` and `high`. Without held notes all rows are empty.
+    narrower one cuts it off at `low` and `high`. Without held notes all rows are empty.
 
     A value: two tables are equal when all rows, the held notes and the limits are. Copying takes what is in
-   use and leaves the rest. At 66 KB it belongs into an object or a ring, not on the audio thread's stack.
+    use and leaves the rest. At 66 KB it belongs into an object or a ring, not on the audio thread's stack.
     Thread: any.
 */
 class RowToPitchTable
