@@ -30,7 +30,7 @@ private:
     bool tryLock (int maxTries) noexcept;
     void unlock() noexcept { locked.store (false); }
 
-    std::atomic<bool> locked{ false }; // taken: both
+    std::atomic<bool> locked { false }; // taken: both
     std::array<ShortMessage, capacity> messages;
     int count = 0; // of messages
 };

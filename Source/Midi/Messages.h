@@ -20,7 +20,7 @@ constexpr std::size_t reservedBufferBytes = 32768;
 /** A message of three bytes: all that notes and controllers need. Thread: any. */
 struct ShortMessage
 {
-    std::array<std::uint8_t, 3> bytes{};
+    std::array<std::uint8_t, 3> bytes {};
 
     /** Channel 1..16, note and velocity 0..127; what lies outside is limited. */
     static constexpr ShortMessage noteOn (int channel, int note, int velocity) noexcept

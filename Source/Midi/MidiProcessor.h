@@ -25,7 +25,7 @@ protected:
     void emit (const ShortMessage& message, int sample) noexcept { writer.add (message, sample); }
 
     juce::MidiBuffer output;
-    EventWriter writer{ output };
+    EventWriter writer { output };
 };
 
 /** A stage that decides event by event: processEvent emits what is to take an event's place. Messages of more

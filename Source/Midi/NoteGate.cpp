@@ -61,7 +61,7 @@ void NoteGate::flush (EventWriter& out, int sample) noexcept
 {
     for (std::size_t channel = 0; channel < numChannels; ++channel)
         for (std::size_t note = 0; note < numNotes; ++note)
-            if (std::exchange (sounding[channel][note], std::uint8_t{ 0 }) != 0)
+            if (std::exchange (sounding[channel][note], std::uint8_t { 0 }) != 0)
                 out.add (ShortMessage::noteOff (static_cast<int> (channel) + 1, static_cast<int> (note)),
                          sample);
 }

@@ -37,7 +37,7 @@ private:
     static constexpr std::size_t numChannels = 16, numNotes = 128;
 
     bool open = false;
-    std::array<std::array<std::uint8_t, numNotes>, numChannels> sounding{}; // 1 where a note sounds
+    std::array<std::array<std::uint8_t, numNotes>, numChannels> sounding {}; // 1 where a note sounds
     juce::MidiBuffer output;
 };
 } // namespace Zn::Midi

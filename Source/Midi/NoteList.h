@@ -56,7 +56,7 @@ public:
 private:
     static bool isNote (int note) noexcept { return note >= 0 && note < maxSize; }
 
-    std::array<int, maxSize> notes{}; // those up to count are in use
+    std::array<int, maxSize> notes {}; // those up to count are in use
     int count = 0;
     std::bitset<maxSize> present;
 };

@@ -49,6 +49,6 @@ public:
 
 private:
     Ring ring;
-    std::atomic<std::int32_t> changeCount{ 0 }; // written: audio, read: GUI
+    std::atomic<std::int32_t> changeCount { 0 }; // written: audio, read: GUI
 };
 } // namespace Zn::Midi

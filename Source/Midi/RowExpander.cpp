@@ -10,7 +10,7 @@ void RowExpander::process (const juce::MidiBuffer& rows,
     for (const auto event : rows)
     {
         const auto sample = event.samplePosition + offset;
-        const Target target{ pitches, channelOf (event), sample };
+        const Target target { pitches, channelOf (event), sample };
 
         if (! isNote (event))
             pitches.add (event, sample);

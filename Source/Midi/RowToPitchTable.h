@@ -55,7 +55,7 @@ private:
         bool operator== (const Row& other) const noexcept;
 
         int count = 0;
-        std::array<int, maxPitchesPerRow> pitches{}; // those up to count are in use
+        std::array<int, maxPitchesPerRow> pitches {}; // those up to count are in use
     };
 
     std::array<Row, numRows> rows;

@@ -35,7 +35,7 @@ void flattenChannels (juce::MidiBuffer& scratch, juce::MidiBuffer& buffer) noexc
 
     for (const auto event : buffer)
     {
-        std::array<std::uint8_t, 3> message{};
+        std::array<std::uint8_t, 3> message {};
         const auto size = static_cast<std::size_t> (event.numBytes);
 
         if (! hasChannel (event) || size > message.size())

@@ -72,8 +72,8 @@ TEST (RowToPitchTable, FindsAPlaceWithinTheLimitsForEveryRow)
     for (auto round = 0; round < 200; ++round)
     {
         NoteList held;
-        const PitchLimits limits{ 12 * random.nextInt (5),
-                                  12 * (6 + random.nextInt (5)) - random.nextInt (6) };
+        const PitchLimits limits { 12 * random.nextInt (5),
+                                   12 * (6 + random.nextInt (5)) - random.nextInt (6) };
 
         for (auto i = 1 + random.nextInt (10); --i >= 0;)
             held.add (random.nextInt (128));
@@ -134,7 +134,7 @@ TEST (HeldNotes, HoldAllKeysAtOnce)
         held.add (note);
 
     EXPECT_EQ (held.size(), 128);
-    EXPECT_EQ (pitches (RowToPitchTable::from (held, wholeKeyboard), 63, 65), (std::vector{ 115, 0, 1 }));
+    EXPECT_EQ (pitches (RowToPitchTable::from (held, wholeKeyboard), 63, 65), (std::vector { 115, 0, 1 }));
 
     for (auto note = 0; note < 128; note += 2)
         held.remove (note);
@@ -163,7 +163,7 @@ TEST (PitchTableRing, ShowsTheNewestTableWithTheLimitsOfNow)
 TEST (PitchTableRing, NeverShowsATornTable)
 {
     const auto ring = std::make_unique<PitchTableRing>();
-    std::atomic<bool> done{ false };
+    std::atomic<bool> done { false };
 
     std::jthread audio ([&] {
         auto writer = ring->getWriter();

@@ -135,7 +135,7 @@ void writeEvent (std::ostream& out, const juce::MidiMessage& message, int sample
 juce::MidiBuffer events (std::string_view text)
 {
     juce::MidiBuffer buffer;
-    std::istringstream list{ std::string (text) };
+    std::istringstream list { std::string (text) };
 
     for (std::string event; std::getline (list, event, ',');)
         if (event.find_first_not_of (' ') != std::string::npos)

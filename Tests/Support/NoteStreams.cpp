@@ -35,7 +35,7 @@ juce::MidiMessage randomEvent (Random& random, const RandomPlaying& playing)
 
 std::string unbalanced (const juce::MidiBuffer& events)
 {
-    std::array<int, 128> ons{}, offs{};
+    std::array<int, 128> ons {}, offs {};
 
     for (const auto event : events)
     {
@@ -58,7 +58,7 @@ std::string unbalanced (const juce::MidiBuffer& events)
 
 std::string stillSounding (const juce::MidiBuffer& events)
 {
-    std::array<bool, 128> sounding{};
+    std::array<bool, 128> sounding {};
 
     for (const auto event : events)
         if (const auto message = event.getMessage(); message.isNoteOnOrOff())

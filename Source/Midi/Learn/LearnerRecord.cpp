@@ -11,7 +11,7 @@ bool LearnerRecord::offer (const Event& event) noexcept
         std::copy_n (event.data, message.bytes.size(), message.bytes.begin());
 
         // An exchange on condition: a learner that was stopped in the meantime must not come back to life.
-        if (auto expected = std::int32_t{ armed }; state.compare_exchange_strong (expected, captured))
+        if (auto expected = std::int32_t { armed }; state.compare_exchange_strong (expected, captured))
             ++changeCount;
     }
 

@@ -42,8 +42,8 @@ public:
     std::int32_t getChangeCount() const noexcept { return changeCount.load(); }
 
 private:
-    std::atomic<std::int32_t> state{ idle };    // written: both, see above
-    std::atomic<std::int32_t> changeCount{ 0 }; // written: audio, read: GUI
+    std::atomic<std::int32_t> state { idle };    // written: both, see above
+    std::atomic<std::int32_t> changeCount { 0 }; // written: audio, read: GUI
     ShortMessage message;
 };
 } // namespace Zn::Midi::Learn

@@ -14,6 +14,6 @@ public:
     bool isPedalDown() const noexcept { return isDown.load(); }
 
 private:
-    std::atomic<bool> isDown{ false }; // written: audio, read: any
+    std::atomic<bool> isDown { false }; // written: audio, read: any
 };
 } // namespace Zn::Midi::SustainPedal
