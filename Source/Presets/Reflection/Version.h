@@ -3,6 +3,7 @@
 #include <compare>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 namespace Zn
 {
@@ -16,6 +17,13 @@ struct Version
 
     std::string toText() const;
 
-    constexpr auto operator<=> (const Version&) const = default;
+    constexpr bool operator== (const Version&) const = default;
+
+    // Not defaulted: Clang 14 takes the zero in what it generates for a null pointer.
+    constexpr std::strong_ordering operator<=> (const Version& other) const noexcept
+    {
+        return std::tie (majorNumber, minorNumber, patchNumber)
+               <=> std::tie (other.majorNumber, other.minorNumber, other.patchNumber);
+    }
 };
 } // namespace Zn
