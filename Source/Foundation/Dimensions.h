@@ -6,7 +6,7 @@ namespace Zn
 template <typename T>
 struct Dimensions
 {
-    T width{}, height{};
+    T width {}, height {};
 
     constexpr bool operator== (const Dimensions&) const = default;
 };

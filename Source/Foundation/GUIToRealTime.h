@@ -35,9 +35,9 @@ private:
     static constexpr int next (int index) noexcept { return (index + 1) % N; }
     static constexpr int previous (int index) noexcept { return (index + N - 1) % N; }
 
-    std::array<T, static_cast<std::size_t> (N)> frames{};
-    std::atomic<int> writeIndex{ 1 }; // written: writer, read: reader
-    std::atomic<int> readIndex{ 0 };  // written: reader, read: writer
+    std::array<T, static_cast<std::size_t> (N)> frames {};
+    std::atomic<int> writeIndex { 1 }; // written: writer, read: reader
+    std::atomic<int> readIndex { 0 };  // written: reader, read: writer
 };
 
 template <typename T, int N>
@@ -61,8 +61,9 @@ public:
         ring.writeIndex.exchange (next (index));
     }
 
-    /** Sets every frame but the one that the reader holds to a value, then publishes it: nothing old stays
-     * alive. */
+    /** Sets every frame but the one that the reader holds to a value and publishes it: nothing old stays alive
+       in the others.
+    */
     void replaceAll (const T& value)
     {
         for (auto i = 0; i < N; ++i)

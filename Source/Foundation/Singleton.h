@@ -107,7 +107,7 @@ private:
             return ShutdownDeleter::Release::inReverseOrder;
     }
 
-    inline static std::atomic<T*> current{ nullptr };
+    inline static std::atomic<T*> current { nullptr };
     inline static juce::SpinLock firstUse;
 
     T object;

@@ -28,7 +28,7 @@ void publish (Ring::Writer writer, int value)
 /** A value long enough to be torn: all of its words are the same. */
 struct Wide
 {
-    std::array<int, 64> words{};
+    std::array<int, 64> words {};
 
     bool isWhole() const noexcept
     {

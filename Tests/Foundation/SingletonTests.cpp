@@ -48,7 +48,7 @@ struct Counted
     Counted() { ++built, ++alive; }
     ~Counted() { --alive; }
 
-    inline static std::atomic<int> built{ 0 }, alive{ 0 };
+    inline static std::atomic<int> built { 0 }, alive { 0 };
 };
 } // namespace
 
@@ -84,7 +84,7 @@ TEST (Singleton, IsBuiltAnewFromItsArgumentsForALaterUser)
 TEST (Singleton, ExistsOnceHoweverManyThreadsComeAndGo)
 {
     constexpr auto rounds = 300;
-    std::atomic<int> wrong{ 0 };
+    std::atomic<int> wrong { 0 };
 
     {
         std::vector<std::jthread> instances;

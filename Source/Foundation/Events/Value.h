@@ -26,6 +26,6 @@ public:
     }
 
 private:
-    T value{};
+    T value {};
 };
 } // namespace Zn::Events

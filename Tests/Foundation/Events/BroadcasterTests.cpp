@@ -60,7 +60,7 @@ TEST (Broadcaster, CallsEachListenerOnceTheNewestFirst)
 
 TEST (Broadcaster, DoesNotCallWhoHasLeftDuringTheCall)
 {
-    const std::array<std::vector<int>, 5> remaining{
+    const std::array<std::vector<int>, 5> remaining {
         { { 4, 3, 2, 1 }, { 4, 3, 2, 0 }, { 4, 3, 1, 0 }, { 4, 2, 1, 0 }, { 3, 2, 1, 0 } }
     };
 

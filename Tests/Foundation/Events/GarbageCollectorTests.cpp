@@ -19,8 +19,8 @@ using namespace std::chrono_literals;
 /** Tells when and on which thread it was freed. */
 struct Tombstone
 {
-    std::atomic<bool> freed{ false };
-    std::atomic<std::thread::id> freedOn{};
+    std::atomic<bool> freed { false };
+    std::atomic<std::thread::id> freedOn {};
 };
 
 struct Mortal
