@@ -1,0 +1,93 @@
+#pragma once
+
+#include "Sequencer/PatternEngine.h"
+#include "Support/MidiText.h"
+#include "Support/RenderedSteps.h"
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Zn::Test
+{
+/** An engine with a song to play against: a clock of an eighth of a quarter note for each sample, unless a test
+    sets another, and the patterns that a test draws.
+*/
+class EngineRig
+{
+public:
+    explicit EngineRig (Sequencer::RenderedSlot first = {})
+    {
+        engine.setSeed (1);
+        frame.liveSlots = std::make_shared<Sequencer::LiveSlots>();
+        frame.playHead = std::make_shared<Sequencer::PlayHead>();
+        draw (0, std::move (first));
+    }
+
+    /** Publishes a frame in which one slot is another. */
+    void draw (int slot, Sequencer::RenderedSlot pattern)
+    {
+        auto next = frame.patterns != nullptr ? std::make_shared<Sequencer::PatternData> (*frame.patterns)
+                                              : std::make_shared<Sequencer::PatternData>();
+        next->slots[static_cast<std::size_t> (slot)] = std::move (pattern);
+        frame.patterns = std::move (next);
+    }
+
+    void ask (int slot) { live().pending = slot; }
+    Sequencer::LiveSlots& live() { return *frame.liveSlots; }
+
+    void jumpTo (double newPpq)
+    {
+        ppq = newPpq;
+        jumped = true;
+    }
+
+    /** The messages of one call, by samples of that call. The clock goes on unless it is stopped. */
+    juce::MidiBuffer play (int numSamples)
+    {
+        std::vector<double> positions;
+
+        for (auto i = 0; i < numSamples; ++i)
+            positions.push_back (ppq + (isPlaying ? i * ppqPerSample : 0.0));
+
+        ppq += isPlaying ? numSamples * ppqPerSample : 0.0;
+        return playAt (positions);
+    }
+
+    /** The messages of one call at positions of the test's own; does not move the clock. */
+    juce::MidiBuffer playAt (const std::vector<double>& positions)
+    {
+        juce::MidiBuffer rows;
+        const Sequencer::ClockSlice clock { positions, isPlaying, std::exchange (jumped, false), false };
+        const auto length = engine.run (clock, frame, rows);
+
+        if (length != clock.size())
+            throw std::logic_error ("the engine ran another length than it was told");
+
+        return rows;
+    }
+
+    /** The messages of several calls, by samples from the first call on. */
+    juce::MidiBuffer playBlocks (const std::vector<int>& lengths)
+    {
+        juce::MidiBuffer all;
+        auto start = 0;
+
+        for (auto length : lengths)
+        {
+            all.addEvents (play (length), 0, length, start);
+            start += length;
+        }
+
+        return all;
+    }
+
+    Sequencer::PatternEngine engine;
+    Sequencer::PatternFrame frame;
+    double ppqPerSample = 0.125; // quarter notes
+    double ppq = 0.0;            // quarter notes at the next sample
+    bool isPlaying = true;
+    bool jumped = false;
+};
+} // namespace Zn::Test

@@ -1,0 +1,339 @@
+#include "Sequencer/EngineRig.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <limits>
+#include <map>
+#include <set>
+#include <sstream>
+
+namespace Zn::Test
+{
+namespace
+{
+constexpr double ppqPerSample = 1.0 / 128.0; // coarse, and without rounding however the song is cut
+
+/** What a listener would have in his ear: on and off of each row, in order. */
+struct Heard
+{
+    int sample = 0, velocity = 0; // velocity 0: ended
+};
+
+using HeardRows = std::map<int, std::vector<Heard>>;
+
+/** Leaves out the note-offs of rows that did not sound. */
+HeardRows heardRows (const juce::MidiBuffer& rows)
+{
+    HeardRows result;
+
+    for (const auto event : rows)
+    {
+        const auto message = event.getMessage();
+        auto& row = result[message.getNoteNumber()];
+        const auto sounds = ! row.empty() && row.back().velocity > 0;
+
+        if (message.isNoteOn())
+            row.push_back ({ event.samplePosition, message.getVelocity() });
+        else if (sounds)
+            row.push_back ({ event.samplePosition, 0 });
+    }
+
+    return result;
+}
+
+std::set<int> sounding (const juce::MidiBuffer& rows)
+{
+    std::set<int> result;
+
+    for (const auto& [row, events] : heardRows (rows))
+        if (! events.empty() && events.back().velocity > 0)
+            result.insert (row);
+
+    return result;
+}
+
+/** Like a drawing: steps on a grid, none on top of another, some with a chance, some swung off the grid. */
+Sequencer::RenderedSlot drawing (juce::Random& random, bool withChance = true)
+{
+    const double lengths[] = { 0.5, 1.0, 4.0 / 3.0, 4.0 };
+    const auto length = lengths[random.nextInt (4)];
+    const auto columns = 1 + random.nextInt (8);
+    const auto width = length / columns;
+    Notes notes;
+
+    for (auto row = 60; row < 64; ++row)
+        for (auto column = 0; column < columns; ++column)
+            if (random.nextInt (3) > 0)
+            {
+                auto step = note (row, column * width + 0.1 * width * random.nextDouble(), width * 0.9);
+                step.time.length -= step.time.start - column * width;
+                step.event.chance = withChance && random.nextBool() ? random.nextFloat() : 1.0f;
+                step.event.spreadHigh = 0.5f * random.nextFloat();
+                notes.push_back (step);
+            }
+
+    return loop (length, notes);
+}
+
+/** Notes of all lengths, on top of each other. */
+Sequencer::RenderedSlot scribble (juce::Random& random)
+{
+    Notes notes;
+
+    for (auto i = random.nextInt (12); i >= 0; --i)
+        notes.push_back (
+            note (60 + random.nextInt (3), 2.0 * random.nextDouble(), 1.5 * random.nextDouble()));
+
+    auto slot = loop (random.nextBool() ? 2.0 : 0.01 + random.nextDouble(), notes);
+    slot.looping = random.nextInt (4) > 0;
+    slot.playing = random.nextInt (8) > 0;
+    return slot;
+}
+
+/** Something that happens to a player in the middle of a song. */
+void interfere (EngineRig& rig,
+                juce::Random& random,
+                const std::function<Sequencer::RenderedSlot()>& makeSlot)
+{
+    switch (random.nextInt (8))
+    {
+    case 0:
+        return rig.draw (rig.live().heard, makeSlot());
+    case 1:
+        return rig.draw (random.nextInt (Sequencer::numSlots), makeSlot());
+    case 2:
+        return rig.ask (random.nextInt (Sequencer::numSlots));
+    case 3:
+        return rig.jumpTo (random.nextInt (1 << 20) / 4096.0 - 4.0);
+    case 4:
+        return rig.engine.requestRestart();
+    case 5:
+        rig.isPlaying = ! rig.isPlaying;
+        return;
+    case 6:
+        rig.live().enable = random.nextBool();
+        return;
+    default:
+        rig.live().quantum = std::ldexp (1.0, random.nextInt (6) - 3);
+        return;
+    }
+}
+
+/** Plays a song in which the same things happen at the same samples, whatever the sizes of the blocks. */
+juce::MidiBuffer playSong (int seed, const std::function<int()>& nextBlockSize)
+{
+    juce::Random random (seed);
+    const auto makeSlot = [&random] { return drawing (random); };
+    EngineRig rig { makeSlot() };
+    rig.ppqPerSample = ppqPerSample;
+    juce::MidiBuffer all;
+    auto start = 0;
+
+    for (auto scene = 0; scene < 12; ++scene)
+    {
+        for (auto left = 40 + random.nextInt (200); left > 0;)
+        {
+            const auto length = std::min (left, nextBlockSize());
+            all.addEvents (rig.play (length), 0, length, start);
+            start += length;
+            left -= length;
+        }
+
+        interfere (rig, random, makeSlot);
+    }
+
+    return all;
+}
+
+/** The events next to one, as sample and velocity. */
+std::string around (const std::vector<Heard>& events, std::size_t index)
+{
+    std::ostringstream result;
+
+    for (auto i = index - std::min (index, std::size_t { 2 }); i < std::min (events.size(), index + 3); ++i)
+        result << " " << events[i].sample << "=" << events[i].velocity;
+
+    return result.str();
+}
+
+/** The earliest place where two songs differ: empty when they have the same notes, each at most one sample later
+    in the second.
+*/
+std::string difference (HeardRows whole, HeardRows cut)
+{
+    auto earliest = std::numeric_limits<int>::max();
+    std::string result;
+
+    for (auto row = 0; row < 128; ++row)
+    {
+        const auto &a = whole[row], &b = cut[row];
+
+        for (std::size_t i = 0; i < std::max (a.size(), b.size()); ++i)
+        {
+            const auto isSame = i < a.size() && i < b.size() && a[i].velocity == b[i].velocity
+                                && std::abs (a[i].sample - b[i].sample) <= 1;
+
+            if (isSame)
+                continue;
+
+            if (const auto sample = i < a.size() ? a[i].sample : b[i].sample; sample < earliest)
+            {
+                earliest = sample;
+                result = "row " + std::to_string (row) + ":" + around (a, i) + " became" + around (b, i);
+            }
+
+            break;
+        }
+    }
+
+    return result;
+}
+} // namespace
+
+TEST (PatternEngineLaws, LeaveNothingHangingWhateverHappens)
+{
+    for (auto seed = 0; seed < 300; ++seed)
+    {
+        juce::Random random (seed);
+        const auto makeSlot = [&random] { return scribble (random); };
+        EngineRig rig { makeSlot() };
+        rig.ppqPerSample = seed % 2 == 0 ? ppqPerSample : 0.125;
+        juce::MidiBuffer all;
+
+        for (auto block = 0; block < 100; ++block)
+        {
+            if (random.nextBool())
+                interfere (rig, random, makeSlot);
+
+            all.addEvents (rig.play (random.nextInt (70)), 0, -1, block * 100);
+        }
+
+        rig.isPlaying = false;
+        all.addEvents (rig.play (1), 0, -1, 100 * 100);
+
+        EXPECT_TRUE (sounding (all).empty()) << "seed " << seed;
+        EXPECT_TRUE (rig.play (1).isEmpty()) << "seed " << seed;
+    }
+}
+
+/** A drawn note starts and ends once however the song is cut. A moment that falls between the last sample of
+    one call and the first of the next is heard at the latter, so it may move by one sample: no more is promised,
+    and for notes that are shorter than a sample not even that.
+*/
+TEST (PatternEngineLaws, PlayTheSameNotesHoweverTheBlocksAreCut)
+{
+    for (auto seed = 0; seed < 200; ++seed)
+    {
+        const auto whole = heardRows (playSong (seed, [] { return 100000; }));
+        juce::Random random (seed);
+
+        EXPECT_EQ (difference (whole, heardRows (playSong (seed, [] { return 1; }))), "") << "seed " << seed;
+        EXPECT_EQ (difference (whole, heardRows (playSong (seed, [] { return 64; }))), "") << "seed " << seed;
+        EXPECT_EQ (
+            difference (whole, heardRows (playSong (seed, [&random] { return 1 + random.nextInt (50); }))),
+            "")
+            << "seed " << seed;
+    }
+}
+
+TEST (PatternEngineLaws, EndARowBeforeItStartsAgain)
+{
+    for (auto seed = 0; seed < 100; ++seed)
+    {
+        juce::Random random (seed);
+
+        for (const auto& [row, events] :
+             heardRows (playSong (seed, [&random] { return 1 + random.nextInt (90); })))
+            for (std::size_t i = 0; i < events.size(); ++i)
+                ASSERT_EQ (events[i].velocity > 0, i % 2 == 0)
+                    << "seed " << seed << ", row " << row << ", event " << i;
+    }
+}
+
+TEST (PatternEngineLaws, PlayLoopsOfAnyLengthAgainstABlock)
+{
+    // Loops shorter than a sample, of a few samples, as long as the block, and longer by a little.
+    for (auto length : { 0.001, 0.003, 0.02, 0.25, 64 * ppqPerSample, 65 * ppqPerSample, 10.0 })
+    {
+        EngineRig rig {
+            loop (length, Notes { note (60, 0.0, length * 0.5), note (61, length * 0.5, length * 0.5) })
+        };
+        rig.ppqPerSample = ppqPerSample;
+        juce::MidiBuffer all;
+
+        for (auto block = 0; block < 200; ++block)
+            all.addEvents (rig.play (64), 0, -1, block * 64);
+
+        const auto passes = static_cast<int> (200 * 64 * ppqPerSample / length);
+        auto rows = heardRows (all);
+
+        for (auto row : { 60, 61 })
+            if (length > 3.0 * ppqPerSample)
+            {
+                EXPECT_NEAR (static_cast<int> (rows[row].size()), 2 * passes, 2) << length << ", row " << row;
+            }
+
+        rig.isPlaying = false;
+        all.addEvents (rig.play (1), 0, -1, 200 * 64);
+        EXPECT_TRUE (sounding (all).empty()) << length;
+    }
+}
+
+TEST (PatternEngineLaws, SurviveNumbersThatMakeNoSense)
+{
+    constexpr auto infinity = std::numeric_limits<double>::infinity();
+    const double values[] = { std::numeric_limits<double>::quiet_NaN(),
+                              infinity,
+                              -infinity,
+                              1.0e308,
+                              -1.0e308,
+                              std::numeric_limits<double>::denorm_min(),
+                              -1.0,
+                              0.0,
+                              0.25,
+                              0.5,
+                              3.0 };
+
+    for (auto seed = 0; seed < 300; ++seed)
+    {
+        juce::Random random (seed);
+        const auto value = [&] { return values[random.nextInt (static_cast<int> (std::size (values)))]; };
+        const auto floatValue = [&] { return static_cast<float> (std::clamp (value(), -1.0e30, 1.0e30)); };
+        auto slot = loop (value());
+        slot.looping = random.nextBool();
+
+        for (auto i = 0; i < 40; ++i)
+        {
+            auto hostile = note (random.nextInt (300) - 80, value(), value(), floatValue());
+            hostile.event.channel = random.nextInt (40) - 10;
+            hostile.event.chance = floatValue();
+            hostile.event.spreadLow = floatValue();
+            hostile.event.spreadHigh = floatValue();
+            slot.events.notes.push_back (hostile); // unsorted
+            slot.events.sequences.push_back ({ { value(), value() }, nullptr, true });
+        }
+
+        EngineRig rig { slot };
+        rig.live().quantum = value();
+        rig.live().heard = random.nextInt();
+        juce::MidiBuffer all;
+
+        for (auto block = 0; block < 20; ++block)
+        {
+            rig.ask (random.nextInt());
+            rig.jumpTo (random.nextBool() ? value() : random.nextDouble());
+            all.addEvents (rig.play (random.nextInt (70)), 0, -1, block * 100);
+        }
+
+        rig.isPlaying = false;
+        all.addEvents (rig.playAt ({ 0.0 }), 0, -1, 20 * 100);
+
+        for (const auto event : all)
+            EXPECT_TRUE (event.numBytes == 3 && event.data[1] < 128 && event.data[2] < 128)
+                << "seed " << seed;
+
+        EXPECT_TRUE (rig.playAt ({ 0.0 }).isEmpty()) << "seed " << seed;
+    }
+}
+} // namespace Zn::Test

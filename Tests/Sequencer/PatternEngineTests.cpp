@@ -1,0 +1,347 @@
+#include "Sequencer/EngineRig.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace Zn::Test
+{
+namespace
+{
+/** Two rows that take turns, each step touching the next. */
+Sequencer::RenderedSlot twoRows()
+{
+    return loop (1.0, steps ("x.", 64), steps (".x", 65));
+}
+} // namespace
+
+TEST (PatternEngine, PlaysEachStepAtTheSampleThatCrossesItsStart)
+{
+    EngineRig rig { twoRows() };
+
+    EXPECT_EQ (text (rig.play (20)),
+               "on 64 v102 @0, "
+               "off 64 @4, on 65 v102 @4, off 65 @8, on 64 v102 @8, "
+               "off 64 @12, on 65 v102 @12, off 65 @16, on 64 v102 @16");
+
+    EngineRig uneven { loop (1.03, Notes { note (64, 0.0, 0.5) }, Notes { note (65, 0.5, 0.6) }) };
+
+    EXPECT_EQ (text (uneven.play (28)),
+               "on 64 v102 @0, off 64 @4, on 65 v102 @4, off 65 @9, on 64 v102 @9, "
+               "off 64 @12, on 65 v102 @12, off 65 @17, on 64 v102 @17, "
+               "off 64 @20, on 65 v102 @20, off 65 @25, on 64 v102 @25");
+}
+
+TEST (PatternEngine, NeedsNoBlockToEndWhereThePatternDoes)
+{
+    EngineRig whole { twoRows() };
+    const auto expected = text (whole.play (20));
+
+    // As long as the loop, so that every block begins at the same position; and one that ends inside a pass.
+    for (const auto& blocks : { std::vector<int> { 6, 14 }, { 8, 8, 4 } })
+    {
+        EngineRig rig { twoRows() };
+        EXPECT_EQ (text (rig.playBlocks (blocks)), expected) << blocks.front();
+    }
+}
+
+TEST (PatternEngine, CatchesUpWithANoteThatLastsWhenPlayingBegins)
+{
+    EngineRig rig { twoRows() };
+    rig.ppq = 0.25;
+    EXPECT_EQ (text (rig.play (8)), "on 64 v102 @0, off 64 @2, on 65 v102 @2, off 65 @6, on 64 v102 @6");
+
+    EngineRig held { loop (4.0, Notes { note (60, 0.0, 4.0) }) };
+    held.jumpTo (1002.0);
+    EXPECT_EQ (text (held.play (17)),
+               "on 60 v102 @0, off 60 @16"); // starts again between this sample and the next
+    EXPECT_EQ (text (held.play (1)), "on 60 v102 @0");
+}
+
+TEST (PatternEngine, SendsTheNoteOffFirstWhenARowRepeatsWithoutAGap)
+{
+    EngineRig rig { loop (4.0,
+                          Notes { note (60, 0.0, 0.5), note (60, 0.5, 0.5, 0.0f), note (60, 1.0, 0.25) }) };
+
+    EXPECT_EQ (text (rig.play (16)),
+               "on 60 v102 @0, off 60 @4, on 60 v1 @4, off 60 @8, on 60 v102 @8, off 60 @10");
+}
+
+TEST (PatternEngine, KeepsARepeatedRowApartWhereverTheBlockIsCut)
+{
+    struct Row
+    {
+        const char* what;
+        Notes notes;
+        const char* secondBlock;
+    };
+
+    // Blocks of four samples: the first ends at 0.375, the second begins at 0.5.
+    const Row rows[] = {
+        { "start between the blocks", { note (60, 0.4375, 0.25) }, "on 60 v102 @0, off 60 @1" },
+        { "touching between the blocks",
+          { note (60, 0.0, 0.4375), note (60, 0.4375, 2.0) },
+          "off 60 @0, on 60 v102 @0" },
+        { "end between the blocks, next start in the second",
+          { note (60, 0.0, 0.4375), note (60, 0.75, 2.0) },
+          "off 60 @0, on 60 v102 @2" },
+        { "a start inside a longer note",
+          { note (60, 0.0, 3.0), note (60, 0.4375, 2.0) },
+          "off 60 @0, on 60 v102 @0" },
+    };
+
+    for (const auto& row : rows)
+    {
+        EngineRig rig { loop (4.0, row.notes) };
+        rig.play (4);
+        EXPECT_EQ (text (rig.play (4)), row.secondBlock) << row.what;
+    }
+}
+
+TEST (PatternEngine, DrawsChanceThenSpreadForEachStep)
+{
+    auto chances = steps ("xxxxxxxx", 60);
+
+    for (auto& step : chances)
+    {
+        step.time.length = 0.25;
+        step.event.chance = 0.5f;
+    }
+
+    EngineRig chance { loop (4.0, chances) };
+    EXPECT_EQ (text (chance.play (32)),
+               "on 60 v102 @0, off 60 @2, off 60 @6, on 60 v102 @8, off 60 @10, on 60 v102 @12, off 60 @14, "
+               "off 60 @18, on 60 v102 @20, off 60 @22, off 60 @26, off 60 @30");
+
+    auto spreads = chances;
+
+    for (auto& step : spreads)
+    {
+        step.event.chance = 1.0f;
+        step.event.velocity = 0.5f;
+        step.event.spreadHigh = 0.4f;
+    }
+
+    EngineRig spread { loop (4.0, spreads) };
+    EXPECT_EQ (text (spread.play (13)),
+               "on 60 v101 @0, off 60 @2, on 60 v83 @4, off 60 @6, on 60 v82 @8, off 60 @10");
+}
+
+TEST (PatternEngine, NeverSoundsAStepWithoutChanceYetEndsIt)
+{
+    auto never = steps ("x.", 60);
+    never.front().event.chance = 0.0f;
+
+    EngineRig rig { loop (1.0, never) };
+
+    for (auto pass = 0; pass < 200; ++pass)
+        EXPECT_EQ (text (rig.play (8)), "off 60 @4");
+}
+
+TEST (PatternEngine, LimitsVelocityToAByteThatIsNoNoteOff)
+{
+    const std::pair<float, int> rows[] = { { 0.0f, 1 },
+                                           { 0.005f, 1 },
+                                           { 0.01f, 1 },
+                                           { 0.1f, 13 },
+                                           { 0.25f, 32 },
+                                           { 0.5f, 64 },
+                                           { 0.8f, 102 },
+                                           { 1.0f, 127 },
+                                           { 1.7f, 127 },
+                                           { -3.0f, 1 },
+                                           { std::numeric_limits<float>::quiet_NaN(), 1 } };
+
+    for (const auto& [velocity, byte] : rows)
+    {
+        EngineRig rig { loop (4.0, Notes { note (60, 0.0, 1.0, velocity) }) };
+        EXPECT_EQ ((*rig.play (4).begin()).data[2], byte) << velocity;
+    }
+}
+
+TEST (PatternEngine, AddsTheNotesChannelToTheStatusAndSkipsRowsThatAreNone)
+{
+    auto notes =
+        Notes { note (60, 0.0, 1.0), note (61, 0.0, 1.0), note (128, 0.0, 1.0), note (-1, 0.0, 1.0) };
+    notes[0].event.channel = 1;
+    notes[1].event.channel = 99;
+
+    auto disabled = note (62, 0.0, 1.0);
+    disabled.enabled = false;
+
+    EngineRig rig { loop (4.0, notes, Notes { disabled }) };
+    EXPECT_EQ (text (rig.play (4)), "on 60 v102 ch2 @0, on 61 v102 ch16 @0");
+}
+
+TEST (PatternEngine, EndsWhatAnEditedPatternNoLongerHolds)
+{
+    struct Row
+    {
+        const char* what;
+        Sequencer::RenderedSlot edited;
+        const char *next, *afterNext;
+    };
+
+    const Row rows[] = {
+        { "taken away", loop (4.0), "off 64 @0", "" },
+        { "unchanged", loop (4.0, steps ("x---")), "", "" },
+        { "already over", loop (4.0, steps ("x...")), "off 64 @0", "" },
+        { "shortened", loop (4.0, steps ("xx..")), "off 64 @0, on 64 v102 @0", "off 64 @0" },
+        { "moved to another row", loop (4.0, steps ("x---", 70)), "on 70 v102 @0, off 64 @0", "" },
+        { "loop without a length", loop (0.0, steps ("x---")), "off 64 @0", "" }
+    };
+
+    for (const auto& row : rows)
+    {
+        EngineRig rig { loop (4.0, steps ("x---")) };
+        rig.play (5);
+        rig.draw (0, row.edited);
+
+        EXPECT_EQ (text (rig.play (3)), row.next) << row.what;
+        EXPECT_EQ (text (rig.play (4)), row.afterNext) << row.what;
+    }
+}
+
+TEST (PatternEngine, EndsItsNotesWhenTheTransportStops)
+{
+    EngineRig rig { loop (4.0, steps ("x---")) };
+    rig.play (4);
+    rig.isPlaying = false;
+
+    EXPECT_EQ (text (rig.play (4)), "off 64 @0");
+    EXPECT_EQ (text (rig.play (4)), "");
+
+    rig.isPlaying = true;
+    EXPECT_EQ (text (rig.play (4)), "on 64 v102 @0");
+    rig.frame = {};
+    EXPECT_EQ (text (rig.play (4)), "off 64 @0");
+}
+
+TEST (PatternEngine, RestartsThePatternAtTheNextSample)
+{
+    EngineRig rig { twoRows() };
+    rig.play (6);
+    rig.engine.requestRestart();
+
+    EXPECT_EQ (text (rig.play (6)), "off 65 @0, on 64 v102 @0, off 64 @4, on 65 v102 @4");
+    EXPECT_EQ (text (rig.play (4)), "off 65 @2, on 64 v102 @2");
+
+    rig.jumpTo (10.5);
+    EXPECT_EQ (text (rig.play (1)),
+               "off 64 @0"); // a jump counts from the song's start again: row 65 begins here
+    EXPECT_EQ (text (rig.play (1)), "on 65 v102 @0");
+
+    rig.jumpTo (20.5);
+    rig.engine.requestRestart();
+    EXPECT_EQ (text (rig.play (2)), "off 65 @0, on 64 v102 @0"); // a key wins over a jump
+}
+
+TEST (PatternEngine, PlaysNothingBeforeThePatternBegins)
+{
+    EngineRig rig { twoRows() };
+    rig.ppq = -1.0;
+    EXPECT_EQ (text (rig.play (12)), "on 64 v102 @8");
+}
+
+TEST (PatternEngine, EndsAllNotesButTheHighestRowWhenItGoesBack)
+{
+    EngineRig rig { loop (8.0, steps ("x---x---", 126, 1.0), steps ("x---x---", 127, 1.0)) };
+    rig.ppq = 4.0;
+    EXPECT_EQ (text (rig.play (4)), "on 126 v102 @0, on 127 v102 @0");
+
+    rig.jumpTo (1.0); // inside the first note of both rows
+    EXPECT_EQ (text (rig.play (4)), "off 126 @0, on 126 v102 @0");
+}
+
+TEST (PatternEngine, PlaysASlotThatDoesNotLoopOnceFromItsAnchor)
+{
+    EngineRig rig { once (steps ("x.x.")) };
+
+    EXPECT_EQ (text (rig.play (40)), "on 64 v102 @0, off 64 @4, on 64 v102 @8, off 64 @12");
+    rig.engine.requestRestart();
+    EXPECT_EQ (text (rig.play (4)), "on 64 v102 @0");
+}
+
+TEST (PatternEngine, ChangesTheSlotOnTheGridAndStartsItThere)
+{
+    EngineRig rig { loop (4.0, steps ("x-------", 60)) };
+    rig.draw (1, loop (4.0, steps ("x...", 70)));
+    rig.play (3);
+    rig.ask (1);
+
+    EXPECT_EQ (text (rig.play (8)), "off 60 @5, on 70 v102 @5");
+    EXPECT_EQ (rig.live().switchedPosition, 1.0);
+    EXPECT_EQ (text (rig.play (8)), "off 70 @1");
+    EXPECT_EQ (text (rig.play (30)),
+               "on 70 v102 @21, off 70 @25"); // four quarters after its start, not on the song's bar
+}
+
+TEST (PatternEngine, ChangesTheSlotAtOnceWhileLiveChangesAreOff)
+{
+    EngineRig rig { loop (4.0, steps ("x-------", 60)) };
+    rig.draw (1, loop (4.0, steps ("x---", 70)));
+    rig.live().enable = false;
+    rig.play (3);
+    rig.ask (1);
+
+    EXPECT_EQ (text (rig.play (2)), "off 60 @0, on 70 v102 @0"); // in song time: its first note already lasts
+
+    rig.ask (0);
+    rig.engine.requestRestart(); // of a slot that is no longer heard
+    EXPECT_EQ (text (rig.play (2)), "off 70 @0, on 60 v102 @0");
+    EXPECT_EQ (text (rig.play (2)), "");
+}
+
+TEST (PatternEngine, AnEmptyCallChangesNothing)
+{
+    EngineRig rig { loop (4.0, steps ("x---")) };
+    rig.play (4);
+    rig.ask (1);
+    rig.engine.requestRestart();
+
+    EXPECT_EQ (text (rig.play (0)), "");
+    EXPECT_EQ (rig.live().pending, 1);
+    EXPECT_EQ (text (rig.play (1)), "off 64 @0"); // the restart was still due; its start is in the next call
+    EXPECT_EQ (text (rig.play (1)), "on 64 v102 @0");
+}
+
+TEST (PatternEngine, ShowsTheEditorWhereThePatternIs)
+{
+    const auto emitter = std::make_shared<Sequencer::PlayPosition>();
+    auto pattern = loop (2.0, steps ("x.x."));
+    pattern.events.sequences.push_back ({ { 0.0, 2.0 }, emitter, true });
+
+    EngineRig rig { pattern };
+    rig.play (20);
+    EXPECT_EQ (emitter->position, 0.375);
+
+    rig.live().enable = false;
+    rig.ask (1);
+    rig.play (1);
+    EXPECT_EQ (emitter->position, -1.0);
+    EXPECT_FALSE (emitter->fired);
+}
+
+TEST (PatternEngine, ReportsEachMarkItPassesUntilTheEditorHasSeenIt)
+{
+    const auto first = std::make_shared<Sequencer::PlayPosition>();
+    const auto second = std::make_shared<Sequencer::PlayPosition>();
+    auto pattern = loop (1.0);
+    pattern.events.marks = { { { 0.25, 0.5 }, first, true }, { { 0.5, 0.5 }, second, true } };
+
+    EngineRig rig { pattern };
+    rig.play (20);
+
+    const auto marks = rig.engine.getFiredMarks();
+    ASSERT_EQ (marks.size(), 2u);
+    EXPECT_EQ (marks[0].emitter, first.get());
+    EXPECT_EQ (marks[0].sample, 2);
+    EXPECT_EQ (marks[1].sample, 4);
+    EXPECT_EQ (marks[1].position, 0.5);
+
+    first->fired = false;
+    rig.play (20); // from 2.5 on: the next pass reaches the first mark at its sixth sample
+    ASSERT_EQ (rig.engine.getFiredMarks().size(), 1u);
+    EXPECT_EQ (rig.engine.getFiredMarks()[0].sample, 6);
+}
+} // namespace Zn::Test
