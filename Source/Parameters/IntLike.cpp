@@ -25,7 +25,7 @@ void IntLike::setDouble (double newValue)
         return;
 
     const auto range = getRange();
-    const auto limited = juce::jlimit (double { range.start }, double { range.end }, newValue);
+    const auto limited = juce::jlimit (double (range.start), double (range.end), newValue);
     setIntValue (static_cast<int> (range.snapToLegalValue (static_cast<float> (limited))));
 }
 

@@ -67,9 +67,9 @@ juce::AudioParameterIntAttributes wholeNumbers (int minimum, int maximum, const 
 juce::AudioParameterFloatAttributes decimals()
 {
     return juce::AudioParameterFloatAttributes()
-        .withStringFromValueFunction ([] (float value, int) { return twoDecimals (double { value }); })
+        .withStringFromValueFunction ([] (float value, int) { return twoDecimals (double (value)); })
         .withValueFromStringFunction ([] (const juce::String& text) {
-            constexpr auto largest = double { std::numeric_limits<float>::max() };
+            constexpr auto largest = double (std::numeric_limits<float>::max());
             return static_cast<float> (juce::jlimit (-largest, largest, finiteNumber (text)));
         });
 }

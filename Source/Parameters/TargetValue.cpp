@@ -67,7 +67,7 @@ void setPlainValue (juce::AudioProcessorParameter& target, double value)
     }
 
     const auto range = withRange->getNormalisableRange().getRange();
-    const auto inRange = juce::jlimit (double { range.getStart() }, double { range.getEnd() }, value);
+    const auto inRange = juce::jlimit (double (range.getStart()), double (range.getEnd()), value);
     setNormalised (target, withRange->convertTo0to1 (static_cast<float> (inRange)));
 }
 

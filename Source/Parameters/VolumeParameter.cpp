@@ -16,9 +16,9 @@ constexpr double octavesPerDecibel = 0.1660964; // log2 (10) / 20
 /** Gain from 0 to 1 in half the control's way, with the given level in its middle. */
 juce::NormalisableRange<float> gainRange (float minDecibels, float maxDecibels, float middleDecibels)
 {
-    juce::NormalisableRange<float> range { VolumeParameter::gainFromDecibels (double { minDecibels }),
-                                           VolumeParameter::gainFromDecibels (double { maxDecibels }) };
-    range.setSkewForCentre (VolumeParameter::gainFromDecibels (double { middleDecibels }));
+    juce::NormalisableRange<float> range { VolumeParameter::gainFromDecibels (double (minDecibels)),
+                                           VolumeParameter::gainFromDecibels (double (maxDecibels)) };
+    range.setSkewForCentre (VolumeParameter::gainFromDecibels (double (middleDecibels)));
     return range;
 }
 
@@ -39,7 +39,7 @@ VolumeParameter::VolumeParameter (const juce::ParameterID& identifier,
     : AudioParameterFloat (identifier,
                            displayName,
                            gainRange (minDecibels, maxDecibels, middleDecibels),
-                           gainFromDecibels (double { defaultDecibels }),
+                           gainFromDecibels (double (defaultDecibels)),
                            decibelTexts())
 {}
 
@@ -53,7 +53,7 @@ float VolumeParameter::gainFromDecibels (double decibels) noexcept
 
 juce::String VolumeParameter::textFromGain (float gain)
 {
-    const auto decibels = gain > 0.0f ? 20.0 * std::log10 (double { gain }) : silenceDecibels;
+    const auto decibels = gain > 0.0f ? 20.0 * std::log10 (double (gain)) : silenceDecibels;
     return Parameters::twoDecimals (std::max (decibels, silenceDecibels)) + " dB";
 }
 

@@ -103,7 +103,7 @@ TEST (Forwarder, LimitsWhatItIsGivenAndDropsWhatIsNoNumber)
     EXPECT_FLOAT_EQ (dial->getFloat(), 3.0f);
 
     dial->setDouble (1.4);
-    dial->setDouble (double { notANumber });
+    dial->setDouble (double (notANumber));
     dial->setNormalisedNotifying (notANumber);
     dial->setRawNormalised (notANumber);
     EXPECT_FLOAT_EQ (dial->getFloat(), 1.4f);
