@@ -1,0 +1,38 @@
+#pragma once
+
+#include <juce_core/juce_core.h>
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace Zn::Test
+{
+inline constexpr std::array exampleNames{ "old-hundredth.mid", "auld-lang-syne.mid", "gymnopedie-1.mid" };
+
+inline juce::File exampleFile (const char* name)
+{
+    return juce::File (ZN_EXAMPLES).getChildFile (name);
+}
+
+inline std::vector<std::uint8_t> bytesOf (const juce::File& file)
+{
+    juce::MemoryBlock block;
+    file.loadFileAsData (block);
+    const auto* data = static_cast<const std::uint8_t*> (block.getData());
+    return { data, data + block.getSize() };
+}
+
+/** A name in a folder of its own that goes with it. */
+struct ScratchFolder
+{
+    ScratchFolder() { folder.createDirectory(); }
+    ~ScratchFolder() { folder.deleteRecursively(); }
+    ScratchFolder (const ScratchFolder&) = delete;
+    ScratchFolder& operator= (const ScratchFolder&) = delete;
+
+    juce::File file (const char* name) const { return folder.getChildFile (name); }
+
+    juce::File folder = juce::File::createTempFile ("render");
+};
+} // namespace Zn::Test
