@@ -1,0 +1,51 @@
+#pragma once
+
+#include <juce_core/juce_core.h>
+
+#include <cstdio>
+#include <memory>
+#include <string>
+
+namespace Zn::Render
+{
+/** A file that appears under its name only when it is complete; until then, and on an error, the old one
+   stays.
+
+    As a stream it never throws: the first failure is kept, later writes do nothing, and `throwIfFailed` and
+    `finish` report it as FileError.
+*/
+class OutputFile final : public juce::OutputStream
+{
+public:
+    /** Opens a temporary file beside the target. Throws FileError if that cannot be. */
+    explicit OutputFile (const juce::File& target);
+
+    bool write (const void* data, std::size_t size) override;
+    bool setPosition (juce::int64 newPosition) override;
+    juce::int64 getPosition() override { return position; }
+    void flush() override {}
+
+    void throwIfFailed() const;
+
+    /** Puts the complete file in its place. Nothing may be written afterwards. */
+    void finish();
+
+    /** Throws FileError that names this file. */
+    [[noreturn]] void fail (const std::string& whatIsWrong) const;
+
+private:
+    struct Closer
+    {
+        void operator() (std::FILE* open) const noexcept { std::fclose (open); }
+    };
+
+    void checkTarget() const;
+    bool succeeds (bool success);
+
+    juce::File target;
+    juce::TemporaryFile temporary;
+    std::unique_ptr<std::FILE, Closer> file;
+    juce::int64 position = 0;
+    int error = 0; // errno of the first failure
+};
+} // namespace Zn::Render
