@@ -1,0 +1,115 @@
+#include "Render/ArgumentParser.h"
+#include "Render/Errors.h"
+
+#include <gmock/gmock.h>
+
+using namespace Zn::Render;
+using Arguments = std::vector<std::string>;
+
+TEST (ArgumentParser, ReadsEveryOption)
+{
+    const auto options = parseArguments (Arguments { "--out-wav=a.wav",
+                                                     "--wav-bits",
+                                                     "16",
+                                                     "--out-midi",
+                                                     "b.mid",
+                                                     "--out-events",
+                                                     "c",
+                                                     "--set",
+                                                     "Gain=-3 dB",
+                                                     "--set",
+                                                     "Name=a=b",
+                                                     "--slot",
+                                                     "7",
+                                                     "--seed",
+                                                     "-5",
+                                                     "--bpm",
+                                                     "99.5",
+                                                     "--sample-rate",
+                                                     "44100",
+                                                     "--block",
+                                                     "random:9:300",
+                                                     "--tail",
+                                                     "0",
+                                                     "--clock",
+                                                     "stopped",
+                                                     "--loop",
+                                                     "0.5:8",
+                                                     "--",
+                                                     "-in.mid" });
+
+    EXPECT_EQ (options.wavFile->getFileName(), "a.wav");
+    EXPECT_EQ (options.wavBits, 16);
+    EXPECT_EQ (options.midiFile->getFileName(), "b.mid");
+    EXPECT_EQ (options.eventsFile->getFileName(), "c");
+    EXPECT_EQ (options.settings[0].text, "-3 dB");
+    EXPECT_EQ (options.settings[1].identifier, "Name");
+    EXPECT_EQ (options.settings[1].text, "a=b");
+    EXPECT_EQ (options.slot, 7);
+    EXPECT_EQ (options.seed, -5);
+    EXPECT_EQ (options.bpm, 99.5);
+    EXPECT_EQ (options.sampleRate, 44100.0);
+    EXPECT_EQ (options.setup.blockSizes.getLargest(), 300);
+    EXPECT_EQ (options.tailSeconds, 0.0);
+    EXPECT_EQ (options.setup.clock, HostClock::Mode::stopped);
+    EXPECT_EQ (options.loop->startQuarters, 0.5);
+    EXPECT_EQ (options.loop->endQuarters, 8.0);
+    EXPECT_EQ (options.input->getFileName(), "-in.mid");
+}
+
+TEST (ArgumentParser, RefusesWhatMakesNoSense)
+{
+    const std::pair<Arguments, const char*> rows[] {
+        { {}, "which MIDI file" },
+        { { "in.mid" }, "nothing to write" },
+        { { "in.mid", "other.mid" }, "one input" },
+        { { "--preset", "x" }, "no option '--preset'" },
+        { { "-x" }, "no option '-x'" },
+        { { "--out-wav" }, "--out-wav needs a value: FILE" },
+        { { "--out-wav", "--out-midi", "x" }, "--out-wav needs a value" },
+        { { "--out-wav", "" }, "--out-wav needs the name" },
+        { { "--help=yes" }, "takes no value" },
+        { { "--wav-bits", "20" }, "16, 24 or 32, not '20'" },
+        { { "--set", "Gain" }, "ID=TEXT" },
+        { { "--set", "=1" }, "ID=TEXT" },
+        { { "--slot", "8" }, "0 to 7" },
+        { { "--slot", "1x" }, "0 to 7" },
+        { { "--seed", "1.5" }, "whole number" },
+        { { "--bpm", "nan" }, "4 to 999" },
+        { { "--bpm", "1000" }, "4 to 999" },
+        { { "--sample-rate", "7999" }, "8000 to 384000" },
+        { { "--sample-rate", "inf" }, "8000 to 384000" },
+        { { "--block", "0" }, "1 to 65536" },
+        { { "--block", "random:1" }, "random:SEED:MAX" },
+        { { "--block", "random::5" }, "random:SEED:MAX" },
+        { { "--block", "random:1:0" }, "random:SEED:MAX" },
+        { { "--tail", "-1" }, "0 to 3600" },
+        { { "--clock", "internal" }, "host, stopped or none" },
+        { { "--loop", "4" }, "A:B" },
+        { { "--loop", "4:4" }, "A before B" },
+        { { "--loop", "-1:4" }, "from 0 on" },
+        { { "--loop", ":" }, "A:B" },
+        { { "in.mid", "--out-midi", "./in.mid" }, "given twice" },
+        { { "in.mid", "--out-midi", "x", "--out-wav", "x" }, "given twice" },
+    };
+
+    for (const auto& [arguments, message] : rows)
+    {
+        try
+        {
+            parseArguments (arguments);
+            ADD_FAILURE() << "accepted: " << testing::PrintToString (arguments);
+        }
+        catch (const ArgumentError& error)
+        {
+            EXPECT_THAT (error.what(), testing::HasSubstr (message)) << testing::PrintToString (arguments);
+        }
+    }
+}
+
+TEST (ArgumentParser, HelpsWithoutAnInput)
+{
+    EXPECT_TRUE (parseArguments (Arguments { "--help" }).showsHelp);
+    EXPECT_TRUE (parseArguments (Arguments { "--version" }).showsVersion);
+    EXPECT_TRUE (parseArguments (Arguments { "--list-params", "--set", "a=b" }).listsParameters);
+}
