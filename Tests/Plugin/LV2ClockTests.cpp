@@ -44,11 +44,11 @@ struct Host : juce::AudioPlayHead
     int jumps = 0;
 };
 
-LV2Position playingAt (std::int64_t frame, std::int64_t bar, double barBeat, double bpm = 120.0)
+LV2Position playingAt (int frame, int bar, double barBeat, double bpm = 120.0)
 {
-    return { .frame = frame,
+    return { .frame = static_cast<double> (frame),
              .speed = 1.0,
-             .bar = bar,
+             .bar = static_cast<double> (bar),
              .barBeat = barBeat,
              .beat = {},
              .beatsPerBar = 4.0,
@@ -234,7 +234,7 @@ TEST (LV2Clock, FollowsASongAtAnotherSpeed)
 TEST (LV2Clock, LeavesNonsenseOut)
 {
     constexpr auto nan = std::numeric_limits<double>::quiet_NaN();
-    constexpr auto huge = std::numeric_limits<std::int64_t>::max();
+    constexpr auto huge = 1e300;
     Host host;
     host.run ({ { 0, playingAt (0, 0, 0.0) } });
     host.run ({ { 0,
@@ -243,7 +243,7 @@ TEST (LV2Clock, LeavesNonsenseOut)
                     .bar = huge,
                     .barBeat = nan,
                     .beat = -nan,
-                    .beatsPerBar = 1e300,
+                    .beatsPerBar = huge,
                     .beatUnit = -huge,
                     .beatsPerMinute = 0.0 } } });
 

@@ -56,13 +56,13 @@ TEST (InternalPlayHead, MovesByTempoAndSampleRate)
         double bpm, sampleRate, ppqPerSample;
     };
 
-    for (const auto& row : { Row{ 120.0, 48000.0, 4.1666667e-05 },
-                             Row{ 100.0, 44100.0, 3.77928949e-05 },
-                             Row{ 999.0, 192000.0, 8.671875e-05 },
-                             Row{ 120.0, 0.0, 0.0 },
-                             Row{ 120.0, nan, 0.0 } })
+    for (const auto& row : { Row { 120.0, 48000.0, 4.1666667e-05 },
+                             Row { 100.0, 44100.0, 3.77928949e-05 },
+                             Row { 999.0, 192000.0, 8.671875e-05 },
+                             Row { 120.0, 0.0, 0.0 },
+                             Row { 120.0, nan, 0.0 } })
     {
-        TestPlayHead host{ 48000.0, row.bpm };
+        TestPlayHead host { 48000.0, row.bpm };
         InternalPlayHead clock;
         clock.prepare (row.sampleRate, 512);
         clock.update (&host, 512);
@@ -83,14 +83,14 @@ TEST (InternalPlayHead, LetsAHostsSampleCountWanderWhileItPlays)
         bool jumps;
     };
 
-    for (const auto& row : { Row{ true, 512, false },
-                             Row{ true, 482, false },
-                             Row{ true, 541, false },
-                             Row{ true, 481, true },
-                             Row{ true, 542, true },
-                             Row{ false, 512, false },
-                             Row{ false, 513, true },
-                             Row{ false, 511, true } })
+    for (const auto& row : { Row { true, 512, false },
+                             Row { true, 482, false },
+                             Row { true, 541, false },
+                             Row { true, 481, true },
+                             Row { true, 542, true },
+                             Row { false, 512, false },
+                             Row { false, 513, true },
+                             Row { false, 511, true } })
     {
         TestPlayHead host;
         InternalPlayHead clock;
@@ -124,11 +124,11 @@ TEST (InternalPlayHead, WrapsTheEndOfTheLoopAndNothingBeyond)
 
     for (const auto& row : rows)
     {
-        TestPlayHead host{ 16.0 };
+        TestPlayHead host { 16.0 };
         host.jumpTo (row.start);
         host.edit = [&row] (auto& position) {
             position.setIsLooping (true);
-            position.setLoopPoints (juce::AudioPlayHead::LoopPoints{ row.loopStart, row.loopEnd });
+            position.setLoopPoints (juce::AudioPlayHead::LoopPoints { row.loopStart, row.loopEnd });
         };
 
         InternalPlayHead clock;
@@ -206,7 +206,7 @@ TEST (InternalPlayHead, GoesOnEvenlyThroughWhatAHostLeavesOut)
 
     for (const auto& row : rows)
     {
-        TestPlayHead host{ 48000.0, 100.0 };
+        TestPlayHead host { 48000.0, 100.0 };
         host.edit = row.edit;
         Clock clock;
 
@@ -254,7 +254,7 @@ TEST (InternalPlayHead, KeepsTheLastGoodTempo)
 {
     for (auto bad : { 0.0, 0.5, -120.0, nan, infinity, -infinity, 1e300 })
     {
-        TestPlayHead host{ 48000.0, 87.3 };
+        TestPlayHead host { 48000.0, 87.3 };
         Clock clock;
         clock.run (host);
         const auto rate = clock.internal.getPpqPerSample();
@@ -269,7 +269,7 @@ TEST (InternalPlayHead, KeepsTheLastGoodTempo)
 
 TEST (InternalPlayHead, SurvivesWhateverAHostSends)
 {
-    juce::Random random{ 7 };
+    juce::Random random { 7 };
     const double values[] = { nan,   infinity, -infinity, 1e308, -1e308, 1e18,
                               -1e18, 5e-324,   0.0,       -0.0,  -2.0,   24.0 };
     const auto pick = [&] { return values[random.nextInt (juce::numElementsInArray (values))]; };
@@ -282,8 +282,8 @@ TEST (InternalPlayHead, SurvivesWhateverAHostSends)
         position.setPpqPosition (pick());
         position.setTimeInSamples (random.nextInt64());
         position.setIsLooping (random.nextBool());
-        position.setLoopPoints (juce::AudioPlayHead::LoopPoints{ pick(), pick() });
-        position.setTimeSignature (juce::AudioPlayHead::TimeSignature{ 0, 0 });
+        position.setLoopPoints (juce::AudioPlayHead::LoopPoints { pick(), pick() });
+        position.setTimeSignature (juce::AudioPlayHead::TimeSignature { 0, 0 });
     };
 
     Clock clock;
@@ -310,14 +310,14 @@ TEST (ClockSelection, FollowsTheHostOnlyWhileItPlaysOrKeysWaitForIt)
         bool plays;
     };
 
-    for (const auto& row : { Row{ false, false, false, false, ClockSource::internal, true },
-                             Row{ false, false, true, false, ClockSource::internal, true },
-                             Row{ true, false, false, false, ClockSource::internal, true },
-                             Row{ true, false, true, false, ClockSource::host, false },
-                             Row{ true, true, false, false, ClockSource::host, true },
-                             Row{ true, true, true, false, ClockSource::host, true },
-                             Row{ true, true, false, true, ClockSource::internal, false },
-                             Row{ true, false, true, true, ClockSource::internal, false } })
+    for (const auto& row : { Row { false, false, false, false, ClockSource::internal, true },
+                             Row { false, false, true, false, ClockSource::internal, true },
+                             Row { true, false, false, false, ClockSource::internal, true },
+                             Row { true, false, true, false, ClockSource::host, false },
+                             Row { true, true, false, false, ClockSource::host, true },
+                             Row { true, true, true, false, ClockSource::host, true },
+                             Row { true, true, false, true, ClockSource::internal, false },
+                             Row { true, false, true, true, ClockSource::internal, false } })
     {
         TestPlayHead host;
         host.answers = row.hasPosition;
@@ -328,7 +328,7 @@ TEST (ClockSelection, FollowsTheHostOnlyWhileItPlaysOrKeysWaitForIt)
         clock.shared.internalClock = row.internalClock;
 
         const auto name = ::testing::PrintToString (
-            std::vector<bool>{ row.hasPosition, row.hostPlays, row.keyMode, row.internalClock });
+            std::vector<bool> { row.hasPosition, row.hostPlays, row.keyMode, row.internalClock });
         EXPECT_EQ (clock.run (host), row.expected) << name;
         EXPECT_EQ (clock.internal.isPlaying(), row.plays) << name;
         EXPECT_EQ (clock.shared.isPlaying, row.plays) << name;
@@ -367,10 +367,10 @@ TEST (ClockSelection, GoesOnFromWhereAStoppedHostStood)
 
 TEST (ClockSelection, DoesNotLoopItsOwnClockWithTheHost)
 {
-    TestPlayHead host{ 16.0 };
+    TestPlayHead host { 16.0 };
     host.setLoop (0.0, 1.0);
 
-    Clock clock{ 16.0 };
+    Clock clock { 16.0 };
     clock.run (host, 4);
     clock.shared.internalClock = true;
     clock.run (host, 8);
@@ -395,7 +395,7 @@ TEST (ClockSelection, MovesTheInternalClockWhereTheEditorPutsIt)
 
 TEST (ClockSelection, TakesTheEditorsTempoFromAHostWithoutOne)
 {
-    TestPlayHead host{ 48000.0, 150.0 };
+    TestPlayHead host { 48000.0, 150.0 };
     host.edit = [] (auto& position) { position.setBpm ({}); };
 
     Clock clock;
@@ -413,7 +413,7 @@ TEST (TransportSlice, KeepsItsFlagsToTheBlocksFirstSample)
     Clock clock;
     clock.run (&host);
 
-    const TransportSlice block{ clock.internal };
+    const TransportSlice block { clock.internal };
     const auto first = block.part ({ 0, 100 });
     const auto later = block.part ({ 100, 1000 });
     const auto nested = later.part ({ 12, 500 });
@@ -437,7 +437,7 @@ TEST (TransportSlice, AnswersAsAPlayHeadForItsOwnFirstSample)
 
     for (auto offset : { 0, 100, 512 })
     {
-        const TransportSlice slice{ clock.internal, { offset, 8 } };
+        const TransportSlice slice { clock.internal, { offset, 8 } };
         const auto position = *slice.playHead.getPosition();
 
         EXPECT_NEAR (*position.getPpqPosition(), 16.0 + offset * host.ppqPerSample(), 1e-9);

@@ -58,7 +58,7 @@ public:
         position.setPpqPosition (ppq);
         position.setTimeInSamples (static_cast<std::int64_t> (std::llround (samples)));
         position.setTimeInSeconds (samples / sampleRate);
-        position.setTimeSignature (TimeSignature{ 4, 4 });
+        position.setTimeSignature (TimeSignature { 4, 4 });
 
         if (loop.ppqEnd > loop.ppqStart)
         {

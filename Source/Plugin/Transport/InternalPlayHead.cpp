@@ -21,7 +21,7 @@ constexpr std::int64_t jitterSamples = 30;
 
 // Beyond these a double no longer tells neighbouring samples apart.
 constexpr auto farthestPpq = 1.0e12;
-constexpr std::int64_t farthestSample = std::int64_t{ 1 } << 52;
+constexpr std::int64_t farthestSample = std::int64_t { 1 } << 52;
 
 bool isUsablePpq (double ppq) noexcept
 {

@@ -27,11 +27,6 @@ std::optional<double> ifUsable (std::optional<double> value) noexcept
     return isBetween (-farthest, value, farthest) ? value : std::nullopt;
 }
 
-std::optional<double> ifUsable (std::optional<std::int64_t> value) noexcept
-{
-    return value.has_value() ? ifUsable (std::optional{ static_cast<double> (*value) }) : std::nullopt;
-}
-
 bool isWhole (double beats) noexcept
 {
     return std::abs (beats - std::round (beats)) < beatTolerance;
@@ -56,7 +51,7 @@ MusicalPosition musicalPositionOf (const LV2Position& message, double beatsPerBa
     const auto isBeatExact = beat && (! barBeat || (ppqPerBeat == 1.0 && isWhole (*beat - *barBeat)));
 
     if (isBeatExact)
-        return { *beat, barBeat ? std::optional{ *beat - *barBeat } : std::nullopt };
+        return { *beat, barBeat ? std::optional { *beat - *barBeat } : std::nullopt };
 
     if (! bar || ! barBeat)
         return { beat, {} };
@@ -108,8 +103,8 @@ void LV2Clock::takeOverRates (const LV2Position& message) noexcept
     if (message.beatsPerMinute && InternalPlayHead::isUsableTempo (*message.beatsPerMinute))
         tempo = message.beatsPerMinute;
 
-    if (const auto unit = ifUsable (message.beatUnit); isBetween (1.0, unit, highestMeter))
-        beatUnit = static_cast<int> (*unit);
+    if (isBetween (1.0, message.beatUnit, highestMeter))
+        beatUnit = juce::roundToInt (*message.beatUnit);
 
     if (isBetween (1.0, message.beatsPerBar, highestMeter))
     {
@@ -126,7 +121,7 @@ void LV2Clock::advance (int numSamples) noexcept
 /** The tempo that is heard: a song at another speed has another tempo. */
 std::optional<double> LV2Clock::getTempo() const noexcept
 {
-    return tempo && isMoving() ? std::optional{ *tempo * speed } : tempo;
+    return tempo && isMoving() ? std::optional { *tempo * speed } : tempo;
 }
 
 double LV2Clock::getPpqPerSample() const noexcept
@@ -187,7 +182,7 @@ juce::Optional<juce::AudioPlayHead::PositionInfo> LV2Clock::getPosition() const 
 
     if (hasTimeSignature)
         position.setTimeSignature (
-            juce::AudioPlayHead::TimeSignature{ juce::roundToInt (beatsPerBar), beatUnit });
+            juce::AudioPlayHead::TimeSignature { juce::roundToInt (beatsPerBar), beatUnit });
 
     return position;
 }

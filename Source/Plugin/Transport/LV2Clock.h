@@ -10,14 +10,14 @@ namespace Zn::Audio
 /** What one message of an LV2 host says about its transport. Hosts leave out what they do not know. */
 struct LV2Position
 {
-    std::optional<std::int64_t> frame{};    // samples from the start of the song
-    std::optional<double> speed{};          // 1 plays, 0 stands
-    std::optional<std::int64_t> bar{};      // from 0
-    std::optional<double> barBeat{};        // beats from the bar's start
-    std::optional<double> beat{};           // beats from the start of the song, whole beats with some hosts
-    std::optional<double> beatsPerBar{};    // upper number of the time signature
-    std::optional<std::int64_t> beatUnit{}; // lower number of the time signature
-    std::optional<double> beatsPerMinute{}; // hosts send quarter notes, whatever the beat unit
+    std::optional<double> frame {};          // samples from the start of the song
+    std::optional<double> speed {};          // 1 plays, 0 stands
+    std::optional<double> bar {};            // from 0
+    std::optional<double> barBeat {};        // beats from the bar's start
+    std::optional<double> beat {};           // beats from the start of the song, whole beats with some hosts
+    std::optional<double> beatsPerBar {};    // upper number of the time signature
+    std::optional<double> beatUnit {};       // lower number of the time signature
+    std::optional<double> beatsPerMinute {}; // hosts send quarter notes, whatever the beat unit
 };
 
 /** Keeps an LV2 host's transport going between its messages, as hosts send one only when something changes.

@@ -38,6 +38,6 @@ struct TransportSlice
     const InternalPlayHead* view = nullptr;
     std::int32_t offset = 0; // samples from the block's first
     std::int32_t length = 0; // samples
-    PlayHeadTransportView playHead{ *this };
+    PlayHeadTransportView playHead { *this };
 };
 } // namespace Zn::Audio

@@ -1,0 +1,206 @@
+#include "Hosts/PatternChunk.h"
+#include "Hosts/Song.h"
+#include "Support/NoteStreams.h"
+#include "Support/RealTimeGuard.h"
+
+#include <gtest/gtest.h>
+
+namespace Zn::Test
+{
+namespace
+{
+using Testing::TestPlayHead;
+
+constexpr auto samplesPerSixteenth = 6000; // at 120 quarter notes a minute and 48 kHz
+constexpr auto blockSize = 256;
+constexpr auto blocksPerSecond = 48000 / blockSize;
+
+/** The pitch of a step of the stairs over a held chord of C, E and G. */
+int pitchOfStep (int step)
+{
+    constexpr int chord[] = { 60, 64, 67 };
+    const auto row = step % numTestSteps;
+    return chord[row % 3] + 12 * (row / 3);
+}
+
+Performance::Onset stepAt (int step, int sample)
+{
+    return { sample, pitchOfStep (step) };
+}
+
+/** Sixteenth after sixteenth, from a step that starts at sample 0. */
+Performance onTheGrid (int firstStep, int numSamples)
+{
+    Performance performance;
+
+    for (auto step = 0; step * samplesPerSixteenth < numSamples; ++step)
+        performance.onsets.push_back (stepAt (firstStep + step, step * samplesPerSixteenth));
+
+    return performance;
+}
+
+class Plugin : public testing::Test
+{
+protected:
+    Performance playLV2 (const Song& song, Talk talk)
+    {
+        LV2Host host { VORNEL_LV2_LIBRARY, song.sampleRate, blockSize };
+        host.restore (chunkWithStairs());
+        return play (host, song, talk);
+    }
+
+    Performance playVST3 (const Song& song)
+    {
+        VST3Host host { VORNEL_VST3_BUNDLE, song.sampleRate, blockSize };
+        host.restore (chunkWithStairs());
+        return play (host, song);
+    }
+
+    void expectEveryHostPlays (const Song& song, const Performance& expected)
+    {
+        EXPECT_TRUE (sameOnsets (playVST3 (song), expected)) << "VST3";
+        EXPECT_TRUE (sameOnsets (playLV2 (song, Talk::everyBlock), expected)) << "LV2, told in every block";
+        EXPECT_TRUE (sameOnsets (playLV2 (song, Talk::changesInBars), expected))
+            << "LV2, told changes in bars";
+        EXPECT_TRUE (sameOnsets (playLV2 (song, Talk::changesInFrames), expected))
+            << "LV2, told changes in samples";
+    }
+};
+
+TEST_F (Plugin, PlaysTheGridInEveryHost)
+{
+    const Song song { .numBlocks = 12 * blocksPerSecond };
+    expectEveryHostPlays (song, onTheGrid (0, song.numBlocks * blockSize));
+}
+
+TEST_F (Plugin, StartsWithTheStepOfTheBeatWhereTheSongStarts)
+{
+    const auto fromBarFiveBeatThree = [] (TestPlayHead& playHead, int block) {
+        if (block != 0)
+            return;
+
+        playHead.jumpTo (4 * 4.0 + 2.0);
+        playHead.samples += 1234567.0; // the song was slower up to here, so samples do not tell the beat
+    };
+
+    const Song song { .script = fromBarFiveBeatThree, .numBlocks = 2 * blocksPerSecond };
+    const auto expected = onTheGrid (8, song.numBlocks * blockSize);
+
+    EXPECT_TRUE (sameOnsets (playVST3 (song), expected));
+    EXPECT_TRUE (sameOnsets (playLV2 (song, Talk::everyBlock), expected));
+    EXPECT_TRUE (sameOnsets (playLV2 (song, Talk::changesInBars), expected));
+}
+
+TEST_F (Plugin, JumpsOnceWhenTheSongDoes)
+{
+    constexpr auto jump = 500; // block
+    const auto threeBeatsOn = [] (TestPlayHead& playHead, int block) {
+        if (block == jump)
+            playHead.jumpTo (playHead.ppq + 3.0);
+    };
+
+    const Song song { .script = threeBeatsOn, .numBlocks = 600 };
+
+    // Three beats are twelve of the sixteenths, which stay where they were.
+    auto expected = onTheGrid (0, song.numBlocks * blockSize);
+
+    for (auto step = 0; auto& onset : expected.onsets)
+    {
+        if (onset.sample >= jump * blockSize)
+            onset = stepAt (step + 12, onset.sample);
+
+        ++step;
+    }
+
+    const auto cutShort = [&] (Performance performance) {
+        // The step that the jump lands in the middle of may sound for its rest.
+        std::erase_if (performance.onsets, [] (auto onset) { return onset.sample == jump * blockSize; });
+        return performance;
+    };
+
+    EXPECT_TRUE (sameOnsets (cutShort (playVST3 (song)), expected));
+
+    for (auto talk : { Talk::everyBlock, Talk::changesInBars, Talk::changesInFrames })
+        EXPECT_TRUE (sameOnsets (cutShort (playLV2 (song, talk)), expected)) << static_cast<int> (talk);
+}
+
+TEST_F (Plugin, FollowsTempoStopAndStartAlikeInEveryHost)
+{
+    struct Row
+    {
+        const char* name;
+        Song song;
+    };
+
+    const Row rows[] = {
+        { "tempo changes",
+          { .script = [] (auto& playHead, int block) { playHead.setTempo (60.0 + block / 50 * 7.3); },
+            .numBlocks = 800 } },
+        { "stop for a second, then on",
+          { .script = [] (auto& playHead, int block) { playHead.isPlaying = block / blocksPerSecond != 2; },
+            .numBlocks = 5 * blocksPerSecond } },
+        { "stopped from the start",
+          { .script = [] (auto& playHead, int) { playHead.stop(); }, .numBlocks = 2 * blocksPerSecond } },
+        { "stop, move, start",
+          { .script =
+                [] (auto& playHead, int block) {
+                    playHead.isPlaying = block < 200 || block > 300;
+
+                    if (block == 250)
+                        playHead.jumpTo (16.5);
+                },
+            .numBlocks = 500 } },
+        { "blocks of any size",
+          { .script = [] (auto& playHead, int block) { playHead.setTempo (block < 300 ? 133.0 : 171.0); },
+            .numBlocks = 900,
+            .blockSizes = { 256, 100, 156, 1, 255, 31 } } },
+    };
+
+    for (const auto& row : rows)
+    {
+        const auto expected = playVST3 (row.song);
+        EXPECT_GT (expected.onsets.size(), 5u) << row.name;
+        EXPECT_EQ (unbalanced (expected.events), "") << row.name;
+
+        for (auto talk : { Talk::everyBlock, Talk::changesInBars, Talk::changesInFrames })
+        {
+            // A count of samples alone tells the beat of a song with one tempo only.
+            if (talk == Talk::changesInFrames && std::string_view (row.name) != "stop for a second, then on")
+                continue;
+
+            const auto actual = playLV2 (row.song, talk);
+            EXPECT_TRUE (sameOnsets (actual, expected)) << row.name << ", talk " << static_cast<int> (talk);
+            EXPECT_EQ (unbalanced (actual.events), "") << row.name << ", talk " << static_cast<int> (talk);
+        }
+    }
+}
+
+TEST_F (Plugin, SendsTheArpeggioAsMidiAndSoundsIt)
+{
+    const Song song { .numBlocks = blocksPerSecond };
+
+    for (const auto& performance : { playVST3 (song), playLV2 (song, Talk::changesInBars) })
+    {
+        EXPECT_EQ (unbalanced (performance.events), "");
+        EXPECT_GT (performance.loudest, 0.001f);
+
+        for (const auto event : performance.events)
+            EXPECT_EQ (event.getMessage().getChannel(), 1);
+    }
+}
+
+TEST_F (Plugin, AllocatesNothingWhileAnLV2HostRunsIt)
+{
+    LV2Host host { VORNEL_LV2_LIBRARY, 48000.0, blockSize };
+    host.restore (chunkWithStairs());
+    play (host, { .numBlocks = blocksPerSecond }, Talk::everyBlock);
+
+    const juce::MidiBuffer noKeys;
+    const std::vector<LV2Message> start { { 0, { .frame = 0.0, .speed = 1.0, .beatsPerMinute = 120.0 } } };
+    const std::vector<LV2Message> nothing;
+
+    for (auto block = 0; block < blocksPerSecond; ++block)
+        EXPECT_EQ (host.heapCallsOfRun (blockSize, block == 10 ? start : nothing), 0) << "block " << block;
+}
+} // namespace
+} // namespace Zn::Test

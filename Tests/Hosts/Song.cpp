@@ -1,0 +1,177 @@
+#include "Hosts/Song.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace Zn::Test
+{
+namespace
+{
+using Testing::TestPlayHead;
+
+constexpr int keys[] = { 60, 64, 67 };
+constexpr auto samplesAfterTheKeys = 4096;
+constexpr auto largestBlock = 256;
+
+juce::MidiBuffer keysPressed (bool pressed)
+{
+    juce::MidiBuffer midi;
+
+    for (auto key : keys)
+        midi.addEvent (pressed ? juce::MidiMessage::noteOn (1, key, juce::uint8 { 100 })
+                               : juce::MidiMessage::noteOff (1, key),
+                       0);
+
+    return midi;
+}
+
+/** Runs the song block by block: process (block size, MIDI in) returns the MIDI that came out. */
+template <typename Process>
+Performance perform (const Song& song, TestPlayHead& playHead, Process&& process)
+{
+    Performance performance;
+    auto start = 0;
+
+    const auto run = [&] (int size, const juce::MidiBuffer& midi) {
+        performance.events.addEvents (process (size, midi), 0, -1, start);
+        playHead.advance (size);
+        start += size;
+    };
+
+    for (auto block = 0; block < song.numBlocks; ++block)
+    {
+        song.script (playHead, block);
+        run (song.blockSizes[static_cast<std::size_t> (block) % song.blockSizes.size()],
+             block == 0 ? keysPressed (true) : juce::MidiBuffer {});
+    }
+
+    for (const auto event : performance.events)
+        if (const auto message = event.getMessage(); message.isNoteOn())
+            performance.onsets.push_back ({ event.samplePosition, message.getNoteNumber() });
+
+    run (largestBlock, keysPressed (false));
+
+    for (const auto end = start + samplesAfterTheKeys; start < end;)
+        run (largestBlock, {});
+
+    return performance;
+}
+
+/** Tells an LV2 plug-in where a song is, as one kind of host does. */
+class Narrator
+{
+public:
+    Narrator (const TestPlayHead& playHeadToTellOf, Talk talkOfTheHost)
+        : playHead (playHeadToTellOf), talk (talkOfTheHost)
+    {}
+
+    std::vector<LV2Message> messagesOfBlock (int numSamples)
+    {
+        const auto samples = std::llround (playHead.samples);
+        const auto changed = ! expected || samples != *expected || playHead.isPlaying != wasPlaying
+                             || playHead.tempo != lastTempo;
+
+        wasPlaying = playHead.isPlaying;
+        lastTempo = playHead.tempo;
+        expected = wasPlaying ? samples + numSamples : samples;
+
+        if (! changed && talk != Talk::everyBlock)
+            return {};
+
+        return { { 0, position() } };
+    }
+
+private:
+    Audio::LV2Position position() const
+    {
+        constexpr auto beatsPerBar = 4.0;
+        const auto bar = std::floor (playHead.ppq / beatsPerBar);
+
+        Audio::LV2Position result;
+        result.frame = std::round (playHead.samples);
+        result.speed = playHead.isPlaying ? 1.0 : 0.0;
+        result.beatsPerMinute = playHead.tempo;
+
+        if (talk == Talk::changesInFrames)
+            return result;
+
+        result.bar = bar;
+        result.barBeat = playHead.ppq - bar * beatsPerBar;
+        result.beatsPerBar = beatsPerBar;
+        result.beatUnit = 4.0;
+
+        if (talk == Talk::everyBlock)
+            result.beat = playHead.ppq;
+
+        return result;
+    }
+
+    const TestPlayHead& playHead;
+    const Talk talk;
+    std::optional<long long> expected;
+    bool wasPlaying = false;
+    double lastTempo = 0.0;
+};
+} // namespace
+
+Performance play (LV2Host& host, const Song& song, Talk talk)
+{
+    TestPlayHead playHead { song.sampleRate, song.tempo };
+    Narrator narrator { playHead, talk };
+    auto loudest = 0.0f;
+
+    auto performance = perform (song, playHead, [&] (int size, const juce::MidiBuffer& midi) {
+        auto output = host.run (size, midi, narrator.messagesOfBlock (size));
+
+        for (auto i = 0; i < size; ++i)
+            loudest = std::max (loudest, std::abs (host.audioOutput (0)[static_cast<std::size_t> (i)]));
+
+        return output;
+    });
+    performance.loudest = loudest;
+    return performance;
+}
+
+Performance play (VST3Host& host, const Song& song)
+{
+    TestPlayHead playHead { song.sampleRate, song.tempo };
+    host.setPlayHead (&playHead);
+    auto loudest = 0.0f;
+
+    auto performance = perform (song, playHead, [&] (int size, const juce::MidiBuffer& midi) {
+        auto output = host.run (size, midi);
+        loudest = std::max (loudest, host.getAudio().getMagnitude (0, size));
+        return output;
+    });
+    performance.loudest = loudest;
+    host.setPlayHead (nullptr);
+    return performance;
+}
+
+testing::AssertionResult sameOnsets (const Performance& first, const Performance& second)
+{
+    const auto isSame = [] (const Performance::Onset& a, const Performance::Onset& b) {
+        return a.pitch == b.pitch && std::abs (a.sample - b.sample) <= 1;
+    };
+
+    const auto [a, b] = std::mismatch (first.onsets.begin(),
+                                       first.onsets.end(),
+                                       second.onsets.begin(),
+                                       second.onsets.end(),
+                                       isSame);
+
+    if (a == first.onsets.end() && b == second.onsets.end())
+        return testing::AssertionSuccess();
+
+    const auto text = [] (const Performance& performance, auto onset) {
+        return onset == performance.onsets.end()
+                   ? std::string ("nothing")
+                   : std::to_string (onset->pitch) + " @" + std::to_string (onset->sample);
+    };
+
+    return testing::AssertionFailure()
+           << "onset " << std::distance (first.onsets.begin(), a) << " is " << text (first, a) << " in one, "
+           << text (second, b) << " in the other";
+}
+} // namespace Zn::Test

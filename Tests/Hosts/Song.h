@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Hosts/LV2Host.h"
+#include "Hosts/VST3Host.h"
+#include "Support/TestPlayHead.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace Zn::Test
+{
+/** A piece of music for a host to play: a chord of C, E and G held from start to end, under a transport that the
+    script may move at the start of any block.
+*/
+struct Song
+{
+    std::function<void (Testing::TestPlayHead&, int block)> script = [] (auto&, int) {};
+    int numBlocks = 0;
+    std::vector<int> blockSizes { 256 }; // samples, taken in turn
+    double sampleRate = 48000.0;         // hertz
+    double tempo = 120.0;                // quarter notes a minute
+};
+
+/** What came out of the plug-in. */
+struct Performance
+{
+    struct Onset
+    {
+        int sample = 0, pitch = 0;
+    };
+
+    std::vector<Onset> onsets;
+    juce::MidiBuffer events; // all, by sample from the start; the keys are released at the very end
+    float loudest = 0.0f;    // of the audio
+};
+
+/** How much an LV2 host tells its plug-ins about the transport. */
+enum class Talk
+{
+    changesInBars,   // a message when something changes, in bars and beats
+    changesInFrames, // a message when something changes, in samples
+    everyBlock       // all there is to tell, in every block
+};
+
+Performance play (LV2Host& host, const Song& song, Talk talk);
+Performance play (VST3Host& host, const Song& song);
+
+/** Whether the same notes start in both, at most one sample apart. */
+testing::AssertionResult sameOnsets (const Performance& first, const Performance& second);
+} // namespace Zn::Test
