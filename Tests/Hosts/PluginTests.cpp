@@ -9,8 +9,6 @@ namespace Zn::Test
 {
 namespace
 {
-using Testing::TestPlayHead;
-
 constexpr auto samplesPerSixteenth = 6000; // at 120 quarter notes a minute and 48 kHz
 constexpr auto blockSize = 256;
 constexpr auto blocksPerSecond = 48000 / blockSize;

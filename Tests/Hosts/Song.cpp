@@ -8,8 +8,6 @@ namespace Zn::Test
 {
 namespace
 {
-using Testing::TestPlayHead;
-
 constexpr int keys[] = { 60, 64, 67 };
 constexpr auto samplesAfterTheKeys = 4096;
 constexpr auto largestBlock = 256;

@@ -17,7 +17,7 @@ namespace Zn::Test
 */
 struct Song
 {
-    std::function<void (Testing::TestPlayHead&, int block)> script = [] (auto&, int) {};
+    std::function<void (TestPlayHead&, int block)> script = [] (auto&, int) {};
     int numBlocks = 0;
     std::vector<int> blockSizes { 256 }; // samples, taken in turn
     double sampleRate = 48000.0;         // hertz
