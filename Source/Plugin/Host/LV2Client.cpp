@@ -10,6 +10,8 @@
 
 #include <juce_audio_plugin_client/juce_audio_plugin_client.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <optional>
 
@@ -123,13 +125,19 @@ public:
     /** Thread: audio. */
     void runBlock (std::uint32_t numSamples)
     {
-        readTransport();
+        readTransport (static_cast<int> (numSamples));
         run (numSamples);
         clock.advance (static_cast<int> (numSamples));
     }
 
 private:
-    void readTransport() noexcept
+    static int sampleInBlock (const LV2_Atom_Event& event, int numSamples) noexcept
+    {
+        return static_cast<int> (
+            std::clamp (event.time.frames, std::int64_t { 0 }, std::int64_t { numSamples }));
+    }
+
+    void readTransport (int numSamples) noexcept
     {
         if (events == nullptr || ! reader.isSequence (*events))
             return;
@@ -137,7 +145,7 @@ private:
         for (const auto* event :
              juce::lv2_shared::SequenceIterator { juce::lv2_shared::SequenceWithSize { events } })
             if (const auto message = reader.read (*event))
-                clock.receive (*message, static_cast<int> (event->time.frames));
+                clock.receive (*message, sampleInBlock (*event, numSamples));
     }
 
     juce::Optional<PositionInfo> getPosition() const override { return clock.getPosition(); }
