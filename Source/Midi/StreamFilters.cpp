@@ -14,18 +14,16 @@ bool isFirstByteOfMessage (std::uint8_t byte) noexcept
 }
 } // namespace
 
-void keepThreeByteMessages (juce::MidiBuffer& scratch, juce::MidiBuffer& buffer, int numSamples) noexcept
+void appendThreeByteMessages (const juce::MidiBuffer& source,
+                              juce::MidiBuffer& target,
+                              int numSamples) noexcept
 {
     jassert (numSamples > 0);
+    EventWriter kept (target);
 
-    EventWriter kept (scratch);
-    kept.clear();
-
-    for (const auto event : buffer)
+    for (const auto event : source)
         if (event.numBytes == 3 && isFirstByteOfMessage (event.data[0]))
             kept.add (event, std::clamp (event.samplePosition, 0, std::max (0, numSamples - 1)));
-
-    scratch.swapWith (buffer);
 }
 
 void flattenChannels (juce::MidiBuffer& scratch, juce::MidiBuffer& buffer) noexcept

@@ -4,13 +4,17 @@
 
 namespace Zn::Midi
 {
-// What a block does to its MIDI before anything listens. Each function collects its result in a scratch
-// buffer and swaps it with the one it is given, so that nothing is copied twice. Thread: audio.
+// What a block does to its MIDI before anything listens. Thread: audio.
 
-/** Keeps messages of exactly three bytes, and moves a sample outside the block to its nearest end: hosts send
-    such events, and all that follows relies on the range. A block has at least one sample.
+/** Appends a host's messages of exactly three bytes to a buffer of ours, and moves a sample outside the block to its
+    nearest end: hosts send such events, and all that follows relies on the range. A block has at least one sample.
 */
-void keepThreeByteMessages (juce::MidiBuffer& scratch, juce::MidiBuffer& buffer, int numSamples) noexcept;
+void appendThreeByteMessages (const juce::MidiBuffer& source,
+                              juce::MidiBuffer& target,
+                              int numSamples) noexcept;
+
+// The others collect their result in a scratch buffer and swap it with the one they are given, so that nothing is
+// copied twice.
 
 /** Moves every message that has a channel to channel 1. */
 void flattenChannels (juce::MidiBuffer& scratch, juce::MidiBuffer& buffer) noexcept;
