@@ -1,0 +1,42 @@
+#pragma once
+
+#include <juce_events/juce_events.h>
+
+#include <vector>
+
+namespace Zn::Events
+{
+class TimerCallback;
+
+/** The one timer behind all periodic work of the message thread, however many plug-in instances there are.
+
+    Callbacks may come and go at any time, also during a tick and from other threads: a removal waits for a
+    running tick, unless it happens inside it, and is not called afterwards. A callback must not wait for a
+    thread that adds or removes one.
+*/
+class SharedTimer : private juce::Timer
+{
+public:
+    static SharedTimer& getInstance();
+
+    SharedTimer();
+    ~SharedTimer() override;
+
+    /** Thread: any. */
+    void add (TimerCallback& callback);
+    void remove (TimerCallback& callback) noexcept;
+
+    /** Calls everyone once, as the clock does. Thread: message. */
+    void timerCallback() override;
+
+    static constexpr int intervalMilliseconds = 20;
+
+private:
+    void applyPending();
+
+    juce::CriticalSection lock; // held during callbacks; the message thread may take it again inside them
+    std::vector<TimerCallback*> active;  // null: removed during a tick
+    std::vector<TimerCallback*> pending; // added since the last tick
+    bool isTicking = false;
+};
+} // namespace Zn::Events
