@@ -40,7 +40,8 @@ public:
         ppq += numSamples * ppqPerSample();
         samples += numSamples;
 
-        while (loop.ppqEnd > loop.ppqStart && ppq >= loop.ppqEnd)
+        // Sums are not exact: what is a hair before the end has reached it.
+        while (loop.ppqEnd > loop.ppqStart && ppq > loop.ppqEnd - ppqPerSample() / 2.0)
         {
             ppq -= loop.ppqEnd - loop.ppqStart;
             samples -= (loop.ppqEnd - loop.ppqStart) / ppqPerSample();

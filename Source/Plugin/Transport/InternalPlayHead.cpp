@@ -8,6 +8,16 @@ namespace Zn::Audio
 {
 namespace
 {
+/** Rounds a position to 2^-30 of a quarter note, far below a sample. A step on the grid then starts at its own
+    sample, and not one early because a sum came out a hair too large. Adding a number whose last binary digit
+    has that weight does it.
+*/
+double rounded (double ppq) noexcept
+{
+    constexpr auto shift = 1.5 * (1 << (52 - 30));
+    return (ppq + shift) - shift;
+}
+
 constexpr auto defaultTempo = 100.0;
 constexpr auto slowestTempo = 1.0;
 constexpr auto fastestTempo = 10000.0; // far beyond music, near enough that no step is shorter than a sample
@@ -171,7 +181,7 @@ bool InternalPlayHead::isAwayFrom (std::int64_t time) const noexcept
 void InternalPlayHead::fillPlaying (int numSamples) noexcept
 {
     for (auto i = 0; i < numSamples; ++i)
-        ppqBySample[static_cast<std::size_t> (i)] = startPpq + i * ppqPerSample;
+        ppqBySample[static_cast<std::size_t> (i)] = rounded (startPpq + i * ppqPerSample);
 
     if (loop.ppqEnd > loop.ppqStart)
         for (auto& ppq : ppqBySample)
