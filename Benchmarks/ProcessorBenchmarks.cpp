@@ -1,0 +1,94 @@
+#include "Plugin/Vornel/Processor.h"
+
+#include <benchmark/benchmark.h>
+
+namespace Zn::Audio::Plugins::Vornel
+{
+namespace
+{
+constexpr double rate = 48000.0;
+constexpr int columns = 64, rows = 8;
+
+/** A host that plays a dense pattern on some held keys, block by block. */
+class Performance
+{
+public:
+    Performance (int blockSize, int numHeldKeys) : audio (2, blockSize)
+    {
+        processor.setPlayHead (&playHead);
+        processor.prepareToPlay (rate, blockSize);
+        midi.ensureSize (32768);
+        draw();
+
+        for (auto key = 0; key < numHeldKeys; ++key)
+            midi.addEvent (juce::MidiMessage::noteOn (1, 48 + 3 * key, juce::uint8 (100)), 0);
+
+        nextBlock();
+    }
+
+    ~Performance() { processor.setPlayHead (nullptr); }
+
+    void nextBlock()
+    {
+        processor.processBlock (audio, midi);
+        midi.clear();
+        playHead.samples += audio.getNumSamples();
+    }
+
+private:
+    struct Song : juce::AudioPlayHead
+    {
+        juce::Optional<PositionInfo> getPosition() const override
+        {
+            PositionInfo position;
+            position.setIsPlaying (true);
+            position.setBpm (120.0);
+            position.setTimeInSamples (samples);
+            position.setPpqPosition (double (samples) * 2.0 / rate);
+            return position;
+        }
+
+        juce::int64 samples = 0;
+    };
+
+    void draw()
+    {
+        auto& patterns = processor.getState().patterns;
+        const Sequencer::PatternController::Edit edit (patterns);
+        auto& slot = patterns.getSlots().front();
+        slot.reset();
+        slot.pattern.grid = columns;
+
+        for (auto column = 0; column < columns; ++column)
+            for (auto row = 0; row < rows; ++row)
+            {
+                Sequencer::TimedNote step;
+                step.time = { column / double (columns), 0.98 / columns };
+                step.event.noteNum = 62 + row;
+                step.enabled = true;
+                slot.pattern.steps.push_back (step);
+            }
+    }
+
+    Processor processor;
+    Song playHead;
+    juce::AudioBuffer<float> audio;
+    juce::MidiBuffer midi;
+};
+
+void densePattern (benchmark::State& run)
+{
+    const auto blockSize = static_cast<int> (run.range (0));
+    Performance performance (blockSize, static_cast<int> (run.range (1)));
+
+    for (auto _ : run)
+        performance.nextBlock();
+
+    // The share of its deadline that a block takes: 1 is too late.
+    run.counters["deadline"] = benchmark::Counter (double (run.iterations()) * blockSize / rate,
+                                                   benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+}
+
+BENCHMARK (densePattern)->ArgsProduct ({ { 64, 128, 512 }, { 0, 4, 10 } })->ArgNames ({ "block", "keys" });
+} // namespace
+} // namespace Zn::Audio::Plugins::Vornel

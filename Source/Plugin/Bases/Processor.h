@@ -1,0 +1,73 @@
+#pragma once
+
+#include "Plugin/Bases/Base.h"
+
+namespace Zn::Audio::Plugin
+{
+/** The frame around a block: what must be right before any musical work begins.
+
+    A block always leaves with its audio input cleared. Mono blocks and blocks of no samples go no further. Rates and
+    sizes that make no sense are replaced, so that everything behind this class may rely on them.
+*/
+template <typename StateType>
+class Processor : public Base<StateType>
+{
+public:
+    using Base<StateType>::Base;
+
+    void prepareToPlay (double sampleRate, int maxBlockSize) final
+    {
+        const auto usable = sampleRate > 0.0 && maxBlockSize > 0;
+        prepare (usable ? sampleRate : defaultSampleRate, usable ? maxBlockSize : defaultBlockSize);
+    }
+
+    void processBlock (juce::AudioBuffer<float>& audio, juce::MidiBuffer& midi) final
+    {
+        const juce::ScopedNoDenormals noDenormals;
+        audio.clear();
+
+        if (audio.getNumChannels() < 2)
+            return;
+
+        if (audio.getNumSamples() == 0)
+            keepForNextBlock (midi);
+        else
+            process (audio, midi);
+    }
+
+    void processBlockBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& midi) final
+    {
+        const juce::ScopedNoDenormals noDenormals;
+        audio.clear();
+
+        if (audio.getNumChannels() < 2)
+            return;
+
+        if (audio.getNumSamples() == 0)
+            keepForNextBlock (midi);
+        else
+            processBypassed (audio, midi);
+    }
+
+    using juce::AudioProcessor::processBlock;
+    using juce::AudioProcessor::processBlockBypassed;
+
+    void releaseResources() override {}
+
+protected:
+    static constexpr double defaultSampleRate = 44100.0;
+    static constexpr int defaultBlockSize = 512;
+
+    /** Sizes everything. sampleRate and maxBlockSize are above 0. Thread: prepare. */
+    virtual void prepare (double sampleRate, int maxBlockSize) = 0;
+
+    /** At least one sample of cleared stereo audio, and the host's MIDI, which becomes ours. Thread: audio. */
+    virtual void process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& midi) noexcept = 0;
+
+    /** The same while the host bypasses the plug-in. Thread: audio. */
+    virtual void processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& midi) noexcept = 0;
+
+    /** There is no sample to place these messages on: takes them out of `midi` until there is. Thread: audio. */
+    virtual void keepForNextBlock (juce::MidiBuffer& midi) noexcept = 0;
+};
+} // namespace Zn::Audio::Plugin

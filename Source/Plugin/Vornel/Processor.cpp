@@ -1,0 +1,75 @@
+#include "Plugin/Vornel/Processor.h"
+
+#include "Foundation/Events/GarbageCollector.h"
+#include "Plugin/Transport/ClockSelection.h"
+
+namespace Zn::Audio::Plugins::Vornel
+{
+Processor::Processor()
+    : midi (*state), patternListener (state->patterns.getAudioBroadcaster(), [this] { publishPatterns(); })
+{
+    learnWriter.publish ([this] (Midi::Learn::State& frame) { frame.learner = &state->learner; });
+    publishPatterns();
+    prepare (defaultSampleRate, defaultBlockSize);
+}
+
+Processor::~Processor()
+{
+    patternListener.detach();
+    learnWriter.replaceAll ({});
+    patternWriter.replaceAll ({});
+    Events::GarbageCollector::getInstance().collectNow();
+}
+
+void Processor::setStartSlot (int slot) noexcept
+{
+    state->liveSlots->index.store (slot);
+    state->liveSlots->heard.store (slot);
+}
+
+void Processor::prepare (double sampleRate, int maxBlockSize)
+{
+    auto& blockTransport = playHeads.front();
+    blockTransport.prepare (sampleRate, maxBlockSize);
+    state->playHead->isPlaying.exchange (true);
+
+    for (auto& spare : std::span (playHeads).subspan (1))
+        spare.prepare (sampleRate, maxBlockSize);
+
+    midi.prepare (maxBlockSize);
+}
+
+void Processor::process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept
+{
+    const auto& patterns = patternReader.newest();
+    const auto block = advanceClock (audio.getNumSamples());
+
+    midi.process (hostMidi, block, patterns, learnReader.newest());
+}
+
+void Processor::processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept
+{
+    const auto& patterns = patternReader.newest();
+    const auto block = advanceClock (audio.getNumSamples());
+
+    midi.processBypassed (hostMidi, block, patterns, learnReader.newest());
+}
+
+Sequencer::ClockSlice Processor::advanceClock (int numSamples) noexcept
+{
+    auto& clock = playHeads.front();
+    updateClock (clock, *state->playHead, getPlayHead(), state->keyMode.load(), numSamples);
+    return TransportSlice (clock).clock();
+}
+
+void Processor::publishPatterns()
+{
+    JUCE_ASSERT_MESSAGE_THREAD
+
+    patternWriter.publish ([this] (Sequencer::PatternFrame& frame) {
+        frame.patterns = state->patterns.getPatternData();
+        frame.liveSlots = state->liveSlots;
+        frame.playHead = state->playHead;
+    });
+}
+} // namespace Zn::Audio::Plugins::Vornel

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "Foundation/Events/Listener.h"
+#include "Foundation/GUIToRealTime.h"
+#include "Plugin/Bases/Processor.h"
+#include "Plugin/Transport/TransportSlice.h"
+#include "Plugin/Vornel/MidiPipeline.h"
+#include "Plugin/Vornel/State.h"
+#include "Sequencer/PatternFrame.h"
+
+#include <array>
+
+namespace Zn::Audio::Plugins::Vornel
+{
+/** The one object that the host calls on its audio thread: each block it takes the newest pattern, moves the clock, and
+    turns the host's MIDI into the pattern's notes.
+*/
+class Processor : public Plugin::Processor<State>
+{
+public:
+    Processor();
+    ~Processor() override;
+
+    /** Makes the chance of steps repeatable, for renders that must agree. Thread: prepare. */
+    void setSeed (juce::int64 seed) noexcept { midi.setSeed (seed); }
+
+    /** Chooses the slot that the next block begins with, without waiting for the quantum. Thread: prepare. */
+    void setStartSlot (int slot) noexcept;
+
+protected:
+    void prepare (double sampleRate, int maxBlockSize) override;
+    void process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept override;
+    void processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept override;
+    void keepForNextBlock (juce::MidiBuffer& hostMidi) noexcept override { midi.keepForNextBlock (hostMidi); }
+
+private:
+    using PatternRing = GUIToRealTime<Sequencer::PatternFrame, 5>;
+    using LearnRing = GUIToRealTime<Midi::Learn::State, 5>;
+
+    void publishPatterns();
+    Sequencer::ClockSlice advanceClock (int numSamples) noexcept;
+
+    PatternRing patternRing;
+    PatternRing::Writer patternWriter = patternRing.getWriter(); // thread: message
+    PatternRing::Reader patternReader = patternRing.getReader();
+
+    LearnRing learnRing;
+    LearnRing::Writer learnWriter = learnRing.getWriter(); // thread: message
+    LearnRing::Reader learnReader = learnRing.getReader();
+
+    /** The first is the block's transport; the others are prepared with it and stand still. */
+    std::array<InternalPlayHead, 4> playHeads;
+
+    MidiPipeline midi;
+    Events::Listener patternListener;
+};
+} // namespace Zn::Audio::Plugins::Vornel
