@@ -7,10 +7,8 @@ namespace Zn::Audio
 ForwardingParameter::ForwardingParameter (const juce::ParameterID& identifierToUse,
                                           ParamHolderBase& targetHolder,
                                           ManagedParameters& managed,
-                                          juce::String nameToUse)
-    : HostedAudioProcessorParameter (identifierToUse.getVersionHint())
-    , name (std::move (nameToUse))
-    , identifier (identifierToUse.getParamID())
+                                          const juce::String& nameToUse)
+    : AudioProcessorParameterWithID (identifierToUse, nameToUse)
     , target (targetHolder.getParameter())
     , rangedTarget (dynamic_cast<const juce::RangedAudioParameter*> (&target))
     , owned (target.getParameterIndex() < 0 ? managed.manage (targetHolder) : nullptr)

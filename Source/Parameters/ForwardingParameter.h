@@ -11,10 +11,13 @@ namespace Zn::Audio
 /** What the host sees of a parameter: an identifier and a name of its own, and for everything else the target's
     answers. Either side may be set from any thread; each learns of the other's change once.
 
+    JUCE's format clients take a stable identifier from AudioProcessorParameterWithID only; they would number any other
+    parameter, and a project would break when one is inserted.
+
     The host reads back exactly the value that was last set, as long as the target still has it: through a curved
     range and back a value could differ in its last digit, and a project would not be saved as it was loaded.
 */
-class ForwardingParameter : public juce::HostedAudioProcessorParameter,
+class ForwardingParameter : public juce::AudioProcessorParameterWithID,
                             private juce::AudioProcessorParameter::Listener
 {
 public:
@@ -24,12 +27,11 @@ public:
     ForwardingParameter (const juce::ParameterID& identifierToUse,
                          ParamHolderBase& targetHolder,
                          ManagedParameters& managed,
-                         juce::String nameToUse = {});
+                         const juce::String& nameToUse = {});
     ~ForwardingParameter() override;
 
     juce::AudioProcessorParameter& getTarget() const noexcept { return target; }
 
-    juce::String getParameterID() const override { return identifier; }
     juce::String getName (int maximumLength) const override;
     float getValue() const override;
     void setValue (float normalised) override;
@@ -54,8 +56,6 @@ private:
     std::optional<float> legal (float normalised) const noexcept;
     bool targetHas (float legalNormalised) const noexcept;
 
-    const juce::String name;
-    const juce::String identifier;
     juce::AudioProcessorParameter& target;
     const juce::RangedAudioParameter* const rangedTarget; // the same one, or null
     const ManagedParameters::Handle owned;                // keeps the target when the managed list is gone

@@ -1,4 +1,3 @@
-#include "Hosts/PatternChunk.h"
 #include "Hosts/Song.h"
 #include "Support/NoteStreams.h"
 #include "Support/RealTimeGuard.h"
@@ -13,12 +12,11 @@ constexpr auto samplesPerSixteenth = 6000; // at 120 quarter notes a minute and 
 constexpr auto blockSize = 256;
 constexpr auto blocksPerSecond = 48000 / blockSize;
 
-/** The pitch of a step of the stairs over a held chord of C, E and G. */
+/** The pitch that a step of a new instance's pattern plays over a held chord of C, E and G. */
 int pitchOfStep (int step)
 {
-    constexpr int chord[] = { 60, 64, 67 };
-    const auto row = step % numTestSteps;
-    return chord[row % 3] + 12 * (row / 3);
+    constexpr std::array pitches { 60, 64, 67, 72, 76, 72, 67, 64, 67, 72, 76, 79, 84, 76, 72, 67 };
+    return pitches[static_cast<size_t> (step) % pitches.size()];
 }
 
 Performance::Onset stepAt (int step, int sample)
@@ -43,14 +41,12 @@ protected:
     Performance playLV2 (const Song& song, Talk talk)
     {
         LV2Host host { VORNEL_LV2_LIBRARY, song.sampleRate, blockSize };
-        host.restore (chunkWithStairs());
         return play (host, song, talk);
     }
 
     Performance playVST3 (const Song& song)
     {
         VST3Host host { VORNEL_VST3_BUNDLE, song.sampleRate, blockSize };
-        host.restore (chunkWithStairs());
         return play (host, song);
     }
 
@@ -173,14 +169,14 @@ TEST_F (Plugin, FollowsTempoStopAndStartAlikeInEveryHost)
     }
 }
 
-TEST_F (Plugin, SendsTheArpeggioAsMidiAndSoundsIt)
+TEST_F (Plugin, SendsTheArpeggioAsMidi)
 {
     const Song song { .numBlocks = blocksPerSecond };
 
     for (const auto& performance : { playVST3 (song), playLV2 (song, Talk::changesInBars) })
     {
         EXPECT_EQ (unbalanced (performance.events), "");
-        EXPECT_GT (performance.loudest, 0.001f);
+        EXPECT_FALSE (performance.onsets.empty());
 
         for (const auto event : performance.events)
             EXPECT_EQ (event.getMessage().getChannel(), 1);
@@ -190,7 +186,6 @@ TEST_F (Plugin, SendsTheArpeggioAsMidiAndSoundsIt)
 TEST_F (Plugin, AllocatesNothingWhileAnLV2HostRunsIt)
 {
     LV2Host host { VORNEL_LV2_LIBRARY, 48000.0, blockSize };
-    host.restore (chunkWithStairs());
     play (host, { .numBlocks = blocksPerSecond }, Talk::everyBlock);
 
     const juce::MidiBuffer noKeys;

@@ -13,6 +13,7 @@ from pathlib import Path
 KNOWN_ERRORS = (
     ("Subject not in domain", "doap#maintainer"),
     ("Subject not in domain", "doap#release"),
+    ("Subject not in domain", "lv2core#portProperty"),  # of a parameter with steps, which is no port
     ("Object not in range", "ui#noUserResize"),
     ("Object not in range", "options#interface"),
     ("Use of undefined property", ":Program"),
