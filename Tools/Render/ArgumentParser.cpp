@@ -217,7 +217,7 @@ Options parseArguments (std::span<const std::string> arguments)
 
 std::string helpText()
 {
-    constexpr std::size_t column = 28;
+    constexpr std::size_t column = 29;
     std::string text = "Usage: vornel-render [options] INPUT.mid\n\n"
                        "Plays a MIDI file through Vornel, as a host does, and writes what comes out.\n\n";
 

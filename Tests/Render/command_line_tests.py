@@ -1,0 +1,133 @@
+#!/usr/bin/env python3
+"""Calls vornel-render as a user does: command_line_tests.py PROGRAM EXAMPLES"""
+
+import json
+import os
+import random
+import signal
+import struct
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+from pathlib import Path
+
+PROGRAM, EXAMPLES = Path(sys.argv[1]), Path(sys.argv[2])
+CHORALE = EXAMPLES / "old-hundredth.mid"
+QUICK = ["--sample-rate", "8000", "--tail", "0"]
+
+
+class CommandLine(unittest.TestCase):
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        self.folder = Path(scratch.name)
+
+    def call(self, *arguments):
+        return subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, text=True, timeout=120)
+
+    def expect_failure(self, status, message, *arguments):
+        before = sorted(self.folder.iterdir())
+        result = self.call(*arguments)
+        self.assertEqual(result.returncode, status, result.stderr)
+        self.assertIn(message, result.stderr)
+        self.assertTrue(result.stderr.startswith("vornel-render: ") and result.stderr.count("\n") == 1, result.stderr)
+        self.assertEqual(result.stdout, "")
+        self.assertEqual(sorted(self.folder.iterdir()), before, "something was left behind")
+
+    def file(self, data):
+        path = self.folder / "input.mid"
+        path.write_bytes(data)
+        return path
+
+    def refuse_input(self, message, path):
+        self.expect_failure(1, message, path, "--out-events", self.folder / "events.jsonl", *QUICK)
+
+    def test_explains_itself(self):
+        self.assertIn("--out-wav FILE", self.call("--help").stdout)
+        self.assertRegex(self.call("--version").stdout, r"^vornel-render \d+\.\d+\.\d+\n$")
+        self.assertRegex(self.call("--list-params").stdout, r"^ID +Name +Value +Range\n")
+
+    def test_refuses_wrong_arguments(self):
+        out = self.folder / "events.jsonl"
+        self.expect_failure(2, "--help", "--frobnicate")
+        self.expect_failure(2, "nothing to write", CHORALE)
+        self.expect_failure(2, "--list-params", CHORALE, "--out-events", out, "--set", "Nonsense=1")
+        self.expect_failure(2, "10 milliseconds", CHORALE, "--out-events", out, "--loop", "1:1.001")
+
+    def test_refuses_what_is_no_midi_file(self):
+        self.refuse_input("does not exist", self.folder / "missing.mid")
+        self.refuse_input("is a directory", self.folder)
+        self.refuse_input("is empty", self.file(b""))
+        self.refuse_input("is not a MIDI file", self.file(random.Random(1).randbytes(5000)))
+        self.refuse_input("SMPTE", self.file(b"MThd\0\0\0\6\0\0\0\0\xe7\x28"))
+
+    def test_refuses_truncated_files(self):
+        whole = CHORALE.read_bytes()
+
+        for size in [*range(1, 40), *range(40, len(whole), 97), len(whole) - 1]:
+            with self.subTest(size=size):
+                self.refuse_input("truncated", self.file(whole[:size]))
+
+    def test_refuses_places_that_cannot_be_written(self):
+        below_a_file = self.file(b"x") / "out"
+
+        for option in ("--out-wav", "--out-midi", "--out-events"):
+            for place in (self.folder, self.folder / "none" / "out", below_a_file, Path("/dev/null")):
+                with self.subTest(option=option, place=place):
+                    self.expect_failure(1, f"{place}: cannot be written", CHORALE, option, place, *QUICK)
+
+    def test_renders_every_example(self):
+        wav, midi, events = (self.folder / name for name in ("out.wav", "out.mid", "out.jsonl"))
+
+        for example in sorted(EXAMPLES.glob("*.mid")):
+            with self.subTest(example=example.name):
+                result = self.call(example, "--out-wav", wav, "--out-midi", midi, "--out-events", events,
+                                   "--sample-rate", 16000, "--block", "random:1:700", "--seed", 1)
+                self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "", ""))
+
+                frames = (wav.stat().st_size - wav.read_bytes().index(b"data") - 8) / 6
+                lines = [json.loads(line) for line in events.read_text().splitlines()]
+                samples = [line["sample"] for line in lines]
+                self.assertGreater(len(lines), 100)
+                self.assertEqual(samples, sorted(samples))
+                self.assertLess(samples[-1], frames)
+                self.assertEqual(midi.read_bytes()[18:22], struct.pack(">I", midi.stat().st_size - 22))
+                self.assertEqual(self.call(midi, "--out-events", events, *QUICK).returncode, 0, "its own output")
+
+    def test_repeats_a_render_with_the_same_seed(self):
+        renders = []
+
+        for name in ("first", "second"):
+            path = self.folder / name
+            self.call(CHORALE, "--seed", 5, "--out-wav", path, *QUICK)
+            renders.append(path.read_bytes())
+
+        self.assertEqual(*renders)
+
+    def test_needs_no_more_memory_for_a_longer_render(self):
+        usage = []
+
+        for seconds in (1, 900):
+            out = self.folder / "out.wav"
+            call = [PROGRAM, CHORALE, "--out-wav", out, "--sample-rate", "8000", "--tail", str(seconds)]
+            process = subprocess.Popen(call)
+            _, process.returncode, used = os.wait4(process.pid, 0)
+            usage.append(used.ru_maxrss)
+
+        self.assertLess(usage[1] - usage[0], 8000, "kilobytes; the longer file has 43 megabytes")
+
+    def test_leaves_nothing_behind_when_it_is_interrupted(self):
+        process = subprocess.Popen([PROGRAM, CHORALE, "--out-wav", self.folder / "out.wav", "--tail", "3600"])
+
+        while not list(self.folder.iterdir()) and process.poll() is None:
+            time.sleep(0.01)
+
+        process.send_signal(signal.SIGINT)
+        self.assertEqual(process.wait(30), 130)
+        self.assertEqual(list(self.folder.iterdir()), [])
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
