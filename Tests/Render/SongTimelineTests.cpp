@@ -47,20 +47,19 @@ TEST (MeterMap, FindsTheBarLineBeforeAPosition)
         EXPECT_DOUBLE_EQ (meters.barStartAt (position), barStart) << position;
 }
 
-TEST (SongTimeline, PlacesAPositionOnTheFirstSampleThatHasReachedIt)
+TEST (SongTimeline, PlacesAPositionOnTheLastSampleThatIsNotBehindIt)
 {
-    const auto timeline = looped (3.0, 7.0);
+    const auto timeline = looped (3.0, 7.1);
 
     for (std::int64_t pass = 0; pass < 40; ++pass)
-        for (auto quarters = pass == 0 ? 0.0 : 3.0; quarters < 7.0; quarters += 0.0625)
+        for (auto quarters = pass == 0 ? 0.0 : 3.0; quarters < 7.1; quarters += 0.0625)
         {
+            const auto elapsed = timeline.elapsedQuartersAt (pass, quarters);
             const auto sample = timeline.sampleAt (pass, quarters);
-            const auto at = timeline.pointAt (sample);
-            const auto before = timeline.pointAt (sample - 1);
 
-            EXPECT_EQ (at.pass, pass) << quarters;
-            EXPECT_GE (at.quarters, quarters - 1.0e-9);
-            EXPECT_TRUE (before.pass < pass || before.quarters < quarters) << quarters;
+            EXPECT_LE (timeline.pointAt (sample).elapsedQuarters, elapsed + 1.0e-8)
+                << pass << " " << quarters;
+            EXPECT_GT (timeline.pointAt (sample + 1).elapsedQuarters, elapsed) << pass << " " << quarters;
         }
 }
 

@@ -63,7 +63,7 @@ std::int64_t SongTimeline::getLengthSamples() const noexcept
 
 std::int64_t SongTimeline::sampleFromSeconds (double seconds) const noexcept
 {
-    return static_cast<std::int64_t> (std::ceil (seconds * sampleRate - roundingSamples));
+    return static_cast<std::int64_t> (std::floor (seconds * sampleRate + roundingSamples));
 }
 
 double SongTimeline::secondsBefore (std::int64_t pass) const noexcept

@@ -35,7 +35,8 @@ public:
 
     SongPoint pointAt (std::int64_t sample) const noexcept;
 
-    /** The first sample at or after the position, in the given pass. */
+    /** The last sample not behind the position, in the given pass: what happens there is in time for what the
+        processor starts at the position. */
     std::int64_t sampleAt (std::int64_t pass, double quarters) const noexcept;
 
     /** Musical time since the start of the render at a position of the given pass. */
