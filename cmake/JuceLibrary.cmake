@@ -13,8 +13,7 @@ target_link_libraries (zn_juce
     PRIVATE
         juce::juce_audio_utils
     PUBLIC
-        PkgConfig::ZN_JUCE_CODECS
-        juce::juce_recommended_config_flags)
+        PkgConfig::ZN_JUCE_CODECS)
 
 target_compile_definitions (zn_juce
     PUBLIC
@@ -30,6 +29,13 @@ target_compile_definitions (zn_juce
         $<TARGET_PROPERTY:zn_juce,COMPILE_DEFINITIONS>)
 
 target_include_directories (zn_juce SYSTEM INTERFACE $<TARGET_PROPERTY:zn_juce,INCLUDE_DIRECTORIES>)
+
+# Under a sanitizer our own code is optimised as its preset says; JUCE is not, which halves the time it takes to compile.
+if (VORNEL_SANITIZER)
+    target_compile_options (zn_juce PRIVATE -O0)
+else()
+    target_link_libraries (zn_juce PUBLIC juce::juce_recommended_config_flags)
+endif()
 
 # Whatever a program does not use is left out of it.
 target_compile_options (zn_juce PRIVATE -w -ffunction-sections -fdata-sections)
