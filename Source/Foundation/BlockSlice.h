@@ -13,5 +13,5 @@ struct BlockSlice
     constexpr bool operator== (const BlockSlice&) const = default;
 };
 
-static_assert (BlockSlice{ 0, 64 }.from (16).upTo (48) == BlockSlice{ 16, 32 });
+static_assert (BlockSlice { 0, 64 }.from (16).upTo (48) == BlockSlice { 16, 32 });
 } // namespace Zn

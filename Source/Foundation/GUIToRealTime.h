@@ -7,11 +7,11 @@
 namespace Zn
 {
 /** Hands the newest of a stream of values from one thread to another: neither waits, nothing is copied twice,
-   and the frame that the reader holds is never written.
+    and the frame that the reader holds is never written.
 
     One thread owns the Writer, one other the Reader; each class offers only what its thread may do. Frame 0
-   holds the initial value, so a reader is valid before the first write. N is at least 4: one frame held by
-   the reader, one newest, one being written, one that a slow reader may be about to take.
+    holds the initial value, so a reader is valid before the first write. N is at least 4: one frame held by
+    the reader, one newest, one being written, one that a slow reader may be about to take.
 */
 template <typename T, int N>
 class GUIToRealTime
@@ -47,7 +47,7 @@ public:
     explicit Writer (GUIToRealTime& ringToUse) noexcept : ring (ringToUse) {}
 
     /** Calls fill (T&) on a frame that nobody reads, then makes it the newest. The frame holds an old value,
-       whose resources are released here, on the writer's thread.
+        whose resources are released here, on the writer's thread.
     */
     template <typename Fill>
     void publish (Fill&& fill)
@@ -61,8 +61,8 @@ public:
         ring.writeIndex.exchange (next (index));
     }
 
-    /** Sets every frame but the one that the reader holds to a value and publishes it: nothing old stays alive
-       in the others.
+    /** Sets every frame but the one that the reader holds to a value and publishes it: nothing old
+        stays alive in the others.
     */
     void replaceAll (const T& value)
     {

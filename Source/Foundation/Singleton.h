@@ -11,9 +11,9 @@
 /** Objects that exist once in a process, however many plug-in instances it holds.
 
     `Singleton::get<T> (arguments...)` builds T from the arguments on its first use and returns the same
-   object ever after. Whoever uses one keeps a UserToken while it does (each processor has one, and through it
-   all it owns). When the last token goes, all objects are deleted in reverse order of their creation; a later
-   first use builds anew. Thread: any, but on the audio thread only what is known to exist.
+    object ever after. Whoever uses one keeps a UserToken while it does (each processor has one, and through
+    it all it owns). When the last token goes, all objects are deleted in reverse order of their creation; a
+    later first use builds anew. Thread: any, but on the audio thread only what is known to exist.
 */
 namespace Zn::Singleton
 {
@@ -113,8 +113,8 @@ private:
     T object;
 };
 
-/** The one T of this process, valid as long as the caller's UserToken. Its constructor may ask for others,
-   not for itself.
+/** The one T of this process, valid as long as the caller's UserToken. Its constructor may ask
+    for others, not for itself.
 */
 template <typename T, typename... Args>
 T& get (Args&&... args)

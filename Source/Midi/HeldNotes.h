@@ -6,7 +6,7 @@
 namespace Zn::Midi
 {
 /** The keys that are held at the arpeggiator's input, in the order in which they were pressed. Thread: audio.
- */
+*/
 class HeldNotes : public NoteList
 {
 public:

@@ -9,7 +9,7 @@ namespace Zn::Sequencer
 /** The clock over a run of samples: what the transport tells the pattern engine, as a plain value.
 
     Positions are quarter notes from the start of the song, one for each sample; they may go back inside a
-   slice where the host's loop wraps. The referenced positions live as long as the block. Thread: audio.
+    slice where the host's loop wraps. The referenced positions live as long as the block. Thread: audio.
 */
 struct ClockSlice
 {

@@ -7,7 +7,7 @@
 namespace Zn::Sequencer
 {
 /** The sample at which a run passes a position: the first that is not above it while the next one is, or that
-   stands still on it. The run's last sample where there is none, as behind the run's end.
+    stands still on it. The run's last sample where there is none, as behind the run's end.
 
     Positions are one for each sample, at least one, and may fall. Thread: any.
 */

@@ -67,8 +67,9 @@ struct EventPlayer::Run
         return isRising ? crossingSampleOfRising (positions, position) : crossingSample (positions, position);
     }
 
-    /** Collects the pointers to what overlaps the run; the list is sorted, so what follows it need not be
-     * looked at. */
+    /** Collects the pointers to what overlaps the run; the list is sorted, so what follows
+        it need not be looked at.
+    */
     template <typename Element>
     void gather (const std::vector<Element>& list, std::vector<const Element*>& candidates) const noexcept
     {

@@ -17,8 +17,9 @@ struct RenderedSlot
     RenderedEvents events;
 };
 
-/** All eight patterns, rendered. Built on the message thread, constant once it is published; the collector
- * frees it. */
+/** All eight patterns, rendered. Built on the message thread, constant once it is
+    published; the collector frees it.
+*/
 struct PatternData
 {
     std::array<RenderedSlot, numSlots> slots;

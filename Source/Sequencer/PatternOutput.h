@@ -7,8 +7,9 @@
 
 namespace Zn::Sequencer
 {
-/** Where a run of the engine writes what it plays: note messages that name rows, and the marks it passed.
- * Thread: audio. */
+/** Where a run of the engine writes what it plays: note messages that name rows, and the marks
+    it passed. Thread: audio.
+*/
 struct PatternOutput
 {
     juce::MidiBuffer& rows;

@@ -8,14 +8,14 @@ namespace Zn::Sequencer
 /** The transport as the editor and the audio thread share it. One object for the processor's life.
 
     To move the internal clock the editor stores `positionPpq`, then `positionSamples`: the audio thread takes
-   a changed sample count for a jump.
+    a changed sample count for a jump.
 */
 struct PlayHead
 {
-    std::atomic<bool> isPlaying{ false };     // written: audio; GUI while the internal clock is in force
-    std::atomic<float> bpm{ 100.0f };         // written: audio from the host; GUI otherwise
-    std::atomic<bool> internalClock{ false }; // true: ignore the host's clock; written: GUI
-    std::atomic<double> positionPpq{ 0.0 };   // quarter notes at the end of the last block
-    std::atomic<std::int64_t> positionSamples{ 0 }; // samples at the end of the last block
+    std::atomic<bool> isPlaying { false };     // written: audio; GUI while the internal clock is in force
+    std::atomic<float> bpm { 100.0f };         // written: audio from the host; GUI otherwise
+    std::atomic<bool> internalClock { false }; // true: ignore the host's clock; written: GUI
+    std::atomic<double> positionPpq { 0.0 };   // quarter notes at the end of the last block
+    std::atomic<std::int64_t> positionSamples { 0 }; // samples at the end of the last block
 };
 } // namespace Zn::Sequencer

@@ -24,8 +24,9 @@ class SwingWarp
 public:
     explicit SwingWarp (SwingSettings settings) noexcept;
 
-    /** Where a time in quarter notes is moved to. Rises with the time, and leaves whole cycles where they
-     * are. */
+    /** Where a time in quarter notes is moved to. Rises with the time, and leaves
+        whole cycles where they are.
+    */
     double moved (double time) const noexcept;
 
     /** Moves both ends of a span; the length never gets negative. */

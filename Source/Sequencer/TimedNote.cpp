@@ -9,7 +9,7 @@ namespace Zn::Sequencer
 namespace
 {
 /** The part of a note that its event does not name: how likely it sounds, and how much its velocity varies.
- */
+*/
 struct Play
 {
     NoteEvent& event;

@@ -8,7 +8,7 @@
 
 namespace Zn::Test
 {
-inline constexpr std::array exampleNames{ "old-hundredth.mid", "auld-lang-syne.mid", "gymnopedie-1.mid" };
+inline constexpr std::array exampleNames { "old-hundredth.mid", "auld-lang-syne.mid", "gymnopedie-1.mid" };
 
 inline juce::File exampleFile (const char* name)
 {

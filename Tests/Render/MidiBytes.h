@@ -17,7 +17,7 @@ inline void append (Bytes& bytes, std::uint32_t value, int count)
 /** A MIDI file from the contents of its tracks, each a list of times and messages. */
 inline Bytes midiFile (int format, int division, std::initializer_list<Bytes> tracks)
 {
-    Bytes file{ 'M', 'T', 'h', 'd' };
+    Bytes file { 'M', 'T', 'h', 'd' };
     append (file, 6, 4);
     append (file, static_cast<std::uint32_t> (format), 2);
     append (file, static_cast<std::uint32_t> (tracks.size()), 2);

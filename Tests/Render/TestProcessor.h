@@ -8,7 +8,7 @@
 namespace Zn::Test
 {
 /** Lets the MIDI through, plays a tone level of the number of keys held, and writes down what the host did.
- */
+*/
 class TestProcessor final : public juce::AudioProcessor
 {
 public:

@@ -37,7 +37,7 @@ juce::MidiBuffer eventsIn (const juce::MidiBuffer& events, BlockSlice slice);
 std::vector<int> randomBlocks (int seed, int numSamples);
 
 /** Sends events block by block through process (juce::MidiBuffer&), and joins what it leaves in the buffers.
- */
+*/
 template <typename Process>
 juce::MidiBuffer inBlocks (const juce::MidiBuffer& input, const std::vector<int>& lengths, Process&& process)
 {

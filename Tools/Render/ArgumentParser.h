@@ -8,7 +8,7 @@
 namespace Zn::Render
 {
 /** Reads the arguments behind the program's name. Throws ArgumentError that says which one is wrong and why.
- */
+*/
 Options parseArguments (std::span<const std::string> arguments);
 
 /** What --help prints. */

@@ -19,7 +19,7 @@ struct SongEvent
 /** The messages of all tracks in order of time, merged as they are read. A plain value: a copy is a bookmark.
 
     At one tick tracks follow each other as in the file, but what ends a sounding note comes before what
-   starts one, so that a repeated note is heard as two however the file was written.
+    starts one, so that a repeated note is heard as two however the file was written.
 */
 class EventStream
 {

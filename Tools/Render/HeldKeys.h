@@ -12,8 +12,9 @@ namespace Zn::Render
 class HeldKeys
 {
 public:
-    /** Takes note of a message: its status byte and what follows. Others than notes and pedals change
-     * nothing. */
+    /** Takes note of a message: its status byte and what follows. Others than notes
+        and pedals change nothing.
+    */
     void apply (std::uint8_t status, std::span<const std::uint8_t> data) noexcept;
 
     bool isDown (int channel, int pitch) const noexcept { return presses[indexOf (channel, pitch)] > 0; }

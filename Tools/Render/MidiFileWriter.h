@@ -6,8 +6,9 @@
 
 namespace Zn::Render
 {
-/** Writes the events as a MIDI file of one track with the tempo and meter of the timeline, unrolled if it
- * loops. */
+/** Writes the events as a MIDI file of one track with the tempo and meter of the
+    timeline, unrolled if it loops.
+*/
 class MidiFileWriter final : public OutputWriter
 {
 public:

@@ -8,8 +8,8 @@
 
 namespace Zn::Render
 {
-/** A file that appears under its name only when it is complete; until then, and on an error, the old one
-   stays.
+/** A file that appears under its name only when it is complete; until then, and on an
+    error, the old one stays.
 
     As a stream it never throws: the first failure is kept, later writes do nothing, and `throwIfFailed` and
     `finish` report it as FileError.

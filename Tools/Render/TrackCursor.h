@@ -27,7 +27,7 @@ public:
     TrackCursor() = default;
 
     /** Stands on the first event. The bytes must outlive the cursor. Throws FileError when they are damaged.
-     */
+    */
     explicit TrackCursor (std::span<const std::uint8_t> chunk);
 
     /** False behind the end-of-track event, or behind the last byte if there is none. */

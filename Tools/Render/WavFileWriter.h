@@ -10,8 +10,9 @@
 
 namespace Zn::Render
 {
-/** Writes the audio as WAV, beyond 4 GB as RF64. Sound beyond full scale is clipped unless the format is
- * float. */
+/** Writes the audio as WAV, beyond 4 GB as RF64. Sound beyond full scale is clipped
+    unless the format is float.
+*/
 class WavFileWriter final : public OutputWriter
 {
 public:

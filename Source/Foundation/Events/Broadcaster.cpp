@@ -6,8 +6,9 @@
 
 namespace Zn::Events
 {
-/** One running call. Calls nest when a listener causes another; the broadcaster tells all of them when it
- * dies. */
+/** One running call. Calls nest when a listener causes another; the broadcaster tells
+    all of them when it dies.
+*/
 struct Broadcaster::Walk
 {
     explicit Walk (Broadcaster& ownerToWalk) noexcept

@@ -30,9 +30,9 @@ public:
     /** Thread: any but audio. */
     void add (std::unique_ptr<RefCountBase> holder);
 
-    /** Frees, on the calling thread, all that nobody holds, and what becomes free by that. Returns after a
-       pass that another thread is in. Not to be called by a destructor of what is collected. Thread: any but
-       audio.
+    /** Frees, on the calling thread, all that nobody holds, and what becomes free by that. Returns
+        after a pass that another thread is in. Not to be called by a destructor of what is
+        collected. Thread: any but audio.
     */
     void collectNow();
 

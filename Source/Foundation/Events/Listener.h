@@ -9,9 +9,9 @@ class HasBroadcaster;
 
 /** Calls a function whenever a broadcaster reports a change, until it is destroyed or the broadcaster is.
 
-    Follows one broadcaster at a time. Held by value by whoever wants to know; may be destroyed during a call,
-    also by its own function, which must then not touch its captures any more. Thread: that of its
-   broadcaster.
+    Follows one broadcaster at a time. Held by value by whoever wants to know; may be destroyed
+    during a call, also by its own function, which must then not touch its captures any more.
+    Thread: that of its broadcaster.
 */
 class Listener
 {

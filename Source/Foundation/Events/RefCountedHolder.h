@@ -11,8 +11,8 @@ namespace Zn::Events
 /** The collector's own reference to a shared object, so that the audio thread never drops the last one.
 
     Objects that the audio thread may hold are made by `RefCountedHolder<T>::create (arguments...)` and used
-   as a plain std::shared_ptr<T>. When all others have let go, the collector frees the object on its own
-   thread: its destructor must not need the message thread.
+    as a plain std::shared_ptr<T>. When all others have let go, the collector frees the object on its own
+    thread: its destructor must not need the message thread.
 */
 template <typename T>
 class RefCountedHolder : public RefCountBase

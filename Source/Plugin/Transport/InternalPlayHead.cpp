@@ -193,7 +193,7 @@ void InternalPlayHead::fillPlaying (int numSamples) noexcept
 }
 
 /** Only the loop's own range is wrapped, which moves its very end: a position the host puts beyond it stays.
- */
+*/
 double InternalPlayHead::wrapIntoLoop (double ppq) const noexcept
 {
     const auto isInside = loop.ppqEnd > loop.ppqStart && ppq >= loop.ppqStart && ppq <= loop.ppqEnd;

@@ -8,8 +8,8 @@
 
 namespace Zn::Audio
 {
-/** The clock of one block: follows the host's position, or runs by itself, and knows where each sample
-   stands.
+/** The clock of one block: follows the host's position, or runs by itself, and knows
+    where each sample stands.
 
     What the host leaves out of its position goes on from where the last block ended, so a host that gives no
     quarter notes, no samples or no tempo still hears an even beat. What it gives is checked here and nowhere
@@ -28,7 +28,7 @@ public:
     void prepare (double newSampleRate, int blockSize);
 
     /** Moves over a block of `numSamples`, with the host's position at its start or, without a host, from
-       where the last block ended. Allocates only for a block longer than any before it.
+        where the last block ended. Allocates only for a block longer than any before it.
     */
     void update (juce::AudioPlayHead* host, int numSamples) noexcept;
 

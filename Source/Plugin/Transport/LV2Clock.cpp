@@ -37,10 +37,10 @@ struct MusicalPosition
     std::optional<double> ppq, barStartPpq; // quarter notes
 };
 
-/** Where a message puts the song. The running count of beats is best, as bars times beats overlooks that the
-   time signature may have changed on the way. But some hosts round it to whole beats, and not all agree on
-   its unit: where it contradicts the beat within the bar, or the beat is no quarter note, bar and beat tell
-   the place.
+/** Where a message puts the song. The running count of beats is best, as bars times beats overlooks that
+    the time signature may have changed on the way. But some hosts round it to whole beats, and not all
+    agree on its unit: where it contradicts the beat within the bar, or the beat is no quarter note, bar
+    and beat tell the place.
 */
 MusicalPosition musicalPositionOf (const LV2Position& message, double beatsPerBar, int beatUnit) noexcept
 {

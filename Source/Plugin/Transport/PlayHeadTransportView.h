@@ -8,7 +8,7 @@ struct TransportSlice;
 
 /** A play head that answers for the first sample of a transport slice, with tempo, samples and quarter notes
     always present. Its samples run one block ahead, as the clock has already moved over the block. Lives
-   inside its slice. Thread: audio.
+    inside its slice. Thread: audio.
 */
 class PlayHeadTransportView : public juce::AudioPlayHead
 {

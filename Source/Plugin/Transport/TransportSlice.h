@@ -12,7 +12,7 @@ namespace Zn::Audio
 /** The transport over a run of samples of the block, handed from stage to stage by reference.
 
     The two flags tell about the block's first sample: a slice that starts later has neither. Not copied, as
-   the play head inside answers for the slice it sits in. Thread: audio.
+    the play head inside answers for the slice it sits in. Thread: audio.
 */
 struct TransportSlice
 {

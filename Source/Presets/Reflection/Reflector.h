@@ -99,11 +99,11 @@ private:
 };
 
 /** Reflects a container as an array: loading resizes it to the stored count, deleting the surplus from its
-   end, and reads each element in place, so that whatever the document omits of an element keeps its value.
-   What the document holds beyond the largest size is ignored.
+    end, and reads each element in place, so that whatever the document omits of an element keeps its value.
+    What the document holds beyond the largest size is ignored.
 
     The container has size(), resize() and begin(); its elements are Reflectable, or smart pointers to one,
-   which are created by default construction where they are null.
+    which are created by default construction where they are null.
 */
 template <typename Container>
 class ChildContainerSerializer

@@ -31,7 +31,7 @@ public:
     std::unique_ptr<Base> clone() const override;
 
     /** Adds the enabled steps in stored order and sets the length. A pattern without any step gets no mark.
-     */
+    */
     void render (RenderedEvents& target) const override;
 
 private:
