@@ -29,6 +29,13 @@ bool isPlayable (const SequenceMark& mark) noexcept
     return mark.enabled && mark.emitter != nullptr;
 }
 
+/** What a draw adds to a velocity. Two equal ends are no spread at all. */
+float spreadOf (const NoteEvent& event, float draw) noexcept
+{
+    const auto width = event.spreadHigh - event.spreadLow;
+    return event.spreadLow == event.spreadHigh ? 0.0f : width * draw + event.spreadLow;
+}
+
 int velocityByte (float velocity) noexcept
 {
     const auto isLoudEnough = velocity >= softest; // false for what is no number, too
@@ -203,8 +210,8 @@ void EventPlayer::play (const TimedNote& note, int sample, const Run& run) noexc
     if (! (event.chance > 0.0f && draw <= event.chance))
         return;
 
-    const auto spread = event.spreadLow + (event.spreadHigh - event.spreadLow) * random.nextFloat();
-    run.output.noteOn (cell, velocityByte (event.velocity + spread), sample);
+    const auto velocity = event.velocity + spreadOf (event, random.nextFloat());
+    run.output.noteOn (cell, velocityByte (velocity), sample);
 }
 
 void EventPlayer::sweep (const Run& run) noexcept
