@@ -71,6 +71,10 @@ void SlotPlayer::runLoop (const RenderedSlot& slot, Arrival arrival, const Patte
 {
     wrapToLoop (positions, slot.playLength);
 
+    // Another length puts the pattern elsewhere in time.
+    if (std::exchange (playedLength, slot.playLength) != slot.playLength)
+        arrival = Arrival::jumped;
+
     // Where the loop is as long as the block, each run begins where the last one began: only the way back from
     // the last run's end tells that the pattern has wrapped. A clock that falls back by less only jitters.
     if (player.getEndPosition() - positions.front() > 0.5 * slot.playLength)

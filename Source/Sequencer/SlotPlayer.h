@@ -54,6 +54,7 @@ private:
 
     Mode mode = Mode::normal;
     double pendingAnchor = 0.0, anchor = 0.0; // quarter notes on the clock
+    double playedLength = 0.0;                // quarter notes of the loop that was played last
     std::vector<double> positions;            // quarter notes in the pattern, one for each sample of the run
     FiredMarks firedMarks;
     EventPlayer player;

@@ -46,12 +46,13 @@ public:
     /** The messages of one call, by samples of that call. The clock goes on unless it is stopped. */
     juce::MidiBuffer play (int numSamples)
     {
-        std::vector<double> positions;
+        std::vector<double> positions (static_cast<std::size_t> (numSamples));
+        const auto step = isPlaying ? ppqPerSample : 0.0;
 
-        for (auto i = 0; i < numSamples; ++i)
-            positions.push_back (ppq + (isPlaying ? i * ppqPerSample : 0.0));
+        for (std::size_t i = 0; i < positions.size(); ++i)
+            positions[i] = ppq + static_cast<double> (i) * step;
 
-        ppq += isPlaying ? numSamples * ppqPerSample : 0.0;
+        ppq += numSamples * step;
         return playAt (positions);
     }
 

@@ -13,10 +13,10 @@ TEST (LoopPositions, AreExactlyTheRemaindersOfTheSongPositions)
         for (auto step : { 4.1666667e-05, 0.0086718751, 0.125, 0.7 })
             for (auto start : { -2.0, -0.0001, 0.0, 0.3, 3.99, 1234.567, 1.0e9 })
             {
-                std::vector<double> wrapped;
+                std::vector<double> wrapped (600);
 
-                for (auto i = 0; i < 600; ++i)
-                    wrapped.push_back (start + i * step);
+                for (std::size_t i = 0; i < wrapped.size(); ++i)
+                    wrapped[i] = start + static_cast<double> (i) * step;
 
                 const auto song = wrapped;
                 wrapToLoop (wrapped, length);

@@ -1,4 +1,5 @@
 #include "Sequencer/EngineRig.h"
+#include "Support/RealTimeGuard.h"
 
 #include <gtest/gtest.h>
 
@@ -82,8 +83,11 @@ Sequencer::RenderedSlot scribble (juce::Random& random)
     Notes notes;
 
     for (auto i = random.nextInt (12); i >= 0; --i)
-        notes.push_back (
-            note (60 + random.nextInt (3), 2.0 * random.nextDouble(), 1.5 * random.nextDouble()));
+    {
+        notes.push_back (note (60 + random.nextInt (3), 0.0, 0.0));
+        notes.back().time.start = 2.0 * random.nextDouble();
+        notes.back().time.length = 1.5 * random.nextDouble();
+    }
 
     auto slot = loop (random.nextBool() ? 2.0 : 0.01 + random.nextDouble(), notes);
     slot.looping = random.nextInt (4) > 0;
@@ -96,14 +100,17 @@ void interfere (EngineRig& rig,
                 juce::Random& random,
                 const std::function<Sequencer::RenderedSlot()>& makeSlot)
 {
-    switch (random.nextInt (8))
+    const auto what = random.nextInt (8);
+    const auto slot = random.nextInt (Sequencer::numSlots);
+
+    switch (what)
     {
     case 0:
         return rig.draw (rig.live().heard, makeSlot());
     case 1:
-        return rig.draw (random.nextInt (Sequencer::numSlots), makeSlot());
+        return rig.draw (slot, makeSlot());
     case 2:
-        return rig.ask (random.nextInt (Sequencer::numSlots));
+        return rig.ask (slot);
     case 3:
         return rig.jumpTo (random.nextInt (1 << 20) / 4096.0 - 4.0);
     case 4:
@@ -115,7 +122,7 @@ void interfere (EngineRig& rig,
         rig.live().enable = random.nextBool();
         return;
     default:
-        rig.live().quantum = std::ldexp (1.0, random.nextInt (6) - 3);
+        rig.live().quantum = std::ldexp (1.0, slot - 3);
         return;
     }
 }
@@ -177,9 +184,12 @@ std::string difference (HeardRows whole, HeardRows cut)
             if (isSame)
                 continue;
 
-            if (const auto sample = i < a.size() ? a[i].sample : b[i].sample; sample < earliest)
+            for (const auto* events : { &a, &b })
             {
-                earliest = sample;
+                if (i >= events->size() || (*events)[i].sample >= earliest)
+                    continue;
+
+                earliest = (*events)[i].sample;
                 result = "row " + std::to_string (row) + ":" + around (a, i) + " became" + around (b, i);
             }
 
@@ -253,6 +263,8 @@ TEST (PatternEngineLaws, EndARowBeforeItStartsAgain)
 
 TEST (PatternEngineLaws, PlayLoopsOfAnyLengthAgainstABlock)
 {
+    constexpr auto numBlocks = 50;
+
     // Loops shorter than a sample, of a few samples, as long as the block, and longer by a little.
     for (auto length : { 0.001, 0.003, 0.02, 0.25, 64 * ppqPerSample, 65 * ppqPerSample, 10.0 })
     {
@@ -262,10 +274,10 @@ TEST (PatternEngineLaws, PlayLoopsOfAnyLengthAgainstABlock)
         rig.ppqPerSample = ppqPerSample;
         juce::MidiBuffer all;
 
-        for (auto block = 0; block < 200; ++block)
+        for (auto block = 0; block < numBlocks; ++block)
             all.addEvents (rig.play (64), 0, -1, block * 64);
 
-        const auto passes = static_cast<int> (200 * 64 * ppqPerSample / length);
+        const auto passes = static_cast<int> (numBlocks * 64 * ppqPerSample / length);
         auto rows = heardRows (all);
 
         for (auto row : { 60, 61 })
@@ -275,8 +287,35 @@ TEST (PatternEngineLaws, PlayLoopsOfAnyLengthAgainstABlock)
             }
 
         rig.isPlaying = false;
-        all.addEvents (rig.play (1), 0, -1, 200 * 64);
+        all.addEvents (rig.play (1), 0, -1, numBlocks * 64);
         EXPECT_TRUE (sounding (all).empty()) << length;
+    }
+}
+
+TEST (PatternEngineLaws, CallNeitherTheHeapNorALock)
+{
+    juce::Random random (3);
+    EngineRig rig { loop (0.05, steps ("x.x.", 60, 0.0125), steps (".x.x", 61, 0.0125)) };
+    rig.draw (1, drawing (random));
+    rig.live().quantum = 0.25;
+    rig.engine.prepare (512);
+
+    std::vector<double> positions (512);
+    juce::MidiBuffer rows;
+    rows.ensureSize (32768);
+
+    for (auto block = 0; block < 50; ++block)
+    {
+        for (std::size_t i = 0; i < positions.size(); ++i)
+            positions[i] = static_cast<double> (block) * 4.0 + static_cast<double> (i) * ppqPerSample;
+
+        if (block % 7 == 0)
+            rig.ask (block % 2);
+
+        rows.clear();
+        const ExpectRealTimeSafe guard { "block " + std::to_string (block) };
+        rig.engine.requestRestart();
+        rig.engine.run ({ positions, block % 10 != 9, block % 5 == 0, false }, rig.frame, rows);
     }
 }
 

@@ -14,10 +14,10 @@ constexpr double ppqPerSample = 0.125; // quarter notes
 
 std::vector<double> positionsFrom (double ppq, int count)
 {
-    std::vector<double> result;
+    std::vector<double> result (static_cast<std::size_t> (count));
 
-    for (auto i = 0; i < count; ++i)
-        result.push_back (ppq + i * ppqPerSample);
+    for (std::size_t i = 0; i < result.size(); ++i)
+        result[i] = ppq + static_cast<double> (i) * ppqPerSample;
 
     return result;
 }
