@@ -4,12 +4,40 @@
 #include "Foundation/Singleton.h"
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 namespace Zn::Events
 {
+namespace
+{
+/** Leaves it to the message thread to delete the timer: when the last user goes on another thread, or inside a
+    tick, that thread may be in the timer's function or about to call it.
+*/
+class TimerOwner
+{
+public:
+    TimerOwner() = default;
+
+    ~TimerOwner()
+    {
+        timer->stop();
+        juce::MessageManager::callAsync ([last = std::move (timer)] {});
+    }
+
+    TimerOwner (const TimerOwner&) = delete;
+    TimerOwner& operator= (const TimerOwner&) = delete;
+
+    SharedTimer& get() const noexcept { return *timer; }
+
+private:
+    std::shared_ptr<SharedTimer> timer = std::make_shared<SharedTimer>();
+};
+} // namespace
+
 SharedTimer& SharedTimer::getInstance()
 {
-    return Singleton::get<SharedTimer>();
+    return Singleton::get<TimerOwner>().get();
 }
 
 SharedTimer::SharedTimer()
@@ -18,6 +46,11 @@ SharedTimer::SharedTimer()
 }
 
 SharedTimer::~SharedTimer()
+{
+    stopTimer();
+}
+
+void SharedTimer::stop()
 {
     stopTimer();
 }
@@ -46,8 +79,15 @@ void SharedTimer::timerCallback()
     applyPending();
 
     for (size_t i = 0; i < active.size(); ++i)
-        if (auto* callback = active[i])
-            callback->tick();
+    {
+        try
+        {
+            if (auto* callback = active[i])
+                callback->tick();
+        }
+        catch (...) // the others' turn comes all the same, and the host's message loop knows nothing of ours
+        {}
+    }
 
     applyPending();
 }

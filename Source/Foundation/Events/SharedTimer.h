@@ -12,7 +12,7 @@ class TimerCallback;
 
     Callbacks may come and go at any time, also during a tick and from other threads: a removal waits for a
     running tick, unless it happens inside it, and is not called afterwards. A callback must not wait for a
-    thread that adds or removes one.
+    thread that adds or removes one. What it throws ends there.
 */
 class SharedTimer : private juce::Timer
 {
@@ -25,6 +25,9 @@ public:
     /** Thread: any. */
     void add (TimerCallback& callback);
     void remove (TimerCallback& callback) noexcept;
+
+    /** No ticks begin from now on; one may be under way. Thread: any. */
+    void stop();
 
     /** Calls everyone once, as the clock does. Thread: message. */
     void timerCallback() override;
