@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Sequencer/Bars.h"
 #include "Sequencer/Modifiers/StepPulseSequencer.h"
+#include "Sequencer/MusicalTime.h"
 
 namespace Zn::Sequencer
 {
@@ -11,7 +11,7 @@ class PatternSlot
 public:
     bool multiply = false; // the time is that of one column of the grid, not of the whole pattern
     Modifiers::StepPulseSequencer pattern;
-    Bars time;
+    MusicalTime time;
 
     /** An empty drawing over one bar of 4/4 in 16 columns. */
     PatternSlot();

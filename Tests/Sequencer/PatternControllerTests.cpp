@@ -140,8 +140,8 @@ TEST_F (PatternControllerTest, EmptiesSlotsThatDoNotPlayOrCannotBeLooped)
     for (auto& each : controller.getSlots())
         each.pattern.steps = steps ("xx");
 
-    controller.getSlots()[1].time = { { { 1, 5000 } } };
-    controller.getSlots()[2].time = { { { 0, 4 } } };
+    controller.getSlots()[1].time.setBars ({ { { 1, 5000 } } });
+    controller.getSlots()[2].time.setBars ({ { { 0, 4 } } });
     loadText (R"({"Slots": [{"playing": false, "looping": false}, {"looping": false}]})",
               ReflectorContext::forHostChunk());
 

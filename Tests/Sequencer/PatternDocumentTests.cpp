@@ -66,7 +66,7 @@ TEST (PatternDocument, ComesBackAsItWasSaved)
 {
     PatternSlot slot;
     slot.multiply = true;
-    slot.time = { { { 42, 256 }, { 3, 8 } } };
+    slot.time.setBars ({ { { 42, 256 }, { 3, 8 } } });
     slot.pattern.name = "Lead";
     slot.pattern.grid = 68;
     slot.pattern.gate = 0.5;

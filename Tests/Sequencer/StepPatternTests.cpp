@@ -79,7 +79,7 @@ TEST (PatternSlot, LastsItsTimeOrAColumnsTimeForEachColumn)
     EXPECT_EQ (slot.length(), 4.0);
 
     slot.multiply = true;
-    slot.time = { { { 1, 16 } } };
+    slot.time.setBars ({ { { 1, 16 } } });
     EXPECT_EQ (slot.length(), 4.0);
 
     slot.pattern.grid = 5;
