@@ -15,6 +15,7 @@ Processor::Processor()
 
 Processor::~Processor()
 {
+    state->stopFollowing(); // first, as hosts destroy processors on any thread
     patternListener.detach();
     learnWriter.replaceAll ({});
     patternWriter.replaceAll ({});

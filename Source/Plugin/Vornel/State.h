@@ -4,9 +4,12 @@
 #include "Midi/Learn/LearnerRecord.h"
 #include "Midi/PitchTableRing.h"
 #include "Parameters/ChangeWatcher.h"
+#include "Plugin/Vornel/BrushParam.h"
+#include "Plugin/Vornel/ConnectedIntParam.h"
 #include "Plugin/Vornel/MidiSettings.h"
 #include "Plugin/Vornel/OctaveRange.h"
 #include "Plugin/Vornel/Params.h"
+#include "Plugin/Vornel/SnapParam.h"
 #include "Sequencer/BPMParameter.h"
 #include "Sequencer/LiveSlots.h"
 #include "Sequencer/PatternController.h"
@@ -14,6 +17,7 @@
 
 #include <atomic>
 #include <memory>
+#include <optional>
 
 namespace Zn::Audio::Plugins::Vornel
 {
@@ -26,6 +30,19 @@ class State
 {
 public:
     State();
+
+    /** What a preset file holds, and the host's project and undo with it: `Params`, then `Patterns`. Loading
+        rebuilds the patterns once, with the swing that was loaded, also when it throws.
+    */
+    void reflect (Reflector& r);
+
+    /** The columns of a slot's drawing, for the editor. */
+    ConnectedIntParam gridOf (std::size_t slotIndex);
+
+    /** Stops answering changes of parameters, so that nothing of the message thread's is under way in here. To be
+        called before the state or its listeners are destroyed. Thread: any.
+    */
+    void stopFollowing() noexcept { swingWatcher.reset(); }
 
     /** Reads what steers a segment. Thread: audio. */
     MidiSettings readMidiSettings() const noexcept;
@@ -51,11 +68,34 @@ public:
     std::atomic<float> meter { 0.0f };        // peak of the left channel, a gain; written: audio, read: GUI
     std::atomic<int> numMeterListeners { 0 }; // the meter is worked out while there are any; written: GUI
 
-    bool snap = true; // edits keep to the grid; thread: message
+    bool snap = true;           // edits keep to the grid; thread: message
+    Events::Value<Brush> brush; // thread: message
+
+    /** A preset file saved without them leaves the sound alone when it is loaded. */
+    bool savesParams = true; // thread: message
+
+    ConnectedIntParam slotParam;     // the slot that is wanted
+    ConnectedIntParam lowestOctave;  // of the octave range
+    ConnectedIntParam highestOctave; // of the octave range
+    SnapParam snapParam { snap };
+    BrushParam brushParam { brush };
 
 private:
+    void reflectParams (Reflector& r);
+    void reflectPatterns (Reflector& r);
+    void reflectSequencer (Reflector& r);
+    void reflectTransport (Reflector& r);
     void followSwing();
 
-    Parameters::ChangeWatcher swingWatcher;
+    /** Kept from old files, which say more than patterns need; without effect. */
+    struct Legacy
+    {
+        Sequencer::MusicalTime time;
+        bool fitLoop = false;
+    };
+
+    Legacy legacy;
+
+    std::optional<Parameters::ChangeWatcher> swingWatcher;
 };
 } // namespace Zn::Audio::Plugins::Vornel

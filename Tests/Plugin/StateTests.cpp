@@ -1,0 +1,228 @@
+#include "Plugin/Vornel/State.h"
+
+#include "Foundation/Events/SharedTimer.h"
+#include "Foundation/Events/ValueListener.h"
+#include "Foundation/Singleton.h"
+#include "Plugin/Vornel/Processor.h"
+#include "Sequencer/Modifiers/NumParam.h"
+#include "Support/Documents.h"
+#include "Support/StepText.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+
+namespace Zn::Audio::Plugins::Vornel
+{
+namespace
+{
+using nlohmann::json;
+using Tests::asText;
+using Tests::load;
+using Tests::parsed;
+using Tests::saved;
+
+struct StateTest : ::testing::Test
+{
+    const Singleton::UserToken singletons;
+    State state;
+    int rebuilds = 0;
+    Events::Listener listener { state.patterns.getAudioBroadcaster(), [this] { ++rebuilds; } };
+
+    std::string notesOf (std::size_t slot) const
+    {
+        return asText (state.patterns.getPatternData()->slots[slot].events.notes);
+    }
+};
+
+/** Sets every parameter to something else than its default. */
+void turnEveryKnob (ParamList& list)
+{
+    for (const auto& [name, holder] : list.getParams())
+    {
+        auto& parameter = holder->getParameter();
+        parameter.setValueNotifyingHost (parameter.getDefaultValue() < 0.5f ? 0.75f : 0.25f);
+    }
+
+    for (const auto& [name, child] : list.getChildren())
+        turnEveryKnob (*child);
+}
+
+void changeEverything (State& state)
+{
+    turnEveryKnob (state.params);
+    state.bpm.setFromText ("87");
+    state.keyMode = true;
+    state.liveSlots->enable = false;
+
+    const Sequencer::PatternController::Edit edit (state.patterns);
+    auto& slot = state.patterns.getSlots()[5];
+    slot.multiply = true;
+    slot.time.setBars ({ { { 3, 16 } } });
+    slot.pattern.grid = 12;
+    slot.pattern.steps = Tests::steps ("x-o.xx");
+}
+} // namespace
+
+TEST_F (StateTest, ComesBackAsItWasSaved)
+{
+    changeEverything (state);
+
+    for (const auto context : { ReflectorContext::forPresetFile(), ReflectorContext::forHostChunk() })
+    {
+        const auto document = saved (state, context);
+        State other;
+        load (other, document, context);
+
+        EXPECT_EQ (saved (other, context), document);
+        EXPECT_EQ (asText (other.patterns.getPatternData()->slots[5].events),
+                   asText (state.patterns.getPatternData()->slots[5].events));
+        EXPECT_EQ (other.keyMode.load(), context == ReflectorContext::forHostChunk());
+        EXPECT_EQ (other.liveSlots->enable.load(), context == ReflectorContext::forPresetFile());
+    }
+}
+
+TEST_F (StateTest, WritesWhatOtherProgramsOfItsFormatRead)
+{
+    const auto document = saved (state);
+
+    EXPECT_EQ (document["Params"], parsed (R"({
+        "Quantize": "1/4", "Retrigger": "Off", "Swing": "0%", "SwingRef": "1/4", "Transpose": "0",
+        "Synth": { "Master": "0.00 dB", "SynthEnable": "On", "Unison": "1", "UnisonAmount": "0.50" }
+    })"));
+    EXPECT_EQ (document["Patterns"]["Sequencer"], parsed (R"({
+        "Transport": { "BPM": { "value": "100" }, "Swing": { "Value": "0%" }, "SwingRef": { "Value": "1/4" } }
+    })"));
+    EXPECT_EQ (document["Patterns"]["Patterns"].size(), 8u);
+    EXPECT_EQ (document["Patterns"].size(), 2u);
+    EXPECT_EQ (saved (state, ReflectorContext::forHostChunk())["Patterns"]["Sequencer"].size(), 3u);
+
+    state.savesParams = false;
+    EXPECT_EQ (saved (state)["Params"], json());
+    EXPECT_TRUE (saved (state, ReflectorContext::forUndo())["Params"].is_object());
+}
+
+TEST_F (StateTest, KeepsWhatADocumentOmits)
+{
+    changeEverything (state);
+    const auto before = saved (state, ReflectorContext::forHostChunk());
+    const auto performance = [this] {
+        return std::tuple { state.params.octave.get(), state.params.key.get(), state.params.arpActive.get() };
+    };
+    const auto played = performance();
+
+    for (const auto* text : { "{}",
+                              "[]",
+                              R"({"Params": null, "Patterns": null})",
+                              R"({"Params": {"Synth": []}, "Patterns": {"Sequencer": {"Transport": {}}}})",
+                              R"({"Patterns": {"Time": {"Bars": []}, "fitLoop": true, "unknown": 1}})" })
+    {
+        load (state, parsed (text), ReflectorContext::forHostChunk());
+        EXPECT_EQ (saved (state, ReflectorContext::forHostChunk()), before) << text;
+    }
+
+    load (state, saved (*std::make_unique<State>()));
+    EXPECT_NE (saved (state), before);
+    EXPECT_EQ (performance(), played) << "a preset must not touch what is played";
+
+    load (state, parsed (R"({"Params": {"Key": "E", "Octave": "3", "ArpActive": "On"}})"));
+    EXPECT_EQ (performance(), played);
+}
+
+TEST_F (StateTest, RebuildsOnceForALoadWithTheSwingOfItsPatterns)
+{
+    load (state, parsed (R"({
+        "Params": { "Swing": "-160%", "SwingRef": "1/8" },
+        "Patterns": {
+            "Patterns": [ { "Time": { "Bars": [ { "num": 2, "denum": 4 } ] },
+                            "Pattern": { "Steps": [
+                                { "Time": { "start": 0.25, "length": 0.25 }, "Event": { "noteNum": 60 } } ] } } ],
+            "Sequencer": { "Transport": { "Swing": { "Value": "40%" }, "SwingRef": { "Value": "1/4" } } }
+        }
+    })"));
+
+    EXPECT_EQ (state.params.swing->get(), 40);
+    EXPECT_EQ (state.params.swingRef.get(), 1);
+    EXPECT_EQ (notesOf (0), "60 @0.6+0.4");
+    EXPECT_EQ (rebuilds, 1);
+}
+
+TEST_F (StateTest, PlaysWithTheSwingThatWasReadWhenALoadFailsMidway)
+{
+    state.patterns.getSlots()[0].pattern.steps = { Tests::note (60, 0.125, 0.125) };
+
+    EXPECT_THROW (load (state, parsed (R"({"Params": {"Swing": "40%"},
+                                           "Patterns": {"Patterns": [{"Multiply": "perhaps"}]}})")),
+                  std::invalid_argument);
+    EXPECT_EQ (notesOf (0), "60 @0.6+0.4");
+    EXPECT_EQ (rebuilds, 1);
+}
+
+TEST_F (StateTest, LaysOutAndPublishesWhatTheEditorChanges)
+{
+    auto& slot = state.patterns.getSlots()[2];
+    auto grid = state.gridOf (2);
+    Sequencer::Modifiers::NumParam num (slot.time, [this] { state.patterns.rebuild(); });
+    slot.multiply = true;
+
+    EXPECT_EQ (grid.getDefault(), grid.getNormalised());
+    grid.setInt (8);
+    num.setInt (1);
+    EXPECT_EQ (state.patterns.getPatternData()->slots[2].playLength, 8.0);
+    EXPECT_EQ (rebuilds, 2);
+
+    grid.setInt (8);
+    grid.setInt (1000);
+    EXPECT_EQ (slot.pattern.grid, 128);
+    EXPECT_EQ (rebuilds, 3);
+}
+
+TEST_F (StateTest, AsksForASlotAndShowsItUntilItIsTaken)
+{
+    state.slotParam.setInt (9);
+    EXPECT_EQ (state.liveSlots->pending.load(), 7);
+    EXPECT_EQ (state.slotParam.getInt(), 7);
+
+    state.liveSlots->pending = -1;
+    state.liveSlots->index = 3;
+    EXPECT_EQ (state.slotParam.getInt(), 3);
+
+    state.slotParam.setInt (3);
+    EXPECT_EQ (state.liveSlots->pending.load(), -1) << "nothing to ask for";
+}
+
+TEST_F (StateTest, TellsWhoShowsTheBrushWhenItIsAnother)
+{
+    auto shown = Brush::pencil;
+    const Events::ValueListener<Brush> view (state.brush, [&shown] (Brush brush) { shown = brush; });
+
+    state.brushParam.setInt (static_cast<int> (Brush::velocity));
+    EXPECT_EQ (shown, Brush::velocity);
+
+    state.brushParam.setInt (99);
+    EXPECT_EQ (shown, Brush::chance);
+}
+
+TEST (Processor, MayGoOnAnotherThreadWhileItsParametersAreFollowed)
+{
+    const Singleton::UserToken timerStays;
+
+    for (auto i = 0; i < 20; ++i)
+    {
+        auto processor = std::make_unique<Processor>();
+        std::atomic<bool> isGone { false };
+
+        std::thread host ([&] {
+            processor->getState().params.swing->setValueNotifyingHost (0.75f);
+            processor.reset();
+            isGone = true;
+        });
+
+        while (! isGone)
+            Events::SharedTimer::getInstance().timerCallback();
+
+        host.join();
+    }
+}
+} // namespace Zn::Audio::Plugins::Vornel
