@@ -23,30 +23,12 @@ public:
 
     void processBlock (juce::AudioBuffer<float>& audio, juce::MidiBuffer& midi) final
     {
-        const juce::ScopedNoDenormals noDenormals;
-        audio.clear();
-
-        if (audio.getNumChannels() < 2)
-            return;
-
-        if (audio.getNumSamples() == 0)
-            keepForNextBlock (midi);
-        else
-            process (audio, midi);
+        run (audio, midi, &Processor::process);
     }
 
     void processBlockBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& midi) final
     {
-        const juce::ScopedNoDenormals noDenormals;
-        audio.clear();
-
-        if (audio.getNumChannels() < 2)
-            return;
-
-        if (audio.getNumSamples() == 0)
-            keepForNextBlock (midi);
-        else
-            processBypassed (audio, midi);
+        run (audio, midi, &Processor::processBypassed);
     }
 
     using juce::AudioProcessor::processBlock;
@@ -69,5 +51,22 @@ protected:
 
     /** There is no sample to place these messages on: takes them out of `midi` until there is. Thread: audio. */
     virtual void keepForNextBlock (juce::MidiBuffer& midi) noexcept = 0;
+
+private:
+    using Step = void (Processor::*) (juce::AudioBuffer<float>&, juce::MidiBuffer&) noexcept;
+
+    void run (juce::AudioBuffer<float>& audio, juce::MidiBuffer& midi, Step step) noexcept
+    {
+        const juce::ScopedNoDenormals noDenormals;
+        audio.clear();
+
+        if (audio.getNumChannels() < 2)
+            return;
+
+        if (audio.getNumSamples() == 0)
+            keepForNextBlock (midi);
+        else
+            (this->*step) (audio, midi);
+    }
 };
 } // namespace Zn::Audio::Plugin
