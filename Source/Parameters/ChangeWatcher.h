@@ -13,8 +13,8 @@ namespace Zn::Parameters
 /** Calls a function on the message thread after any of some parameters has changed.
 
     A change made on the message thread is answered at once; one made elsewhere, by automation on the audio thread
-    say, only sets a flag that the shared timer finds. Made and destroyed on the message thread; the parameters
-    outlive it.
+    say, only sets a flag that the shared timer finds. Made and destroyed on any thread, as processors are: its end
+    waits for an answer that is under way. The parameters outlive it.
 */
 class ChangeWatcher : private juce::AudioProcessorParameter::Listener
 {

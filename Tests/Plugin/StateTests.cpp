@@ -159,6 +159,54 @@ TEST_F (StateTest, PlaysWithTheSwingThatWasReadWhenALoadFailsMidway)
     EXPECT_EQ (rebuilds, 1);
 }
 
+/** Puts something else in place of a leaf, or of what lies around it. */
+json damaged (const json& document, juce::Random& random)
+{
+    static const auto strange = parsed (R"([null, true, -1, 0, 1, 300, 2147483648, -9223372036854775808,
+        18446744073709551615, 0.5, 1e300, -1e-300, "", "x", "nan", "-inf", "1e400", "3", "Off", "1/4",
+        [], {}, [null], [[]], {"Bars": 3}, [{"num": 1e9}], {"Value": "x"}, {"value": null}])");
+
+    auto result = document;
+    const auto leaves = document.flatten();
+    auto place = json::json_pointer (
+        std::next (leaves.begin(), random.nextInt (static_cast<int> (leaves.size()))).key());
+
+    while (! place.empty() && random.nextInt (3) == 0)
+        place = place.parent_pointer();
+
+    result[place] = strange[static_cast<std::size_t> (random.nextInt (static_cast<int> (strange.size())))];
+    return result;
+}
+
+TEST_F (StateTest, MakesSenseOfWhateverIsInADocument)
+{
+    const auto context = ReflectorContext::forPresetFile();
+    changeEverything (state);
+    const auto intact = saved (state, context);
+    juce::Random random (1);
+
+    for (auto i = 0; i < 1000; ++i)
+    {
+        const auto document = damaged (damaged (intact, random), random);
+
+        try
+        {
+            load (state, document, context);
+        }
+        catch (const std::logic_error&) // text where a number belongs
+        {}
+
+        State other;
+        const auto understood = saved (state, context);
+        load (other, understood, context);
+        ASSERT_EQ (saved (other, context), understood) << document.dump();
+
+        for (const auto& slot : state.patterns.getPatternData()->slots)
+            ASSERT_TRUE (slot.playLength >= 0.0 && slot.playLength <= Sequencer::longestTime)
+                << document.dump();
+    }
+}
+
 TEST_F (StateTest, LaysOutAndPublishesWhatTheEditorChanges)
 {
     auto& slot = state.patterns.getSlots()[2];
