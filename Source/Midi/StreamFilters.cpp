@@ -63,4 +63,27 @@ void splitNotesAndPedal (juce::MidiBuffer& scratch,
 
     scratch.swapWith (buffer);
 }
+
+void mergeEvents (juce::MidiBuffer& scratch,
+                  juce::MidiBuffer& buffer,
+                  const juce::MidiBuffer& others) noexcept
+{
+    EventWriter merged (scratch);
+    merged.clear();
+
+    auto other = others.begin();
+
+    for (const auto event : buffer)
+    {
+        for (; other != others.end() && (*other).samplePosition < event.samplePosition; ++other)
+            merged.add (*other);
+
+        merged.add (event);
+    }
+
+    for (; other != others.end(); ++other)
+        merged.add (*other);
+
+    scratch.swapWith (buffer);
+}
 } // namespace Zn::Midi

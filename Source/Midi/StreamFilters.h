@@ -23,4 +23,9 @@ void flattenChannels (juce::MidiBuffer& scratch, juce::MidiBuffer& buffer) noexc
 void splitNotesAndPedal (juce::MidiBuffer& scratch,
                          juce::MidiBuffer& others,
                          juce::MidiBuffer& buffer) noexcept;
+
+/** Adds other events to the buffer, at one sample behind its own, in one pass through both. */
+void mergeEvents (juce::MidiBuffer& scratch,
+                  juce::MidiBuffer& buffer,
+                  const juce::MidiBuffer& others) noexcept;
 } // namespace Zn::Midi

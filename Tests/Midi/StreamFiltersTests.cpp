@@ -51,6 +51,28 @@ TEST (StreamFilters, SplitLeavesNotesAndThePedal)
     EXPECT_EQ (text (others), "cc 1 5 @0, hex E0 00 40 @3, cc 123 0 @5");
 }
 
+TEST (StreamFilters, MergePutsOtherEventsBehindTheBuffersOwn)
+{
+    const struct
+    {
+        const char *buffer, *others, *expected;
+    } rows[] = {
+        { "on 60 @5, on 61 @5, off 60 @9",
+          "cc 1 1 @0, cc 1 2 @5, cc 1 3 @9, cc 1 4 @20",
+          "cc 1 1 @0, on 60 @5, on 61 @5, cc 1 2 @5, off 60 @9, cc 1 3 @9, cc 1 4 @20" },
+        { "", "cc 1 1 @0, cc 1 2 @5", "cc 1 1 @0, cc 1 2 @5" },
+        { "on 60 @5", "", "on 60 @5" },
+        { "", "", "" },
+    };
+
+    for (const auto& row : rows)
+    {
+        auto scratch = events ("on 1 @0"), buffer = events (row.buffer);
+        mergeEvents (scratch, buffer, events (row.others));
+        EXPECT_EQ (text (buffer), row.expected);
+    }
+}
+
 TEST (EventWriter, GivesTheSameBufferAsAddingOneByOne)
 {
     const auto sysex = events ("hex F0 01 02 03 04 05 06 07 08 09 F7 @100");

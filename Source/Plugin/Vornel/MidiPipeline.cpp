@@ -45,7 +45,7 @@ void MidiPipeline::process (juce::MidiBuffer& midi,
 
     runSegments (clock, patterns, learn);
 
-    append (output, others, 0);
+    Midi::mergeEvents (scratch, output, others);
     Midi::flattenChannels (scratch, output);
 
     midi.clear();
