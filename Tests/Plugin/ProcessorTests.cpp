@@ -1,7 +1,6 @@
-#include "Plugin/Vornel/Processor.h"
+#include "Plugin/ProcessorFixture.h"
 
 #include "Support/MidiText.h"
-#include "Support/TestHost.h"
 
 #include <gmock/gmock.h>
 
@@ -18,40 +17,7 @@ constexpr int sixteenth = 6000; // samples at 48 kHz and 120 beats a minute
 constexpr int quarter = 4 * sixteenth;
 constexpr int bar = 4 * quarter;
 
-struct Fixture
-{
-    Fixture() { processor.setSeed (1); }
-
-    void set (const juce::String& identifier, const juce::String& text)
-    {
-        for (auto* parameter : processor.getParameters())
-            if (auto* hosted = dynamic_cast<juce::HostedAudioProcessorParameter*> (parameter);
-                hosted != nullptr && hosted->getParameterID() == identifier)
-                return hosted->setValueNotifyingHost (hosted->getValueForText (text));
-
-        ADD_FAILURE() << "no parameter " << identifier;
-    }
-
-    /** One slot with one note on every quarter, on the row of the lowest held key plus `row`. */
-    void drawQuarters (size_t slot, int row, float gate = 0.5f)
-    {
-        const Sequencer::PatternController::Edit edit (state.patterns);
-        auto& drawn = state.patterns.getSlots()[slot];
-        drawn.reset();
-
-        for (auto i = 0; i < 4; ++i)
-        {
-            Sequencer::TimedNote step;
-            step.time = { i / 4.0, double (gate) / 4.0 };
-            step.event.noteNum = 64 + row;
-            step.enabled = true;
-            drawn.pattern.steps.push_back (step);
-        }
-    }
-
-    Processor processor;
-    State& state = processor.getState();
-};
+using Fixture = ProcessorFixture;
 
 std::vector<juce::String> hostIdentifiers (const juce::AudioProcessor& processor)
 {
@@ -69,17 +35,6 @@ std::vector<Test::Received> ofNote (const std::vector<Test::Received>& all, int 
     auto selected = all;
     std::erase_if (selected, [note] (const auto& message) { return message.note() != note; });
     return selected;
-}
-
-std::vector<int> startsOf (const TestHost& host, int note)
-{
-    std::vector<int> samples;
-
-    for (const auto& message : host.getReceived())
-        if (message.isNoteOn() && message.note() == note)
-            samples.push_back (static_cast<int> (message.sample));
-
-    return samples;
 }
 } // namespace
 
@@ -234,7 +189,7 @@ TEST (Processor, KeepsTheKeysOfABlockWithoutSamples)
 TEST (Processor, EndsTheArpsNotesWhenItIsSwitchedOffAndTheKeysWhenItIsSwitchedOn)
 {
     Fixture f;
-    f.drawQuarters (0, 1, 1.0f);
+    f.drawQuarters (0, 1, 1.0);
     TestHost host (f.processor);
 
     host.send (events ("on 60 @0"));
@@ -294,7 +249,7 @@ TEST (Processor, RestartsThePatternWithEachKeyWhenItRetriggers)
 TEST (Processor, MovesWhatSoundsWhenTheTranspositionChanges)
 {
     Fixture f;
-    f.drawQuarters (0, 0, 1.0f);
+    f.drawQuarters (0, 0, 1.0);
     TestHost host (f.processor);
 
     host.send (events ("on 60 @0"));
@@ -361,7 +316,7 @@ TEST (Processor, PlaysEachPassOfAHostLoopAlike)
 TEST (Processor, LeavesNothingHangingWhenItIsBypassed)
 {
     Fixture f;
-    f.drawQuarters (0, 0, 1.0f);
+    f.drawQuarters (0, 0, 1.0);
     TestHost host (f.processor);
 
     host.send (events ("on 60 @0, on 64 @0"));
@@ -391,7 +346,7 @@ TEST (Processor, LeavesNothingHangingWhenItIsBypassed)
 TEST (Processor, PanicEndsEverything)
 {
     Fixture f;
-    f.drawQuarters (0, 0, 1.0f);
+    f.drawQuarters (0, 0, 1.0);
     TestHost host (f.processor);
 
     host.send (events ("cc 64 127 @0, on 60 @1, off 60 @50"));

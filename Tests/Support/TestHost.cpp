@@ -122,6 +122,31 @@ std::vector<int> TestHost::getSounding() const
     return notes;
 }
 
+std::string TestHost::unbalanced() const
+{
+    std::array<bool, 128> sounding {};
+    juce::StringArray faults;
+
+    for (const auto& message : received)
+    {
+        if (! message.isNoteOn() && ! message.isNoteOff())
+            continue;
+
+        auto& sounds = sounding[static_cast<std::size_t> (message.note())];
+
+        if (sounds == message.isNoteOn())
+            faults.add (juce::String (message.note()) + (sounds ? " struck twice @" : " ended unheard @")
+                        + juce::String (message.sample));
+
+        sounds = message.isNoteOn();
+    }
+
+    for (const auto note : getSounding())
+        faults.add (juce::String (note) + " hangs");
+
+    return faults.joinIntoString (", ").toStdString();
+}
+
 std::string TestHost::noteOns() const
 {
     juce::StringArray texts;

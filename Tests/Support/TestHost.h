@@ -61,6 +61,11 @@ public:
     /** The notes that were started and not ended, by pitch. */
     std::vector<int> getSounding() const;
 
+    /** What is wrong with the notes received, as "60 struck twice @240, 64 hangs": empty when every note-on has
+        its own note-off and the reverse.
+    */
+    std::string unbalanced() const;
+
     /** The note-ons as "pitch@sample", for readable failures. */
     std::string noteOns() const;
 

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "Plugin/Vornel/Processor.h"
+
+#include "Support/TestHost.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace Zn::Audio::Plugins::Vornel
+{
+/** A processor whose parameters and patterns a test sets by name and by drawing. */
+struct ProcessorFixture
+{
+    ProcessorFixture() { processor.setSeed (1); }
+
+    void set (const juce::String& identifier, const juce::String& text)
+    {
+        for (auto* parameter : processor.getParameters())
+            if (auto* hosted = dynamic_cast<juce::HostedAudioProcessorParameter*> (parameter);
+                hosted != nullptr && hosted->getParameterID() == identifier)
+                return hosted->setValueNotifyingHost (hosted->getValueForText (text));
+
+        ADD_FAILURE() << "no parameter " << identifier;
+    }
+
+    /** So many even steps over one bar in one slot, on the row of the lowest held key plus `row`. The gate is a
+        proportion of a step.
+    */
+    void drawSteps (size_t slot, int numSteps, int row, double gate = 0.5)
+    {
+        const Sequencer::PatternController::Edit edit (state.patterns);
+        auto& drawn = state.patterns.getSlots()[slot];
+        drawn.reset();
+
+        for (auto i = 0; i < numSteps; ++i)
+        {
+            Sequencer::TimedNote step;
+            step.time = { double (i) / numSteps, gate / numSteps };
+            step.event.noteNum = lowestHeld + row;
+            step.enabled = true;
+            drawn.pattern.steps.push_back (step);
+        }
+    }
+
+    /** One note on every quarter. */
+    void drawQuarters (size_t slot, int row, double gate = 0.5) { drawSteps (slot, 4, row, gate); }
+
+    static constexpr int lowestHeld = 64; // the row of the lowest held key
+
+    Processor processor;
+    State& state = processor.getState();
+};
+
+/** The samples at which a note was started. */
+inline std::vector<int> startsOf (const Test::TestHost& host, int note)
+{
+    std::vector<int> samples;
+
+    for (const auto& message : host.getReceived())
+        if (message.isNoteOn() && message.note() == note)
+            samples.push_back (static_cast<int> (message.sample));
+
+    return samples;
+}
+} // namespace Zn::Audio::Plugins::Vornel
