@@ -201,6 +201,45 @@ TEST (LV2Clock, KeepsAMessageThatOnlyConfirms)
     EXPECT_EQ (host.jumps, 0);
 }
 
+TEST (LV2Clock, GoesOnSmoothlyThroughChangesOfTempoThatAreToldInTicks)
+{
+    constexpr auto ticksPerBeat = 960.0;
+    Host host;
+    auto beat = 0.0, tempo = 120.0;
+
+    for (auto block = 0; block < 100; ++block)
+    {
+        host.run (
+            { { 0,
+                playingAt (block * blockSize, 0, std::floor (beat * ticksPerBeat) / ticksPerBeat, tempo) } });
+        EXPECT_NEAR (host.start(), beat, 1e-9) << "block " << block;
+
+        beat += quarters (blockSize, tempo);
+        tempo += 1.0;
+    }
+
+    host.run ({ { 0, playingAt (100 * blockSize, 0, beat + 0.01, tempo) } });
+    EXPECT_NEAR (host.start(), beat + 0.01, 1e-9) << "that is no rounding";
+}
+
+TEST (LV2Clock, StartsAtTheBarAfterAMoveThatIsToldInFramesAlone)
+{
+    constexpr auto tick = 1.0 / 1920.0;
+    Host host;
+    host.run (
+        { { 0, { .frame = 0.0, .speed = 0.0, .bar = 0, .barBeat = 1.0 - tick, .beatsPerMinute = 120.0 } } });
+    host.run ({ { 0, { .frame = 3 * 24000.0 } } });
+    host.run ({ { 0, playingAt (3 * 24000, 1, 0.0) } });
+    EXPECT_EQ (host.start(), 4.0) << "and not in the step ahead of it";
+
+    auto stop = playingAt (3 * 24000 + blockSize, 1, std::floor (quarters (blockSize, 120.0) / tick) * tick);
+    stop.speed = 0.0;
+    host.run ({ { 0, stop } });
+    stop.speed = 1.0;
+    host.run ({ { 0, stop } });
+    EXPECT_NEAR (host.start(), 4.0 + quarters (blockSize, 120.0), 1e-9) << "goes on from where it stood";
+}
+
 TEST (LV2Clock, TellsTheBarItIsIn)
 {
     Host host;

@@ -2,6 +2,7 @@
 
 #include "Plugin/Transport/InternalPlayHead.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Zn::Audio
@@ -16,6 +17,9 @@ constexpr auto farthest = 1.0e15;    // samples or quarter notes; what lies beyo
 
 // Bars and beats come in single precision.
 constexpr auto beatTolerance = 1.0e-3;
+
+// Many hosts count the beats of a bar in whole ticks; this is the longest in use, in quarter notes.
+constexpr auto longestTick = 1.0 / 960.0;
 
 bool isBetween (double low, std::optional<double> value, double high) noexcept
 {
@@ -32,9 +36,15 @@ bool isWhole (double beats) noexcept
     return std::abs (beats - std::round (beats)) < beatTolerance;
 }
 
+bool areWithin (double distance, std::optional<double> a, std::optional<double> b) noexcept
+{
+    return a && b && std::abs (*a - *b) <= distance;
+}
+
 struct MusicalPosition
 {
     std::optional<double> ppq, barStartPpq; // quarter notes
+    bool isExact = true;                    // to the sample
 };
 
 /** Where a message puts the song. The running count of beats is best, as bars times beats overlooks that
@@ -51,13 +61,25 @@ MusicalPosition musicalPositionOf (const LV2Position& message, double beatsPerBa
     const auto isBeatExact = beat && (! barBeat || (ppqPerBeat == 1.0 && isWhole (*beat - *barBeat)));
 
     if (isBeatExact)
-        return { *beat, barBeat ? std::optional { *beat - *barBeat } : std::nullopt };
+        return { .ppq = *beat, .barStartPpq = barBeat ? std::optional { *beat - *barBeat } : std::nullopt };
 
     if (! bar || ! barBeat)
-        return { beat, {} };
+        return { .ppq = beat, .barStartPpq = {} };
 
     const auto barStart = *bar * beatsPerBar * ppqPerBeat;
-    return { barStart + *barBeat * ppqPerBeat, barStart };
+    return { .ppq = barStart + *barBeat * ppqPerBeat, .barStartPpq = barStart, .isExact = false };
+}
+
+/** What ticks leave out moves no song that goes on as expected, with a new tempo say: a step that has just
+    started would start again. Ticks are rounded down, so at a start the later of two positions is right.
+*/
+std::optional<double>
+unrounded (const MusicalPosition& told, std::optional<double> expectedPpq, bool wasMoving) noexcept
+{
+    if (told.isExact || ! areWithin (longestTick, told.ppq, expectedPpq))
+        return told.ppq;
+
+    return wasMoving ? *expectedPpq : std::max (*expectedPpq, *told.ppq);
 }
 } // namespace
 
@@ -72,17 +94,20 @@ void LV2Clock::receive (const LV2Position& message, int offset) noexcept
     samplesSince += offset;
     const auto oldFrame = getFrame();
     const auto oldPpq = getPpq();
+    const auto wasMoving = isMoving();
     samplesSince = -offset;
 
     hasMessage = true;
     takeOverRates (message);
 
-    const auto [newPpq, newBarStart] = musicalPositionOf (message, beatsPerBar, beatUnit);
+    const auto told = musicalPositionOf (message, beatsPerBar, beatUnit);
     const auto newFrame = ifUsable (message.frame);
     const auto rate = getPpqPerSample();
 
-    if (newPpq)
-        barStartPpq = newBarStart;
+    if (told.ppq)
+        barStartPpq = told.barStartPpq;
+
+    const auto newPpq = areWithin (1.0, newFrame, oldFrame) ? unrounded (told, oldPpq, wasMoving) : told.ppq;
 
     anchorFrame = newFrame ? newFrame : oldFrame;
     anchorPpq = newPpq ? newPpq : oldPpq;
