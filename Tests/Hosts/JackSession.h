@@ -1,0 +1,77 @@
+#pragma once
+
+#include "Hosts/JackTempoMap.h"
+
+#include <juce_audio_basics/juce_audio_basics.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Zn::Test
+{
+/** What a song's script may do at the start of each JACK period. The transport obeys one period later. */
+class Conductor
+{
+public:
+    virtual ~Conductor() = default;
+
+    virtual bool isRolling() const noexcept = 0;
+    virtual void pressKeys() noexcept = 0; // once; they are released at the song's end
+    virtual void start() noexcept = 0;
+    virtual void stop() noexcept = 0;
+    virtual void locate (double quarters) noexcept = 0;
+    virtual void changeTempo (double tempo) noexcept = 0;
+};
+
+/** A piece of music for a program on JACK: a chord of C, E and G under a transport that the script moves.
+
+    The transport stands at the known place of the tempo map when the song begins.
+*/
+struct JackSong
+{
+    std::function<void (Conductor&, int period)> script;
+    int numPeriods = 0;
+    std::optional<JackTempoMap> tempoMap {}; // without one JACK knows frames only, and no tempo
+};
+
+/** What came back. */
+struct JackRecording
+{
+    struct Onset
+    {
+        int sample = 0; // from the first period on
+        int pitch = 0;
+        bool isRolling = false; // whether the song was, and at which quarter note
+        double quarters = 0.0;
+    };
+
+    std::vector<Onset> onsets;
+    juce::MidiBuffer events; // by sample from the first period on, until well after the keys' release
+};
+
+/** Plays songs to a program that has one MIDI input and one output on JACK, and hears what it answers.
+
+    The server freewheels meanwhile: periods follow each other as fast as all programs are through with them,
+    so a busy machine costs none, and minutes of music take seconds. Keys and ears are two clients, so that an
+    answer is heard in the period of its key. What JACK refuses throws, and so does a song of which a period
+    was lost.
+*/
+class JackSession
+{
+public:
+    /** Waits until the program's ports are there. */
+    explicit JackSession (const std::string& program);
+    ~JackSession();
+
+    JackRecording play (const JackSong& song);
+
+    double getSampleRate() const noexcept;
+
+private:
+    struct Implementation;
+    std::unique_ptr<Implementation> implementation;
+};
+} // namespace Zn::Test
