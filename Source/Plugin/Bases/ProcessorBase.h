@@ -20,10 +20,9 @@ public:
     bool acceptsMidi() const override { return true; }
     bool producesMidi() const override { return true; }
     bool isMidiEffect() const override { return false; }
-    double getTailLengthSeconds() const override
-    {
-        return 5.0;
-    } // the longest release and the last audible echo
+
+    /** The longest release and the last audible echo. */
+    double getTailLengthSeconds() const override { return 5.0; }
 
     /** A plug-in without a screen; WithEditor gives it one. */
     bool hasEditor() const override { return false; }

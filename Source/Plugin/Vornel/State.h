@@ -65,7 +65,7 @@ public:
     Midi::Learn::LearnerRecord learner;
     Midi::PitchTableRing pitchTables;
 
-    std::atomic<float> meter { 0.0f };        // peak of the left channel, a gain; written: audio, read: GUI
+    std::atomic<float> meter { 0.0f };        // RMS of the left channel, a gain; written: audio, read: GUI
     std::atomic<int> numMeterListeners { 0 }; // the meter is worked out while there are any; written: GUI
 
     bool snap = true;           // edits keep to the grid; thread: message
