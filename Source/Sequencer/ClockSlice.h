@@ -17,6 +17,7 @@ struct ClockSlice
     bool isPlaying = false;
     bool jumped = false;       // the first position does not continue the previous block's last
     bool stateChanged = false; // playing differs from the previous block
+    double ppqPerSample = 0.0; // while the clock moves; 0 if unknown
 
     int size() const noexcept { return static_cast<int> (ppq.size()); }
 
@@ -28,7 +29,8 @@ struct ClockSlice
         return { ppq.subspan (static_cast<std::size_t> (run.start), static_cast<std::size_t> (run.length)),
                  isPlaying,
                  isFirst && jumped,
-                 isFirst && stateChanged };
+                 isFirst && stateChanged,
+                 ppqPerSample };
     }
 };
 } // namespace Zn::Sequencer

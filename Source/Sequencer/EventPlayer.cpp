@@ -49,7 +49,8 @@ struct EventPlayer::Run
     std::span<const double> positions;
     Arrival arrival;
     const PatternOutput& output;
-    double previousEnd; // position of the last sample before this run
+    double previousEnd;  // position of the last sample before this run
+    double samplePeriod; // from one sample of the clock to the next
     double first = positions.front();
     double last = std::max (first, positions.back());
     bool isRising = std::is_sorted (positions.begin(), positions.end());
@@ -63,10 +64,21 @@ struct EventPlayer::Run
         return first <= time.start && time.start < last;
     }
 
-    /** True for a start that no run holds, since it lies between two samples of which one ended a run. */
+    /** True for a start that no run holds, since it lies between two samples of which one ended a run, or was
+        left out by a jump.
+    */
     bool startsBefore (const Ranges::Span& time) const noexcept
     {
-        return arrival == Arrival::continues && previousEnd <= time.start && time.start < first;
+        const auto isSinceLastSample =
+            arrival == Arrival::jumped ? first - samplePeriod < time.start : previousEnd <= time.start;
+
+        return arrival != Arrival::wrapped && isSinceLastSample && time.start < first;
+    }
+
+    /** True for a note of which a jump leaves less than a sample. */
+    bool isNearlyOver (const Ranges::Span& time) const noexcept
+    {
+        return arrival == Arrival::jumped && time.start < first && time.end() < first + samplePeriod;
     }
 
     int sampleOf (double position) const noexcept
@@ -106,7 +118,7 @@ void EventPlayer::run (const RenderedEvents& events,
                        Arrival arrival,
                        const PatternOutput& output) noexcept
 {
-    const Run run { positions, arrival, output, endPosition };
+    const Run run { positions, arrival, output, endPosition, samplePeriod };
 
     endAllWhenGoingBack (run);
     gather (events, run);
@@ -182,10 +194,14 @@ void EventPlayer::walk (const TimedNote& note, const Run& run) noexcept
 
     if (run.startsInside (note.time))
         play (note, run.sampleOf (note.time.start), run);
-    else if (run.startsBefore (note.time) || ! playState.isSounding (cell))
+    else if (run.startsBefore (note.time))
+        play (note, 0, run);
+    else if (playState.isSounding (cell))
+        playState.claim (cell);
+    else if (! run.isNearlyOver (note.time))
         play (note, 0, run);
     else
-        playState.claim (cell);
+        return;
 
     if (const auto end = note.time.end(); end < run.last)
     {

@@ -14,7 +14,7 @@ namespace Zn::Sequencer
 enum class Arrival
 {
     continues, // one sample later
-    jumped,    // from somewhere else: by the transport, or because the pattern was anchored anew
+    jumped,    // from elsewhere or from a stop: the transport's jump, or the pattern was anchored anew
     wrapped    // over the pattern's end
 };
 
@@ -22,8 +22,12 @@ enum class Arrival
 
     A note sounds at the sample where the run crosses its start. One that already lasts when a run begins and
     does not sound yet is caught up with at the run's first sample; so a start between the last sample of a run
-    and the first of the next sounds one sample late. Going back ends all notes first. What the list no longer
-    holds, because it was edited or taken away, ends at the first sample of the next run.
+    and the first of the next sounds one sample late. Going back ends all notes first.
+    What the list no longer holds, because it was edited or taken away, ends at the first sample of the next run.
+
+    Hosts begin and jump on whole samples, which may lie a little off the beat. So where a run begins with a
+    jump, a note that is less than a sample old starts, whatever has sounded on its row; and one that is over
+    within a sample is not caught up with.
 
     Lists are sorted by start. What is out of order, disabled, or names no row is passed over, and so is a place
     in time that is not a number. Thread: audio.
@@ -34,6 +38,9 @@ public:
     EventPlayer();
 
     void setSeed (std::int64_t seed) noexcept { random.setSeed (seed); }
+
+    /** How far two samples of the clock are apart, in quarter notes; 0 if unknown. */
+    void setSamplePeriod (double period) noexcept { samplePeriod = period; }
 
     /** Plays one run: positions in the pattern in quarter notes, one for each sample, at least one. */
     void run (const RenderedEvents& events,
@@ -59,6 +66,7 @@ private:
     void showPositions (const Run& run) noexcept;
 
     double lastPosition = 0.0; // of the first sample of the last run
+    double samplePeriod = 0.0; // quarter notes
     double endPosition = std::numeric_limits<double>::quiet_NaN();
     PlayState playState;
     juce::Random random;

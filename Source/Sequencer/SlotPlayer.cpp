@@ -40,6 +40,7 @@ void SlotPlayer::run (const ClockSlice& clock,
 
     firedMarks.clear();
 
+    player.setSamplePeriod (clock.ppqPerSample);
     const auto arrival = arrive (clock);
     const PatternOutput output { rows, firedMarks, offset };
     const auto& played = isHeard (clock, slot) ? slot : fallback;
@@ -64,7 +65,9 @@ Arrival SlotPlayer::arrive (const ClockSlice& clock) noexcept
         return Arrival::jumped;
     }
 
-    return clock.jumped ? Arrival::jumped : Arrival::continues;
+    const auto begins = clock.stateChanged && clock.isPlaying;
+
+    return clock.jumped || begins ? Arrival::jumped : Arrival::continues;
 }
 
 void SlotPlayer::runLoop (const RenderedSlot& slot, Arrival arrival, const PatternOutput& output) noexcept
@@ -77,7 +80,7 @@ void SlotPlayer::runLoop (const RenderedSlot& slot, Arrival arrival, const Patte
 
     // Where the loop is as long as the block, each run begins where the last one began: only the way back from
     // the last run's end tells that the pattern has wrapped. A clock that falls back by less only jitters.
-    if (player.getEndPosition() - positions.front() > 0.5 * slot.playLength)
+    if (arrival == Arrival::continues && player.getEndPosition() - positions.front() > 0.5 * slot.playLength)
         arrival = Arrival::wrapped;
 
     for (auto start = positions.begin(); start != positions.end();)

@@ -151,6 +151,50 @@ TEST (HostClock, GoesToWhereTheSongJumpsWithoutPlayingWhatLiesBetween)
     }
 }
 
+TEST (HostClock, BeginsWithTheStepOfThePositionWhereTheSongStarts)
+{
+    struct Row
+    {
+        double start;   // quarter notes
+        int firstStart; // samples
+    };
+
+    for (const auto keyMode : { true, false })
+        for (const auto& row : { Row { 23.999999, 0 },
+                                 Row { 24.000001, 0 },
+                                 Row { 24.0, 0 },
+                                 Row { 18.25, 18000 },
+                                 Row { 18.999999, 0 },
+                                 Row { 19.00001, 0 },
+                                 Row { -0.000001, 0 },
+                                 Row { -0.5, 12000 } })
+        {
+            Song song { 512, row.start == 18.25 ? 0.2 : 1.0 };
+            song.state.keyMode = keyMode;
+            song.host.playHead.stop();
+            song.host.playHead.jumpTo (row.start);
+            song.host.send (events ("off 60 @0"));
+            song.host.run (5120);
+
+            const auto start = static_cast<int> (song.host.getPosition());
+            const auto soFar = song.starts().size();
+            song.host.playHead.play();
+            song.host.playHead.jumpTo (row.start);
+            song.host.send (events ("on 60 @0"));
+            song.host.run (bar);
+
+            auto starts = song.starts();
+            starts.erase (starts.begin(), starts.begin() + static_cast<std::ptrdiff_t> (soFar));
+            ASSERT_THAT (starts, testing::Not (IsEmpty())) << row.start;
+
+            for (size_t i = 0; i < starts.size(); ++i)
+                EXPECT_NEAR (starts[i], start + row.firstStart + static_cast<int> (i) * quarter, 1)
+                    << "from " << row.start << (keyMode ? " in key mode" : "");
+
+            song.expectBalanced();
+        }
+}
+
 TEST (HostClock, StaysOnTheGridThroughEveryTempo)
 {
     Song song { 512, 0.1 };

@@ -60,7 +60,11 @@ public:
     juce::MidiBuffer playAt (const std::vector<double>& positions)
     {
         juce::MidiBuffer rows;
-        const Sequencer::ClockSlice clock { positions, isPlaying, std::exchange (jumped, false), false };
+        const Sequencer::ClockSlice clock { positions,
+                                            isPlaying,
+                                            std::exchange (jumped, false),
+                                            std::exchange (wasPlaying, isPlaying) != isPlaying,
+                                            ppqPerSample };
         const auto length = engine.run (clock, frame, rows);
 
         if (length != clock.size())
@@ -90,5 +94,8 @@ public:
     double ppq = 0.0;            // quarter notes at the next sample
     bool isPlaying = true;
     bool jumped = false;
+
+private:
+    bool wasPlaying = false;
 };
 } // namespace Zn::Test

@@ -37,6 +37,7 @@ Sequencer::ClockSlice TransportSlice::clock() const noexcept
     return { positions.subspan (static_cast<std::size_t> (offset), static_cast<std::size_t> (length)),
              view->isPlaying(),
              jumped,
-             stateChanged };
+             stateChanged,
+             view->getPpqPerSample() };
 }
 } // namespace Zn::Audio
