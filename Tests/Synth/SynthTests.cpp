@@ -1,0 +1,282 @@
+#include "Synth/WavetableSynth/Synth.h"
+
+#include "Support/KernelVoice.h"
+#include "Support/MidiText.h"
+#include "Support/RealTimeGuard.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace Zn::Audio::WavetableSynth
+{
+namespace
+{
+using Test::events;
+
+constexpr double rate = 48000.0;
+
+/** One table in the literal voice's form and in ours. */
+struct TwinTable
+{
+    TwinTable (int numChannels, int numFrames, std::vector<float> harmonics)
+        : plain (static_cast<size_t> (numChannels), std::vector<float> (static_cast<size_t> (numFrames)))
+    {
+        for (size_t c = 0; c < plain.size(); ++c)
+            for (size_t i = 0; i < plain[c].size(); ++i)
+                for (size_t h = 0; h < harmonics.size(); ++h)
+                    plain[c][i] += harmonics[h]
+                                   * static_cast<float> (std::sin (6.283185307179586 * double (h + 1)
+                                                                       * double (i) / double (numFrames - 1)
+                                                                   + 0.3 * double (c)));
+
+        interleaved.emplace (plain);
+    }
+
+    Test::LiteralTable plain;
+    std::optional<Test::KernelTable> interleaved;
+};
+
+struct Rig
+{
+    Rig()
+    {
+        synth.prepare (rate);
+
+        for (auto& oscillator : settings.oscillators)
+        {
+            oscillator.table = table.interleaved->view();
+            oscillator.volume = 0.2f;
+        }
+
+        settings.sub.table = sine.interleaved->view();
+        setEnvelope (0.005f, 1.0f, 1.0f, 0.01f);
+    }
+
+    void setEnvelope (float attack, float decay, float sustain, float release)
+    {
+        settings.envelope = Kernels::makeEnvelopeRates (attack, decay, sustain, release, rate);
+    }
+
+    juce::AudioBuffer<float> render (int numSamples, const juce::MidiBuffer& midi = {})
+    {
+        juce::AudioBuffer<float> audio (2, numSamples);
+        synth.setSettings (settings);
+        synth.render (audio, midi);
+        return audio;
+    }
+
+    TwinTable table { 2, 2048, { 0.5f, 0.25f, 0.1f, 0.05f } };
+    TwinTable sine { 1, 4096, { 1.0f } };
+    VoiceSettings settings;
+    Synth synth;
+};
+
+float loudestDifference (const juce::AudioBuffer<float>& a, const juce::AudioBuffer<float>& b)
+{
+    auto loudest = 0.0f;
+
+    for (auto c = 0; c < 2; ++c)
+        for (auto i = 0; i < a.getNumSamples(); ++i)
+            loudest = std::max (loudest, std::abs (a.getSample (c, i) - b.getSample (c, i)));
+
+    return loudest;
+}
+
+int firstSound (const juce::AudioBuffer<float>& audio)
+{
+    for (auto i = 0; i < audio.getNumSamples(); ++i)
+        if (audio.getSample (0, i) != 0.0f || audio.getSample (1, i) != 0.0f)
+            return i;
+
+    return -1;
+}
+} // namespace
+
+TEST (Synth, SoundsLikeTheLiteralVoiceForAnySettings)
+{
+    juce::Random random (3);
+
+    for (auto attempt = 0; attempt < 60; ++attempt)
+    {
+        Rig rig;
+        Zn::Test::VoiceSettings literal;
+        const auto flip = [&random] { return random.nextInt (4) > 0; };
+
+        for (size_t i = 0; i < literal.oscillators.size(); ++i)
+        {
+            auto& ours = rig.settings.oscillators[i];
+            ours.enabled = flip();
+            ours.octave = random.nextInt (7) - 3;
+            ours.tune = random.nextInt (49) - 24;
+            ours.unison = 1 + random.nextInt (2);
+            ours.spread = random.nextFloat();
+            ours.volume = flip() ? random.nextFloat() : 0.0f;
+            literal.oscillators[i] = { ours.enabled, &rig.table.plain, ours.octave, ours.tune,
+                                       ours.volume,  ours.unison,      ours.spread };
+        }
+
+        auto& sub = rig.settings.sub;
+        sub.octave = random.nextInt (7) - 3;
+        sub.volume = random.nextFloat();
+        literal.subTable = &rig.sine.plain;
+        literal.subOctave = sub.octave;
+        literal.subVolume = sub.volume;
+
+        auto& filter = rig.settings.filter;
+        filter.enabled = flip();
+        filter.cutoffHz = 10.0f + 11000.0f * random.nextFloat();
+        filter.resonance = 0.1f + 2.9f * random.nextFloat();
+        filter.keyTracking = random.nextFloat();
+        literal.filterEnabled = filter.enabled;
+        literal.cutoff = filter.cutoffHz;
+        literal.resonance = filter.resonance;
+        literal.keyTracking = filter.keyTracking;
+
+        literal.attack = 0.005f + 0.02f * random.nextFloat();
+        literal.decay = 0.005f + 0.05f * random.nextFloat();
+        literal.sustain = random.nextFloat();
+        literal.release = 0.005f + 0.02f * random.nextFloat();
+        rig.setEnvelope (literal.attack, literal.decay, literal.sustain, literal.release);
+
+        const auto note = 24 + random.nextInt (72);
+        const auto velocity = 1 + random.nextInt (127);
+
+        juce::MidiBuffer on, off;
+        on.addEvent (juce::MidiMessage::noteOn (1, note, juce::uint8 (velocity)), 0);
+        off.addEvent (juce::MidiMessage::noteOff (1, note), 0);
+
+        Zn::Test::LiteralVoice reference (rate, 4096);
+        reference.noteStarted (literal, note, juce::MPEValue::from7BitInt (velocity).as14BitInt());
+
+        juce::AudioBuffer<float> expected (2, 4096);
+        reference.render (literal, expected);
+        EXPECT_LT (loudestDifference (rig.render (4096, on), expected), 1.0e-5f) << attempt;
+
+        reference.noteStopped (literal);
+        reference.render (literal, expected);
+        EXPECT_LT (loudestDifference (rig.render (4096, off), expected), 1.0e-5f) << attempt;
+        EXPECT_EQ (rig.synth.isAnyVoiceActive(), reference.isActive()) << attempt;
+    }
+}
+
+TEST (Synth, StartsEndsAndBendsAtTheSampleOfTheMessage)
+{
+    Rig rig;
+    rig.setEnvelope (0.0f, 0.0f, 1.0f, 0.0f);
+    auto audio = rig.render (512, events ("on 60 @100, off 60 @300"));
+
+    EXPECT_NEAR (firstSound (audio), 101, 1); // a sine begins with 0
+    EXPECT_NE (audio.getMagnitude (290, 10), 0.0f);
+    EXPECT_EQ (audio.getMagnitude (301, 211), 0.0f);
+    EXPECT_FALSE (rig.synth.isAnyVoiceActive());
+}
+
+TEST (Synth, RemembersTheWheelBetweenNotes)
+{
+    const auto whole = Rig().render (4096, events ("on 62 @0"));
+    auto bent = Rig().render (4096, events ("hex E0 7F 7F @0, on 50 @0, off 50 @0, on 60 @0"));
+
+    // A wheel at its top is two semitones, a hair short of it.
+    Rig alone;
+    alone.setEnvelope (0.0f, 0.0f, 1.0f, 0.0f);
+    EXPECT_GT (whole.getMagnitude (0, 4096), 0.05f);
+    EXPECT_GT (bent.getMagnitude (0, 4096), 0.05f);
+    EXPECT_LT (loudestDifference (alone.render (512, events ("hex E0 7F 7F @0, on 60 @0")),
+                                  [] {
+                                      Rig other;
+                                      other.setEnvelope (0.0f, 0.0f, 1.0f, 0.0f);
+                                      return other.render (512, events ("on 62 @0"));
+                                  }()),
+               2.0e-3f);
+}
+
+TEST (Synth, RendersTheSameHoweverItsBlocksAreCut)
+{
+    const auto play = [] (const std::vector<int>& blocks) {
+        Rig rig;
+        rig.setEnvelope (0.01f, 0.05f, 0.5f, 0.05f);
+        const auto song =
+            events ("on 48 @0, on 60 @37, hex E0 00 50 @900, off 48 @1000, on 67 @1500, off 60 @1501");
+        juce::AudioBuffer<float> whole (2, 3000);
+        auto start = 0;
+
+        for (size_t i = 0; start < 3000; ++i)
+        {
+            const auto length = std::min (blocks[i % blocks.size()], 3000 - start);
+            juce::MidiBuffer midi;
+            midi.addEvents (song, start, length, -start);
+            const auto block = rig.render (length, midi);
+
+            for (auto c = 0; c < 2; ++c)
+                whole.copyFrom (c, start, block, c, 0, length);
+
+            start += length;
+        }
+
+        return whole;
+    };
+
+    const auto whole = play ({ 3000 });
+
+    for (const auto& blocks : { std::vector { 1 }, std::vector { 64 }, std::vector { 511, 7, 100 } })
+        EXPECT_LT (loudestDifference (play (blocks), whole), 1.0e-5f);
+}
+
+TEST (Synth, SurvivesMoreNotesThanItHasVoices)
+{
+    Rig rig;
+    juce::MidiBuffer all;
+
+    for (auto note = 0; note < 128; ++note)
+        all.addEvent (juce::MidiMessage::noteOn (1, note, juce::uint8 (100)), note % 64);
+
+    rig.render (512);
+    rig.synth.setSettings (rig.settings);
+    juce::AudioBuffer<float> audio (2, 512);
+
+    {
+        const Zn::Test::ExpectRealTimeSafe watched ("a block with 128 new notes");
+        rig.synth.render (audio, all);
+    }
+
+    EXPECT_TRUE (std::isfinite (audio.getMagnitude (0, 512)));
+
+    juce::MidiBuffer none;
+
+    for (auto note = 0; note < 128; ++note)
+        none.addEvent (juce::MidiMessage::noteOff (1, note), 0);
+
+    rig.render (512, none);
+    EXPECT_EQ (rig.render (2048).getMagnitude (1024, 1024), 0.0f);
+    EXPECT_FALSE (rig.synth.isAnyVoiceActive());
+}
+
+TEST (Synth, StaysFiniteAtEveryRateAndExtreme)
+{
+    for (const auto sampleRate : { 8000.0, 44100.0, 384000.0 })
+        for (const auto note : { 0, 60, 127 })
+        {
+            Rig rig;
+            rig.synth.prepare (sampleRate);
+            rig.settings.envelope = Kernels::makeEnvelopeRates (0.005f, 1.0f, 1.0f, 0.01f, sampleRate);
+            rig.settings.filter = { true, 12000.0f, 3.0f, 1.0f };
+            rig.settings.sub.octave = 3;
+
+            for (auto& oscillator : rig.settings.oscillators)
+            {
+                oscillator.octave = 3;
+                oscillator.tune = 24;
+                oscillator.volume = 2.0f;
+            }
+
+            juce::MidiBuffer midi;
+            midi.addEvent (juce::MidiMessage::pitchWheel (1, 16383), 0);
+            midi.addEvent (juce::MidiMessage::noteOn (1, note, juce::uint8 (127)), 0);
+
+            const auto loudest = rig.render (8192, midi).getMagnitude (0, 8192);
+            EXPECT_TRUE (std::isfinite (loudest)) << sampleRate << " " << note;
+            EXPECT_LT (loudest, 100.0f) << sampleRate << " " << note;
+        }
+}
+} // namespace Zn::Audio::WavetableSynth
