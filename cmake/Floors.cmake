@@ -31,3 +31,26 @@ function (zn_add_tests name)
     target_link_libraries (${name} PRIVATE ${TESTS_LINKS} zn_test_support zn_real_time_guard zn_warnings GTest::gmock)
     gtest_discover_tests (${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
+
+# Files that become part of the program, in a library of their own: its header NAMESPACE.h declares their names and
+# contents, see Binaries::libraryOf. Without files the library is empty and there is no such header.
+#
+#   zn_add_data (zn_wavetable_data NAMESPACE WavetableData FILES a.wav ...)
+
+function (zn_add_data name)
+    cmake_parse_arguments (DATA "" "NAMESPACE" "FILES" ${ARGN})
+
+    if (NOT DATA_FILES)
+        add_library (${name} INTERFACE)
+        return()
+    endif()
+
+    juce_add_binary_data (${name} NAMESPACE ${DATA_NAMESPACE} HEADER_NAME ${DATA_NAMESPACE}.h SOURCES ${DATA_FILES})
+    get_target_property (folder ${name} INTERFACE_INCLUDE_DIRECTORIES)
+
+    # JUCE's own rule sees only that the list of files has changed, not the files.
+    add_custom_command (OUTPUT "${folder}/BinaryData1.cpp" APPEND DEPENDS ${DATA_FILES})
+
+    set_target_properties (${name} PROPERTIES INTERFACE_INCLUDE_DIRECTORIES "")
+    target_include_directories (${name} SYSTEM INTERFACE "${folder}")
+endfunction()
