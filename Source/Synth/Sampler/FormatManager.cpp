@@ -1,0 +1,15 @@
+#include "Synth/Sampler/FormatManager.h"
+
+namespace Zn::Audio::Sampler
+{
+FormatManager::FormatManager()
+{
+    formats.registerFormat (new juce::WavAudioFormat, true);
+}
+
+std::unique_ptr<juce::AudioFormatReader>
+FormatManager::createReader (std::unique_ptr<juce::InputStream> stream)
+{
+    return std::unique_ptr<juce::AudioFormatReader> (formats.createReaderFor (std::move (stream)));
+}
+} // namespace Zn::Audio::Sampler
