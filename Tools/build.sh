@@ -3,6 +3,9 @@
 
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 
+# One clone's objects serve the next one.
+export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
+
 # configure PRESET: once, and again when the presets have changed; CMake itself sees changed CMakeLists.txt.
 configure()
 {
