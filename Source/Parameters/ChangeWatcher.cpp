@@ -18,14 +18,6 @@ ChangeWatcher::~ChangeWatcher()
         parameter->removeListener (this);
 }
 
-void ChangeWatcher::parameterValueChanged (int, float)
-{
-    changed.store (true);
-
-    if (juce::MessageManager::existsAndIsCurrentThread())
-        answer();
-}
-
 void ChangeWatcher::answer()
 {
     if (changed.exchange (false))

@@ -12,9 +12,9 @@ namespace Zn::Parameters
 {
 /** Calls a function on the message thread after any of some parameters has changed.
 
-    A change made on the message thread is answered at once; one made elsewhere, by automation on the audio thread
-    say, only sets a flag that the shared timer finds. Made and destroyed on any thread, as processors are: its end
-    waits for an answer that is under way. The parameters outlive it.
+    A change only sets a flag, which the shared timer finds: it may come from automation on the audio thread, and JUCE
+    holds a lock meanwhile that automation would wait for. Made and destroyed on any thread, as processors are: its
+    end waits for an answer that is under way. The parameters outlive it.
 */
 class ChangeWatcher : private juce::AudioProcessorParameter::Listener
 {
@@ -25,11 +25,12 @@ public:
     ChangeWatcher (const ChangeWatcher&) = delete;
     ChangeWatcher& operator= (const ChangeWatcher&) = delete;
 
-private:
-    void parameterValueChanged (int, float) override;
-    void parameterGestureChanged (int, bool) override {}
-
+    /** Calls the function now if a change waits for it, for whoever cannot wait for the timer. Thread: message. */
     void answer();
+
+private:
+    void parameterValueChanged (int, float) override { changed.store (true); }
+    void parameterGestureChanged (int, bool) override {}
 
     const std::vector<juce::AudioProcessorParameter*> parameters;
     const CallbackFunc callback;

@@ -38,6 +38,7 @@ void Processor::prepare (double sampleRate, int maxBlockSize)
         spare.prepare (sampleRate, maxBlockSize);
 
     midi.prepare (maxBlockSize);
+    state->followChanges();
 }
 
 void Processor::process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept

@@ -168,6 +168,12 @@ void State::reflectSequencer (Reflector& r)
     addAtomic (r, "active", keyMode);
 }
 
+void State::followChanges()
+{
+    if (swingWatcher && juce::MessageManager::existsAndIsCurrentThread())
+        swingWatcher->answer();
+}
+
 void State::followSwing()
 {
     patterns.setSwing (

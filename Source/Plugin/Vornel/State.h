@@ -39,6 +39,11 @@ public:
     /** The columns of a slot's drawing, for the editor. */
     ConnectedIntParam gridOf (std::size_t slotIndex);
 
+    /** Takes in changes of parameters that wait for the timer, so that a render that begins now has them. Does nothing on
+        another thread than the message thread.
+    */
+    void followChanges();
+
     /** Stops answering changes of parameters, so that nothing of the message thread's is under way in here. To be
         called before the state or its listeners are destroyed. Thread: any.
     */
