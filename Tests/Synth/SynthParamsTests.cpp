@@ -1,0 +1,149 @@
+#include "Parameters/ParameterText.h"
+#include "Parameters/TargetValue.h"
+#include "Support/Documents.h"
+#include "Support/RealTimeGuard.h"
+#include "Synth/WavBytes.h"
+#include "Synth/WavetableSynth/Params.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace Zn::Audio::WavetableSynth
+{
+namespace
+{
+using namespace Tests;
+
+const SampleList& threeTables()
+{
+    static const SampleList list { [] {
+        std::vector<TableSource> sources;
+
+        for (const auto* name : { "Basics - ARP", "Buzzy - Triaj", "Middy - Fair Square" })
+            sources.push_back (tableSource (name, wavBytes (cycleOf (64, { sine }))));
+
+        return sources;
+    }() };
+
+    return list;
+}
+
+void forEachParam (ParamList& list, const std::function<void (ParamHolderBase&)>& visit)
+{
+    for (const auto& [name, holder] : list.getParams())
+        visit (*holder);
+
+    for (const auto& [name, child] : list.getChildren())
+        forEachParam (*child, visit);
+}
+} // namespace
+
+TEST (SynthParams, SaveWhatPresetsHold)
+{
+    Params params { threeTables() };
+
+    const auto oscillator = parsed (R"({ "Type": "ARP", "Enable": "On", "Octave": "0", "Tune": "0",
+        "Volume": "-15.00 dB", "Unison": { "Unison": "1", "UnisonDepth": "0.50", "UnisonSpread": "0.50" } })");
+
+    auto expected = parsed (R"({
+        "Oscillators": { "Sync": "Off" },
+        "Filter": { "Enable": "On", "Cutoff": "8000.00", "Resonance": "1.00", "KeyTracking": "1.00" },
+        "ADSR": { "Attack": "0.00", "Decay": "1.00", "Sustain": "1.00", "Release": "0.01" },
+        "Delay": { "Analog": "0.50", "Mode": "Sync", "Time": "0.10", "TimeSync": "1/4", "Feedback": "0.10",
+                   "Mix": "0.00" },
+        "Sub": { "SubVolume": "0.00 dB", "SubOctave": "-2" } })");
+
+    for (const auto* name : { "OSC 0", "OSC 1", "OSC 2", "OSC 3" })
+        expected["Oscillators"][name] = oscillator;
+
+    EXPECT_EQ (saved (params), expected);
+}
+
+TEST (SynthParams, EveryTextThatIsShownReadsBackAsItself)
+{
+    Params params { threeTables() };
+
+    forEachParam (params, [] (ParamHolderBase& holder) {
+        auto& parameter = holder.getParameter();
+
+        for (auto position = 0; position <= 200; ++position)
+        {
+            Parameters::setNormalised (parameter, static_cast<float> (position) / 200.0f);
+            const auto text = Parameters::currentTextOf (parameter);
+
+            Parameters::setNormalised (parameter, 0.0f);
+            Parameters::setFromText (parameter, text);
+            ASSERT_EQ (Parameters::currentTextOf (parameter), text) << holder.getIdentifier();
+        }
+    });
+}
+
+TEST (SynthParams, LoadASoundThatWasSaved)
+{
+    Params sent { threeTables() }, received { threeTables() };
+    juce::Random random { 7 };
+
+    for (auto round = 0; round < 20; ++round)
+    {
+        forEachParam (sent, [&random] (ParamHolderBase& holder) {
+            Parameters::setNormalised (holder.getParameter(), random.nextFloat());
+        });
+
+        const auto document = saved (sent);
+        load (received, document);
+        EXPECT_EQ (saved (received), document);
+    }
+}
+
+TEST (OscillatorParam, ShowsShortNamesAndKeepsItsTableWhenATextNamesNone)
+{
+    OSCParams params { threeTables() };
+    OSCForwarder forwarder { *params.type };
+
+    for (const auto& [text, index] : std::vector<std::pair<const char*, int>> { { "Triaj", 1 },
+                                                                                { "nowhere to be found", 1 },
+                                                                                { "Fair Square", 2 },
+                                                                                { "", 2 },
+                                                                                { "Buzzy - Triaj", 2 },
+                                                                                { "triaj", 2 },
+                                                                                { " ARP ", 0 } })
+    {
+        Parameters::setFromText (params.type.getParameter(), text);
+        EXPECT_EQ (params.type->getIndex(), index) << text;
+    }
+
+    EXPECT_EQ (params.type->choices[1], "Buzzy - Triaj") << "hosts and menus know the category";
+    EXPECT_EQ (Parameters::currentTextOf (params.type.getParameter()), "ARP");
+    EXPECT_EQ (forwarder.getChoiceText (2), "Fair Square");
+    EXPECT_EQ (forwarder.getChoiceText (3), "");
+    EXPECT_EQ (forwarder.getChoiceText (-1), "");
+    EXPECT_EQ (forwarder.getMenuChoices().subItems.front().text, "Fair Square");
+}
+
+TEST (DelayParams, KeepTimeWithTheSong)
+{
+    AnalogDelay::Params params;
+
+    for (const auto& [name, seconds] : std::vector<std::pair<const char*, double>> { { "1/2", 1.0 },
+                                                                                     { "1/4D", 0.75 },
+                                                                                     { "1/4", 0.5 },
+                                                                                     { "1/8D", 0.375 },
+                                                                                     { "1/8", 0.25 },
+                                                                                     { "1/16D", 0.1875 },
+                                                                                     { "1/16", 0.125 },
+                                                                                     { "1/32", 0.0625 } })
+    {
+        Parameters::setFromText (params.timeSync.getParameter(), name);
+        EXPECT_DOUBLE_EQ (params.delaySeconds (120.0), seconds) << name;
+    }
+
+    for (const auto tempo : { 0.0, 0.99, -5.0, std::numeric_limits<double>::quiet_NaN(), HUGE_VAL })
+        EXPECT_DOUBLE_EQ (params.delaySeconds (tempo), params.delaySeconds (100.0)) << tempo;
+
+    Parameters::setFromText (params.mode.getParameter(), "Free");
+    Parameters::setFromText (params.time.getParameter(), "0.25");
+    const Zn::Test::ExpectRealTimeSafe guard { "reading the delay's time" };
+    EXPECT_DOUBLE_EQ (params.delaySeconds (120.0), 0.25);
+}
+} // namespace Zn::Audio::WavetableSynth
