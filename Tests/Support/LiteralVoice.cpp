@@ -8,6 +8,22 @@ namespace Zn::Test
 namespace
 {
 constexpr double rampSeconds = 0.02;
+
+/** Sample by sample while the place moves, and in one go where it rests. */
+void applyPan (juce::SmoothedValue<float>& pan, juce::AudioBuffer<float>& buffer)
+{
+    const auto scale = [&] (float place, int start, int length) {
+        buffer.applyGain (0, start, length, std::cos (place * 1.5707964f));
+        buffer.applyGain (1, start, length, std::sin (place * 1.5707964f));
+    };
+
+    auto sample = 0;
+
+    for (; sample < buffer.getNumSamples() && pan.isSmoothing(); ++sample)
+        scale (pan.getNextValue(), sample, 1);
+
+    scale (pan.getTargetValue(), sample, buffer.getNumSamples() - sample);
+}
 } // namespace
 
 LiteralVoice::LiteralVoice (double sampleRate, int blockSize)
@@ -182,12 +198,7 @@ void LiteralVoice::renderOscillator (Oscillator& oscillator,
         fillFrom (*settings.table, frequencies[v], voice.phase, one);
         voice.pan.setTargetValue (pans[v]);
 
-        for (auto i = 0; i < numSamples; ++i)
-        {
-            const auto pan = voice.pan.getNextValue();
-            one.getWritePointer (0)[i] *= std::cos (pan * 1.5707964f);
-            one.getWritePointer (1)[i] *= std::sin (pan * 1.5707964f);
-        }
+        applyPan (voice.pan, one);
 
         if (gains[v] > 0.0f)
             for (auto c = 0; c < 2; ++c)
