@@ -26,18 +26,9 @@ float readTable (const TableView& table, int channel, double phase) noexcept
            + weights.twoAhead * here[2 * stride];
 }
 
-std::uint64_t FixedPhase::fromCycles (double cycles) noexcept
+double FixedPhase::fractionOf (double cycles) noexcept
 {
-    if (! std::isfinite (cycles))
-        return 0;
-
     const auto fraction = cycles - std::floor (cycles);
-    return fraction < 1.0 ? static_cast<std::uint64_t> (fraction * 0x1p64) : 0;
-}
-
-double FixedPhase::toCycles (std::uint64_t phase) noexcept
-{
-    constexpr auto bitsBelowDouble = 11; // dropped, as rounding up could give a whole cycle
-    return static_cast<double> (phase >> bitsBelowDouble) * 0x1p-53;
+    return fraction < 1.0 ? fraction : 0.0; // a tiny negative number rounds up to 1; infinity gives no number
 }
 } // namespace Zn::Audio::Kernels

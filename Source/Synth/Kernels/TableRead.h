@@ -37,7 +37,23 @@ struct TableRead
 /** A phase that wraps by itself: the cycle is 2 to the 64. It needs no modulo and does not drift in a run. */
 struct FixedPhase
 {
-    static std::uint64_t fromCycles (double cycles) noexcept; // whole cycles are dropped; not finite gives 0
-    static double toCycles (std::uint64_t phase) noexcept;    // always below 1
+    /** Whole cycles are dropped; what is not finite gives 0. */
+    static std::uint64_t fromCycles (double cycles) noexcept
+    {
+        // By way of a signed number, which processors convert in one step; the bit that is lost is below a double's.
+        return cycles >= 0.0 && cycles < 1.0
+                   ? static_cast<std::uint64_t> (static_cast<std::int64_t> (cycles * 0x1p63)) * 2
+                   : fromCycles (fractionOf (cycles));
+    }
+
+    /** Always below 1: the bits that do not fit a double are dropped, as rounding could give a whole cycle. */
+    static double toCycles (std::uint64_t phase) noexcept
+    {
+        constexpr auto bitsOfDouble = 53;
+        return static_cast<double> (static_cast<std::int64_t> (phase >> (64 - bitsOfDouble))) * 0x1p-53;
+    }
+
+private:
+    static double fractionOf (double cycles) noexcept; // from 0 to below 1
 };
 } // namespace Zn::Audio::Kernels

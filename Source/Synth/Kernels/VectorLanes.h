@@ -43,16 +43,16 @@ inline void store (float* destination, Floats lanes) noexcept
 
 inline Quad loadQuad (const float* source) noexcept
 {
-    Quad lanes;
-    __builtin_memcpy (&lanes, source, sizeof (lanes));
-    return lanes;
+    using Anywhere = float __attribute__ ((vector_size (16), aligned (4), may_alias));
+    return *reinterpret_cast<const Anywhere*> (source);
 }
 
 /** Four floats from each place; four lanes have room for the first place alone. */
 inline Floats loadQuads (const float* first, [[maybe_unused]] const float* second) noexcept
 {
 #if defined(__AVX2__)
-    return __builtin_shufflevector (loadQuad (first), loadQuad (second), 0, 1, 2, 3, 4, 5, 6, 7);
+    return reinterpret_cast<Floats> (
+        _mm256_insertf128_ps (_mm256_castps128_ps256 (_mm_loadu_ps (first)), _mm_loadu_ps (second), 1));
 #else
     return loadQuad (first);
 #endif

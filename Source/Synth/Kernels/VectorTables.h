@@ -25,19 +25,22 @@ struct PhaseRun
     explicit PhaseRun (const VectorKernels::Tone& tone) noexcept
         : lastFrame (Longs {} + tone.lastFrame), step (Longs {} + numLanes * tone.increment)
     {
-        constexpr Longs order = ZN_LANES ((Longs { 0, 1 }), (Longs { 0, 1, 2, 3 }));
-        first = tone.phase + order * tone.increment;
-        second = first + numPairs * tone.increment;
+        const auto one = tone.increment;
+        first = tone.phase + ZN_LANES ((Longs { 0, one }), (Longs { 0, one, 2 * one, 3 * one }));
+        second = first + numPairs * one;
     }
 
     Places next() noexcept
     {
-        const auto low = reinterpret_cast<Words> (position (first));
-        const auto high = reinterpret_cast<Words> (position (second));
-        const auto fractions = reinterpret_cast<Signed> (evenLanes (low, high) >> 8);
+        const auto low = reinterpret_cast<Floats> (position (first));
+        const auto high = reinterpret_cast<Floats> (position (second));
+        const auto fractions =
+            reinterpret_cast<Signed> (reinterpret_cast<Words> (evenLanes (low, high)) >> 8);
         first += step;
         second += step;
-        return { oddLanes (low, high), __builtin_convertvector(fractions, Floats) * 0x1p-24f };
+
+        return { reinterpret_cast<Words> (oddLanes (low, high)),
+                 __builtin_convertvector(fractions, Floats) * 0x1p-24f };
     }
 
 private:
@@ -58,10 +61,11 @@ struct Taps
 inline Taps weigh (Floats t) noexcept
 {
     const auto half = 0.5f * t, square = half * t;
-    return { half * (t * (2.0f - t) - 1.0f),
-             square * (3.0f * t - 5.0f) + 1.0f,
-             half * (t * (4.0f - 3.0f * t) + 1.0f),
-             square * t - square };
+    const auto twoAhead = square * t - square, threeTimes = 3.0f * twoAhead;
+    return { (square - half) - twoAhead,
+             (1.0f - (square + square)) + threeTimes,
+             (square + half) - threeTimes,
+             twoAhead };
 }
 
 inline Floats sum (const Taps& taps, const Taps& weights) noexcept
