@@ -125,7 +125,6 @@ TEST (Resampling, RefusesWhatIsNoCycle)
     ASSERT_EQ (resampled (good).getNumChannels(), 1);
 
     for (const auto& [name, bytes] : std::vector<std::pair<const char*, juce::MemoryBlock>> {
-             { "empty", {} },
              { "text", juce::MemoryBlock ("not a sound", 11) },
              { "no samples", wavBytes (cycleOf (0, { sine })) },
              { "one sample", wavBytes (cycleOf (1, { sine })) },
@@ -142,6 +141,9 @@ TEST (Resampling, RefusesWhatIsNoCycle)
              { "no bits", changed (14, { 0, 0 }) },
          })
         EXPECT_EQ (resampled (bytes).getNumChannels(), 0) << name;
+
+    EXPECT_EQ (Source::Reader::open (MemorySource { {} }), nullptr);
+    EXPECT_EQ (Source::Reader::open (FileSource { juce::File::createTempFile ("missing.wav") }), nullptr);
 }
 
 TEST (SourceReader, AnyDamageToAHeaderIsRefusedOrRead)

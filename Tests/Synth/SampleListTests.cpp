@@ -1,4 +1,3 @@
-#include "Foundation/Singleton.h"
 #include "Support/RealTimeGuard.h"
 #include "Synth/WavBytes.h"
 #include "Synth/WavetableSynth/SampleList.h"
@@ -45,8 +44,10 @@ double rms (const Kernels::TableView& table, int channel)
     return std::sqrt (sum / table.numFrames);
 }
 
-const auto anyCycle = wavBytes (cycleOf (64, { sine }));
-const auto otherCycle = wavBytes (cycleOf (128, { sine }));
+juce::MemoryBlock cycleBytes (int numFrames = 64)
+{
+    return wavBytes (cycleOf (numFrames, { sine }));
+}
 
 /** A folder that is gone with it. */
 struct TemporaryFolder
@@ -57,7 +58,7 @@ struct TemporaryFolder
     TemporaryFolder (const TemporaryFolder&) = delete;
     TemporaryFolder& operator= (const TemporaryFolder&) = delete;
 
-    void add (const juce::String& name, const juce::MemoryBlock& bytes = anyCycle) const
+    void add (const juce::String& name, const juce::MemoryBlock& bytes = cycleBytes()) const
     {
         folder.getChildFile (name).replaceWithData (bytes.getData(), bytes.getSize());
     }
@@ -117,12 +118,12 @@ TEST (SampleList, ShowsFilesUnderReadableNames)
 
 TEST (SampleList, LeavesOutWhatPresetsCouldNotTellApartOrNobodyCanRead)
 {
-    const auto list = listOf ({ { "Basics - Saw.wav", anyCycle },
+    const auto list = listOf ({ { "Basics - Saw.wav", cycleBytes() },
                                 { "broken.wav", juce::MemoryBlock ("RIFF", 4) },
-                                { "Saw.wav", otherCycle },
+                                { "Saw.wav", cycleBytes (128) },
                                 { "long.wav", wavBytes (cycleOf (65537, { sine })) },
-                                { "saw.wav", otherCycle },
-                                { "long.wav", anyCycle } });
+                                { "saw.wav", cycleBytes (128) },
+                                { "long.wav", cycleBytes() } });
 
     EXPECT_THAT (texts (list.getNames()), ElementsAre ("Basics - Saw", "User - saw", "User - long"));
     EXPECT_THAT (texts (list.getShortNames()), ElementsAre ("Saw", "saw", "long"));
@@ -161,8 +162,9 @@ TEST (SampleList, PutsTheUsersTablesBehindTheProgramsOwn)
                    + "Wavetables");
     EXPECT_FALSE (folder.exists());
 
+    const auto cycle = cycleBytes();
     folder.createDirectory();
-    folder.getChildFile ("Mine.wav").replaceWithData (anyCycle.getData(), anyCycle.getSize());
+    folder.getChildFile ("Mine.wav").replaceWithData (cycle.getData(), cycle.getSize());
 
     const auto count = static_cast<int> (factorySources().size()) + 1;
     const SampleList list;
@@ -230,7 +232,6 @@ TEST (SampleList, RepeatsTheEndsOfEachTableAroundIt)
 
 TEST (SampleList, IsOneForAllAndReadWithoutWaiting)
 {
-    const Singleton::UserToken user;
     const auto& list = SampleList::get();
     EXPECT_EQ (&list, &SampleList::get());
 
@@ -245,7 +246,6 @@ TEST (SampleList, IsOneForAllAndReadWithoutWaiting)
 
 TEST (SubTable, IsOneSineWithHardlyAStepAtItsEnd)
 {
-    const Singleton::UserToken user;
     const auto& table = SubTable::get().view();
 
     ASSERT_EQ (table.numChannels, 1);
