@@ -219,6 +219,51 @@ TEST (InternalPlayHead, GoesOnEvenlyThroughWhatAHostLeavesOut)
     }
 }
 
+TEST (InternalPlayHead, GoesOnEvenlyThroughPositionsThatTheHostRoundsToTicks)
+{
+    for (auto ticksPerQuarter : { 960.0, 1920.0 })
+    {
+        TestPlayHead host { 48000.0, 137.0 };
+        host.edit = [=] (PositionInfo& position) {
+            position.setPpqPosition (std::round (*position.getPpqPosition() * ticksPerQuarter)
+                                     / ticksPerQuarter);
+        };
+
+        Clock clock;
+        clock.run (host);
+
+        for (auto block = 1; block < 6000; ++block)
+        {
+            const auto expected = host.ppq;
+            clock.run (host);
+            ASSERT_NEAR (clock.internal.getStartPpq(), expected, 1e-9) << "block " << block;
+        }
+
+        host.setTempo (90.0);
+        host.jumpTo (host.ppq + 0.5);
+        clock.run (host);
+        EXPECT_NEAR (clock.internal.getStartPpq(),
+                     host.ppq - 512 * host.ppqPerSample(),
+                     0.5 / ticksPerQuarter);
+    }
+}
+
+TEST (InternalPlayHead, FollowsAHostWhoseTempoIsNotQuiteWhatItSays)
+{
+    TestPlayHead host { 48000.0, 120.0 };
+    host.edit = [] (PositionInfo& position) { position.setBpm (120.01); };
+    Clock clock;
+
+    for (auto block = 0; block < 20000; ++block)
+    {
+        const auto before = clock.internal.getEndPpq();
+        const auto expected = host.ppq;
+        clock.run (host);
+        ASSERT_NEAR (clock.internal.getStartPpq(), expected, 1.0 / 900.0) << "block " << block;
+        ASSERT_NEAR (clock.internal.getStartPpq(), before, 1.0e-5) << "a leap at block " << block;
+    }
+}
+
 TEST (InternalPlayHead, HearsAJumpInWhicheverPositionTheHostGives)
 {
     struct Row

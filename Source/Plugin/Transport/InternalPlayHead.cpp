@@ -29,6 +29,11 @@ constexpr auto defaultBlockSize = 512;
 // Hosts that count samples in floating point wander by a few; a musician's jump is longer than this.
 constexpr std::int64_t jitterSamples = 30;
 
+// Hosts that count in ticks round a position by as much as one, in quarter notes. What comes out of single
+// precision or of long sums is far less.
+constexpr auto longestTick = 1.0 / 960.0;
+constexpr auto shortestRounding = 1.0e-6;
+
 // Beyond these a double no longer tells neighbouring samples apart.
 constexpr auto farthestPpq = 1.0e12;
 constexpr std::int64_t farthestSample = std::int64_t { 1 } << 52;
@@ -47,6 +52,19 @@ std::int64_t nearestSample (double sample) noexcept
 {
     constexpr auto limit = static_cast<double> (farthestSample);
     return std::llround (std::clamp (sample, -limit, limit));
+}
+
+/** The position that a host rounded. Where it may be any from one tick earlier to one later, a song that goes on
+    evenly is at the expected one, or as near to it as that allows.
+*/
+double unrounded (double hostPpq, double expectedPpq) noexcept
+{
+    const auto difference = std::abs (hostPpq - expectedPpq);
+
+    if (difference < shortestRounding || difference > 2.0 * longestTick)
+        return hostPpq;
+
+    return std::clamp (expectedPpq, hostPpq - longestTick, hostPpq + longestTick);
 }
 
 using PositionInfo = juce::AudioPlayHead::PositionInfo;
@@ -168,6 +186,10 @@ void InternalPlayHead::follow (const PositionInfo& host) noexcept
         const auto moved = hasTime ? static_cast<double> (*time - expectedSample) * ppqPerSample : 0.0;
         info.setPpqPosition (std::clamp (expectedPpq + moved, -farthestPpq, farthestPpq));
     }
+
+    // Followed to the letter, ticks make a step that starts at a block's edge start twice, or never.
+    if (hasPpq && wasPlaying && isPlaying() && time == expectedSample && tempo == lastTempo)
+        info.setPpqPosition (unrounded (*ppq, expectedPpq));
 }
 
 bool InternalPlayHead::isAwayFrom (std::int64_t time) const noexcept
