@@ -169,7 +169,7 @@ TEST_F (Plugin, FollowsTempoStopAndStartAlikeInEveryHost)
     }
 }
 
-TEST_F (Plugin, SendsTheArpeggioAsMidi)
+TEST_F (Plugin, SendsTheArpeggioAsMidiAndSoundsIt)
 {
     const Song song { .numBlocks = blocksPerSecond };
 
@@ -177,6 +177,7 @@ TEST_F (Plugin, SendsTheArpeggioAsMidi)
     {
         EXPECT_EQ (unbalanced (performance.events), "");
         EXPECT_FALSE (performance.onsets.empty());
+        EXPECT_GT (performance.loudest, 0.001f);
 
         for (const auto event : performance.events)
             EXPECT_EQ (event.getMessage().getChannel(), 1);

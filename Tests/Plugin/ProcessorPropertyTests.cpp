@@ -14,10 +14,10 @@ constexpr int numSessions = 150;
 #if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
 constexpr int numSessions = 150;
 #else
-constexpr int numSessions = 3000;
+constexpr int numSessions = 2000;
 #endif
 #else
-constexpr int numSessions = 3000;
+constexpr int numSessions = 2000;
 #endif
 
 constexpr double rate = 8000.0; // low, so that a session takes little time

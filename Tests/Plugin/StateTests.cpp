@@ -85,7 +85,22 @@ TEST_F (StateTest, ComesBackAsItWasSaved)
 
 TEST_F (StateTest, WritesWhatOtherProgramsOfItsFormatRead)
 {
-    const auto document = saved (state);
+    auto document = saved (state);
+    auto& synth = document["Params"]["Synth"]["Synth"];
+
+    EXPECT_EQ (synth["Oscillators"]["OSC 2"], parsed (R"({
+        "Enable": "On", "Octave": "0", "Tune": "0", "Type": "ARP", "Volume": "-15.00 dB",
+        "Unison": { "Unison": "1", "UnisonDepth": "0.50", "UnisonSpread": "0.50" }
+    })"));
+    synth.erase ("Oscillators");
+    EXPECT_EQ (synth, parsed (R"({
+        "ADSR": { "Attack": "0.00", "Decay": "1.00", "Sustain": "1.00", "Release": "0.01" },
+        "Delay": { "Analog": "0.50", "Feedback": "0.10", "Mix": "0.00", "Mode": "Sync", "Time": "0.10",
+                   "TimeSync": "1/4" },
+        "Filter": { "Cutoff": "8000.00", "Enable": "On", "KeyTracking": "1.00", "Resonance": "1.00" },
+        "Sub": { "SubOctave": "-2", "SubVolume": "0.00 dB" }
+    })"));
+    document["Params"]["Synth"].erase ("Synth");
 
     EXPECT_EQ (document["Params"], parsed (R"({
         "Quantize": "1/4", "Retrigger": "Off", "Swing": "0%", "SwingRef": "1/4", "Transpose": "0",

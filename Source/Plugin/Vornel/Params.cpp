@@ -2,6 +2,37 @@
 
 namespace Zn::Audio::Plugins::Vornel
 {
+namespace
+{
+void forwardSynth (HostParamList& host, WavetableSynth::Params& synth)
+{
+    for (auto index = 0; auto& oscillator : synth.oscillators.oscillators)
+    {
+        const auto group = "OSC-" + juce::String (index++) + "-";
+        host.forward (group + "Enable", oscillator.enable);
+        host.forward (group + "Volume", oscillator.volume);
+        host.forward (group + "Tune", oscillator.tune);
+    }
+
+    host.forward ("Sub-Octave", synth.sub.subOctave);
+    host.forward ("Sub-Volume", synth.sub.subVolume);
+    host.forward ("ADSR-Attack", synth.adsr.attack);
+    host.forward ("ADSR-Decay", synth.adsr.decay);
+    host.forward ("ADSR-Sustain", synth.adsr.sustain);
+    host.forward ("ADSR-Release", synth.adsr.release);
+    host.forward ("Filter-Enable", synth.filter.enable);
+    host.forward ("Filter-Cutoff", synth.filter.cutoff);
+    host.forward ("Filter-Reso", synth.filter.resonance);
+    host.forward ("Filter-Key-Tracking", synth.filter.keyTracking);
+    host.forward ("Delay-Analog", synth.delay.analog);
+    host.forward ("Delay-Time-Free", synth.delay.time);
+    host.forward ("Delay-Time-Sync", synth.delay.timeSync);
+    host.forward ("Delay-Mode", synth.delay.mode);
+    host.forward ("Delay-Feedback", synth.delay.feedback);
+    host.forward ("Delay-Mix", synth.delay.mix);
+}
+} // namespace
+
 Params::Params()
 {
     addChild ("Synth", sound);
@@ -23,6 +54,7 @@ void Params::forwardTo (HostParamList& host)
     host.forward ("Synth-Volume", sound.master);
     host.forward ("Unison-Voice", sound.unison);
     host.forward ("Unison-Amount", sound.unisonAmount);
+    forwardSynth (host, sound.synth);
     host.forward ("Arp-Active", arpActive);
 }
 } // namespace Zn::Audio::Plugins::Vornel

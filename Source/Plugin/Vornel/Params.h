@@ -3,16 +3,20 @@
 #include "Parameters/HostParamList.h"
 #include "Parameters/ParamKinds.h"
 #include "Sequencer/SwingParam.h"
+#include "Synth/WavetableSynth/Params.h"
 
 namespace Zn::Audio::Plugins::Vornel
 {
-/** What a sound preset holds beside the synth's own tree. */
+/** What a sound preset holds. */
 struct SoundParams : ParamList
 {
+    SoundParams() { addChild ("Synth", synth); }
+
     IntParam unison { *this, "Unison", { 1, 2 }, 1 };
     FloatParam unisonAmount { *this, "UnisonAmount", { 0.0f, 1.0f }, 0.5f, "Unison Amount" };
     BoolParam synthEnable { *this, "SynthEnable", true, "Synth Enable" };
     VolumeParam master { *this, "Master", 3.0f, 0.0f };
+    WavetableSynth::Params synth;
 };
 
 /** All parameters that the host or a preset knows.

@@ -6,7 +6,8 @@
 namespace Zn::Audio::Plugins::Vornel
 {
 Processor::Processor()
-    : midi (*state), patternListener (state->patterns.getAudioBroadcaster(), [this] { publishPatterns(); })
+    : midi (*state)
+    , sound (*state), patternListener (state->patterns.getAudioBroadcaster(), [this] { publishPatterns(); })
 {
     learnWriter.publish ([this] (Midi::Learn::State& frame) { frame.learner = &state->learner; });
     publishPatterns();
@@ -38,6 +39,7 @@ void Processor::prepare (double sampleRate, int maxBlockSize)
         spare.prepare (sampleRate, maxBlockSize);
 
     midi.prepare (maxBlockSize);
+    sound.prepare (sampleRate, maxBlockSize);
     state->followChanges();
 }
 
@@ -47,6 +49,9 @@ void Processor::process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& host
     const auto block = advanceClock (audio.getNumSamples());
 
     midi.process (hostMidi, block, patterns, learnReader.newest());
+
+    if (! isMidiEffect())
+        sound.process (audio, hostMidi, playHeads.front().getTempo());
 }
 
 void Processor::processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept

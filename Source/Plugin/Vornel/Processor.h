@@ -4,6 +4,7 @@
 #include "Foundation/GUIToRealTime.h"
 #include "Plugin/Bases/Processor.h"
 #include "Plugin/Transport/TransportSlice.h"
+#include "Plugin/Vornel/AudioPipeline.h"
 #include "Plugin/Vornel/MidiPipeline.h"
 #include "Plugin/Vornel/State.h"
 #include "Sequencer/PatternFrame.h"
@@ -52,6 +53,7 @@ private:
     std::array<InternalPlayHead, 4> playHeads;
 
     MidiPipeline midi;
+    AudioPipeline sound;
     Events::Listener patternListener;
 };
 } // namespace Zn::Audio::Plugins::Vornel

@@ -3,6 +3,7 @@
 #include "Parameters/ParamKinds.h"
 #include "Synth/AnalogDelay/Params.h"
 #include "Synth/WavetableSynth/OscillatorParam.h"
+#include "Synth/WavetableSynth/VoiceSettings.h"
 
 #include <array>
 
@@ -32,7 +33,7 @@ struct OscillatorParams : ParamList
     explicit OscillatorParams (const SampleList& list);
 
     BoolParam sync { *this, "Sync", false }; // kept, not heard
-    std::array<OSCParams, 4> oscillators;
+    std::array<OSCParams, numOscillators> oscillators;
 };
 
 struct SubOSCParams : ParamList

@@ -203,8 +203,8 @@ void Voice::addSub (std::span<Stereo> frames, Scratch& scratch) noexcept
 void Voice::updateFilter() noexcept
 {
     const auto& filter = settings->filter;
-    const double cutoffHz = filter.keyTracking * noteFrequencyHz + filter.cutoffHz;
-    const double resonance = filter.resonance;
+    const auto cutoffHz = filter.keyTracking * noteFrequencyHz + filter.cutoffHz;
+    const auto resonance = filter.resonance;
 
     if (cutoffHz == lastCutoffHz && resonance == lastResonance && settings->sampleRate == lastSampleRate)
         return;
@@ -212,7 +212,7 @@ void Voice::updateFilter() noexcept
     lastCutoffHz = cutoffHz;
     lastResonance = resonance;
     lastSampleRate = settings->sampleRate;
-    filterCoefficients = Kernels::makeFilterCoefficients (cutoffHz, resonance, settings->sampleRate);
+    filterCoefficients = Kernels::makeFilterCoefficients (double (cutoffHz), double (resonance), settings->sampleRate);
 }
 
 void Voice::finish (std::span<const Stereo> frames,

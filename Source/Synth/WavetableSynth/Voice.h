@@ -85,6 +85,7 @@ private:
 
     Kernels::StereoFilterState filterState;
     Kernels::FilterCoefficients filterCoefficients;
-    double lastCutoffHz = -1.0, lastResonance = -1.0, lastSampleRate = -1.0; // of the coefficients
+    float lastCutoffHz = -1.0f, lastResonance = -1.0f; // of the coefficients
+    double lastSampleRate = -1.0;
 };
 } // namespace Zn::Audio::WavetableSynth
