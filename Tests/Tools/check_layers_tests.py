@@ -66,10 +66,8 @@ class CheckLayers(unittest.TestCase):
             with self.subTest(path=path):
                 self.assertEqual(1, len(faults_of({path: text})))
 
-    def test_refuses_words_that_point_out_of_the_repository(self):
-        for words in ("as Part" + " 2.5 says", "D2" + ".5.4", "T0" + ".4", "V2" + ".5b", "see /home" + "/me/x"):
-            with self.subTest(words=words):
-                self.assertEqual(1, len(faults_of({"CHANGELOG.md": words})))
+    def test_refuses_a_path_of_one_machine(self):
+        self.assertEqual(1, len(faults_of({"CHANGELOG.md": "see /home" + "/me/x"})))
 
 
 if __name__ == "__main__":
