@@ -4,7 +4,7 @@ namespace Zn::Audio
 {
 namespace
 {
-constexpr int allSoundOff = 120, allNotesOff = 123; // controllers
+constexpr int allSoundOff = 120, resetAllControllers = 121, allNotesOff = 123; // controllers
 
 enum Kind
 {
@@ -18,15 +18,24 @@ int kindOf (const juce::MidiMessageMetadata& event) noexcept
 {
     return event.numBytes == 3 ? event.data[0] & 0xF0 : 0;
 }
+
+bool isController (const juce::MidiMessageMetadata& event, int number) noexcept
+{
+    return kindOf (event) == controllerKind && event.data[1] == number;
+}
+
+bool movesWheel (const juce::MidiMessageMetadata& event) noexcept
+{
+    return kindOf (event) == pitchWheelKind || isController (event, resetAllControllers);
+}
 } // namespace
 
 bool ChannelInstrument::concerns (const juce::MidiMessageMetadata& event) noexcept
 {
     const auto kind = kindOf (event);
-    const auto isPanic =
-        kind == controllerKind && (event.data[1] == allSoundOff || event.data[1] == allNotesOff);
+    const auto isPanic = isController (event, allSoundOff) || isController (event, allNotesOff);
 
-    return kind == noteOnKind || kind == noteOffKind || kind == pitchWheelKind || isPanic;
+    return kind == noteOnKind || kind == noteOffKind || movesWheel (event) || isPanic;
 }
 
 void ChannelInstrument::process (const juce::MidiMessageMetadata& event) noexcept
@@ -42,21 +51,29 @@ void ChannelInstrument::process (const juce::MidiMessageMetadata& event) noexcep
     {
         noteOff (first);
     }
-    else if (kind == pitchWheelKind)
+    else if (movesWheel (event))
     {
-        bend = juce::MPEValue::from14BitInt (first | (second << 7));
+        followWheel (event);
         listener.pitchBendChanged (bendSemitones());
     }
-    else if (kind == controllerKind && first == allNotesOff)
+    else if (isController (event, allNotesOff))
     {
         for (auto key = 0; key < 128; ++key)
             noteOff (key);
     }
-    else if (kind == controllerKind && first == allSoundOff)
+    else if (isController (event, allSoundOff))
     {
         reset();
         listener.soundOff();
     }
+}
+
+void ChannelInstrument::followWheel (const juce::MidiMessageMetadata& event) noexcept
+{
+    if (kindOf (event) == pitchWheelKind)
+        bend = juce::MPEValue::from14BitInt ((event.data[1] & 0x7F) | ((event.data[2] & 0x7F) << 7));
+    else if (isController (event, resetAllControllers))
+        bend = juce::MPEValue::centreValue();
 }
 
 void ChannelInstrument::reset() noexcept

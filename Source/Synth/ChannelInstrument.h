@@ -9,7 +9,7 @@ namespace Zn::Audio
 /** Follows the keys and the pitch wheel of MIDI channel 1, on which everything arrives: what juce::MPEInstrument does
     for one channel, without its locks and its list that grows and shrinks while it plays.
 
-    The wheel is remembered between notes. Thread: audio.
+    The wheel is remembered between notes, until it moves or all controllers are reset. Thread: audio.
 */
 class ChannelInstrument
 {
@@ -33,6 +33,9 @@ public:
 
     /** A key that is struck again is released first. */
     void process (const juce::MidiMessageMetadata& event) noexcept;
+
+    /** Learns where the wheel is, while nothing may sound, without telling. */
+    void followWheel (const juce::MidiMessageMetadata& event) noexcept;
 
     /** Forgets all keys without telling. */
     void reset() noexcept;

@@ -52,6 +52,13 @@ public:
         return std::ranges::any_of (voices, [] (const VoiceType& voice) { return voice.isActive(); });
     }
 
+    /** Takes nothing from a block but the wheel, so that the next note is in tune. */
+    void followWheel (const juce::MidiBuffer& midi) noexcept
+    {
+        for (const auto event : midi)
+            instrument.followWheel (event);
+    }
+
     /** Silences everything at once and forgets all keys. */
     void stopAll() noexcept
     {

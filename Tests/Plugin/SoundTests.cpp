@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 
 namespace Zn::Audio::Plugins::Vornel
 {
@@ -42,6 +43,28 @@ protected:
         }
 
         return all;
+    }
+
+    /** Lets the host bypass so many blocks, and expects silence. */
+    void bypass (int numBlocks, const juce::MidiBuffer& midi = {})
+    {
+        juce::AudioBuffer<float> block (2, blockSize);
+        auto input = midi;
+
+        for (auto i = 0; i < numBlocks; ++i)
+        {
+            f.processor.processBlockBypassed (block, input);
+            input.clear();
+            EXPECT_EQ (loudest (block), 0.0f);
+        }
+    }
+
+    void setLongEcho()
+    {
+        f.set ("Delay-Mode", "Free");
+        f.set ("Delay-Time-Free", "0.5");
+        f.set ("Delay-Feedback", "0.4");
+        f.set ("Delay-Mix", "0.5");
     }
 
     static float loudest (const juce::AudioBuffer<float>& audio)
@@ -85,11 +108,7 @@ TEST_F (Sound, ReleasesWhatSoundsWhenTheSynthIsSwitchedOff)
 
 TEST_F (Sound, EchoesAfterTheNoteAndForgetsTheEchoWithTheSynth)
 {
-    f.set ("Delay-Mode", "Free");
-    f.set ("Delay-Time-Free", "0.5");
-    f.set ("Delay-Feedback", "0.4");
-    f.set ("Delay-Mix", "0.5");
-
+    setLongEcho();
     render (10, events ("on 60 @0, off 60 @2000"));
     EXPECT_EQ (loudest (render (60)), 0.0f);
     EXPECT_GT (loudest (render (60)), 0.001f) << "half a second later";
@@ -98,6 +117,70 @@ TEST_F (Sound, EchoesAfterTheNoteAndForgetsTheEchoWithTheSynth)
     EXPECT_EQ (loudest (render (1)), 0.0f) << "stops at once";
     f.set ("Enable-Synth", "On");
     EXPECT_EQ (loudest (render (200)), 0.0f) << "and does not come back";
+}
+
+TEST_F (Sound, IsForgottenInABypassAndWhenTheHostReleasesTheProcessor)
+{
+    const std::pair<const char*, std::function<void()>> breaks[] {
+        { "bypass", [this] { bypass (4); } },
+        { "release", [this] { f.processor.releaseResources(); } },
+        { "preparation", [this] { f.processor.prepareToPlay (rate, blockSize); } },
+    };
+
+    for (const auto& [name, breakOff] : breaks)
+    {
+        setLongEcho();
+        state.numMeterListeners = 1;
+        render (40, events ("on 60 @0"));
+        EXPECT_GT (state.meter.load(), 0.001f);
+
+        breakOff();
+        EXPECT_EQ (state.meter.load(), 0.0f) << name;
+        EXPECT_EQ (loudest (render (200)), 0.0f) << name << ": neither the note nor its echo comes back";
+        EXPECT_EQ (loudest (render (4, events ("off 60 @0"))), 0.0f) << name;
+        EXPECT_GT (loudest (render (40, events ("on 60 @0, off 60 @9000"))), 0.01f) << name;
+        f.processor.prepareToPlay (rate, blockSize);
+    }
+}
+
+TEST_F (Sound, IsInTuneWithAWheelThatMovedWhileNothingWasHeard)
+{
+    const auto play = [this] {
+        f.processor.prepareToPlay (rate, blockSize);
+        return render (40, events ("on 60 @0, off 60 @5000"));
+    };
+
+    const auto up = events ("hex E0 7F 7F @0"), centre = events ("hex E0 00 40 @0");
+
+    const std::pair<const char*, std::function<void()>> cases[] {
+        { "nothing", [] {} },
+        { "bypassed", [&] { bypass (1, centre); } },
+        { "switched off",
+          [&] {
+              f.set ("Enable-Synth", "Off");
+              render (1, centre);
+              f.set ("Enable-Synth", "On");
+          } },
+        { "controllers reset", [&] { render (1, events ("cc 121 0 @0")); } },
+    };
+
+    const auto centred = play();
+    render (1, up);
+    const auto bent = play();
+
+    for (const auto& [name, moveBack] : cases)
+    {
+        render (1, up);
+        moveBack();
+        const auto& expected = name == std::string_view ("nothing") ? bent : centred;
+        const auto heard = play();
+        auto difference = 0.0f;
+
+        for (auto i = 0; i < heard.getNumSamples(); ++i)
+            difference = std::max (difference, std::abs (heard.getSample (0, i) - expected.getSample (0, i)));
+
+        EXPECT_EQ (difference, 0.0f) << name;
+    }
 }
 
 TEST_F (Sound, MixesDryAndWetAtEqualPowerAndScalesByTheMaster)

@@ -34,7 +34,7 @@ public:
     using juce::AudioProcessor::processBlock;
     using juce::AudioProcessor::processBlockBypassed;
 
-    void releaseResources() override {}
+    void releaseResources() final { release(); }
 
 protected:
     static constexpr double defaultSampleRate = 44100.0;
@@ -42,6 +42,9 @@ protected:
 
     /** Sizes everything. sampleRate and maxBlockSize are above 0. Thread: prepare. */
     virtual void prepare (double sampleRate, int maxBlockSize) = 0;
+
+    /** The host stops: what sounded must not come back. Thread: prepare. */
+    virtual void release() = 0;
 
     /** At least one sample of cleared stereo audio, and the host's MIDI, which becomes ours. Thread: audio. */
     virtual void process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& midi) noexcept = 0;

@@ -22,6 +22,7 @@ void AudioPipeline::prepare (double newSampleRate, int maxBlockSize)
 
     dry.setSize (stereo, maxBlockSize, false, false, true);
     delay.prepare (sampleRate);
+    silence();
 
     for (auto* gain : { &dryGain, &wetGain, &masterGain })
         gain->reset (sampleRate, gainRampSeconds);
@@ -52,6 +53,19 @@ void AudioPipeline::process (juce::AudioBuffer<float>& audio,
     measure (audio);
 }
 
+void AudioPipeline::processBypassed (const juce::MidiBuffer& midi) noexcept
+{
+    silence();
+    synth.followWheel (midi);
+}
+
+void AudioPipeline::silence() noexcept
+{
+    synth.stopAll();
+    delay.reset();
+    state.meter.store (0.0f);
+}
+
 /** Collects what the synth plays; false when it is off and has nothing left to sound. */
 bool AudioPipeline::takeNotes (const juce::MidiBuffer& midi, int numSamples) noexcept
 {
@@ -60,9 +74,13 @@ bool AudioPipeline::takeNotes (const juce::MidiBuffer& midi, int numSamples) noe
     notes.clear();
 
     if (isOn)
+    {
         for (const auto event : midi)
             if (event.samplePosition >= 0 && event.samplePosition < numSamples)
                 notes.add (event);
+    }
+    else
+        synth.followWheel (midi);
 
     synthGate.process (synthMidi, isOn, true);
 
@@ -109,8 +127,7 @@ void AudioPipeline::resetIfBroken (juce::AudioBuffer<float>& audio) noexcept
     if (isFinite (audio))
         return;
 
-    synth.stopAll();
-    delay.reset();
+    silence();
     audio.clear();
 }
 

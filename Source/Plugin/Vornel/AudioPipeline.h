@@ -24,6 +24,14 @@ public:
     /** Fills a cleared stereo block. `midi` is the block's output; the tempo is in quarter notes a minute. */
     void process (juce::AudioBuffer<float>& audio, const juce::MidiBuffer& midi, double tempo) noexcept;
 
+    /** The same while the host bypasses us: what sounded is cut off, and nothing of it comes back afterwards. `midi` is
+        what the host sends.
+    */
+    void processBypassed (const juce::MidiBuffer& midi) noexcept;
+
+    /** Forgets all notes and echoes at once. */
+    void silence() noexcept;
+
 private:
     bool takeNotes (const juce::MidiBuffer& midi, int numSamples) noexcept;
     void addEcho (juce::AudioBuffer<float>& audio, double tempo) noexcept;

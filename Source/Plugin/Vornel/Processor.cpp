@@ -7,7 +7,8 @@ namespace Zn::Audio::Plugins::Vornel
 {
 Processor::Processor()
     : midi (*state)
-    , sound (*state), patternListener (state->patterns.getAudioBroadcaster(), [this] { publishPatterns(); })
+    , sound (*state)
+    , patternListener (state->patterns.getAudioBroadcaster(), [this] { publishPatterns(); })
 {
     learnWriter.publish ([this] (Midi::Learn::State& frame) { frame.learner = &state->learner; });
     publishPatterns();
@@ -59,6 +60,7 @@ void Processor::processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuff
     const auto& patterns = patternReader.newest();
     const auto block = advanceClock (audio.getNumSamples());
 
+    sound.processBypassed (hostMidi);
     midi.processBypassed (hostMidi, block, patterns, learnReader.newest());
 }
 

@@ -30,6 +30,7 @@ public:
 
 protected:
     void prepare (double sampleRate, int maxBlockSize) override;
+    void release() override { sound.silence(); }
     void process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept override;
     void processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept override;
     void keepForNextBlock (juce::MidiBuffer& hostMidi) noexcept override { midi.keepForNextBlock (hostMidi); }

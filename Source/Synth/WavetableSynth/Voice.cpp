@@ -212,7 +212,8 @@ void Voice::updateFilter() noexcept
     lastCutoffHz = cutoffHz;
     lastResonance = resonance;
     lastSampleRate = settings->sampleRate;
-    filterCoefficients = Kernels::makeFilterCoefficients (double (cutoffHz), double (resonance), settings->sampleRate);
+    filterCoefficients =
+        Kernels::makeFilterCoefficients (double (cutoffHz), double (resonance), settings->sampleRate);
 }
 
 void Voice::finish (std::span<const Stereo> frames,
