@@ -78,16 +78,20 @@ void FeedbackDelay::clearStaleFrames (int numSamples) noexcept
 {
     const auto& glide = state.delaySamples;
     const auto size = static_cast<int> (line.size());
-    const auto [nearest, farthest] = std::minmax (glide.current, glide.target);
+    auto later = glide;
+    later.skip (numSamples);
+
+    const auto [nearest, farthest] = std::minmax (glide.current, later.current);
     const auto limited = [size] (float delay) {
         return static_cast<int> (std::min (delay, float (size - 2)));
     };
 
     // Steps that are rounded may lead a glide past its target before it stands there.
-    const auto overshoot =
-        glide.isRamping()
-            ? limited (farthest * float (glide.length) * std::numeric_limits<float>::epsilon()) + 1
-            : 0;
+    const auto overshoot = glide.isRamping()
+                               ? limited (std::max (glide.current, glide.target) * float (glide.length)
+                                          * std::numeric_limits<float>::epsilon())
+                                     + 1
+                               : 0;
 
     // Seen from where this block begins, it reads from `first` up to and with `last`.
     const auto first = limited (nearest) - overshoot - numSamples;
