@@ -91,9 +91,51 @@ int firstSound (const juce::AudioBuffer<float>& audio)
 
     return -1;
 }
+
+/** Sets our voices and the literal one to the same. */
+void choose (Rig& rig, Zn::Test::VoiceSettings& literal, juce::Random& random)
+{
+    const auto flip = [&random] { return random.nextInt (4) > 0; };
+
+    for (size_t i = 0; i < literal.oscillators.size(); ++i)
+    {
+        auto& ours = rig.settings.oscillators[i];
+        ours.enabled = flip();
+        ours.octave = random.nextInt (7) - 3;
+        ours.tune = random.nextInt (49) - 24;
+        ours.unison = 1 + random.nextInt (2);
+        ours.spread = random.nextFloat();
+        ours.volume = flip() ? random.nextFloat() : 0.0f;
+        literal.oscillators[i] = { ours.enabled, &rig.table.plain, ours.octave, ours.tune,
+                                   ours.volume,  ours.unison,      ours.spread };
+    }
+
+    auto& sub = rig.settings.sub;
+    sub.octave = random.nextInt (7) - 3;
+    sub.volume = random.nextFloat();
+    literal.subTable = &rig.sine.plain;
+    literal.subOctave = sub.octave;
+    literal.subVolume = sub.volume;
+
+    auto& filter = rig.settings.filter;
+    filter.enabled = flip();
+    filter.cutoffHz = 10.0f + 11000.0f * random.nextFloat();
+    filter.resonance = 0.1f + 2.9f * random.nextFloat();
+    filter.keyTracking = random.nextFloat();
+    literal.filterEnabled = filter.enabled;
+    literal.cutoff = filter.cutoffHz;
+    literal.resonance = filter.resonance;
+    literal.keyTracking = filter.keyTracking;
+
+    literal.attack = 0.005f + 0.02f * random.nextFloat();
+    literal.decay = 0.005f + 0.05f * random.nextFloat();
+    literal.sustain = random.nextFloat();
+    literal.release = 0.005f + 0.02f * random.nextFloat();
+    rig.setEnvelope (literal.attack, literal.decay, literal.sustain, literal.release);
+}
 } // namespace
 
-TEST (Synth, SoundsLikeTheLiteralVoiceForAnySettings)
+TEST (Synth, SoundsLikeTheLiteralVoiceWhileAllSettingsChange)
 {
     juce::Random random (3);
 
@@ -101,63 +143,80 @@ TEST (Synth, SoundsLikeTheLiteralVoiceForAnySettings)
     {
         Rig rig;
         Zn::Test::VoiceSettings literal;
-        const auto flip = [&random] { return random.nextInt (4) > 0; };
+        Zn::Test::LiteralVoice reference (rate, 4096);
 
-        for (size_t i = 0; i < literal.oscillators.size(); ++i)
-        {
-            auto& ours = rig.settings.oscillators[i];
-            ours.enabled = flip();
-            ours.octave = random.nextInt (7) - 3;
-            ours.tune = random.nextInt (49) - 24;
-            ours.unison = 1 + random.nextInt (2);
-            ours.spread = random.nextFloat();
-            ours.volume = flip() ? random.nextFloat() : 0.0f;
-            literal.oscillators[i] = { ours.enabled, &rig.table.plain, ours.octave, ours.tune,
-                                       ours.volume,  ours.unison,      ours.spread };
-        }
-
-        auto& sub = rig.settings.sub;
-        sub.octave = random.nextInt (7) - 3;
-        sub.volume = random.nextFloat();
-        literal.subTable = &rig.sine.plain;
-        literal.subOctave = sub.octave;
-        literal.subVolume = sub.volume;
-
-        auto& filter = rig.settings.filter;
-        filter.enabled = flip();
-        filter.cutoffHz = 10.0f + 11000.0f * random.nextFloat();
-        filter.resonance = 0.1f + 2.9f * random.nextFloat();
-        filter.keyTracking = random.nextFloat();
-        literal.filterEnabled = filter.enabled;
-        literal.cutoff = filter.cutoffHz;
-        literal.resonance = filter.resonance;
-        literal.keyTracking = filter.keyTracking;
-
-        literal.attack = 0.005f + 0.02f * random.nextFloat();
-        literal.decay = 0.005f + 0.05f * random.nextFloat();
-        literal.sustain = random.nextFloat();
-        literal.release = 0.005f + 0.02f * random.nextFloat();
-        rig.setEnvelope (literal.attack, literal.decay, literal.sustain, literal.release);
+        const auto expectSame = [&] (int numSamples, const juce::MidiBuffer& midi, const char* what) {
+            juce::AudioBuffer<float> expected (2, numSamples);
+            reference.render (literal, expected);
+            EXPECT_LT (loudestDifference (rig.render (numSamples, midi), expected), 1.0e-5f)
+                << what << " " << attempt;
+        };
 
         const auto note = 24 + random.nextInt (72);
         const auto velocity = 1 + random.nextInt (127);
-
-        juce::MidiBuffer on, off;
+        juce::MidiBuffer on, bend, off;
         on.addEvent (juce::MidiMessage::noteOn (1, note, juce::uint8 (velocity)), 0);
+        bend.addEvent (juce::MidiMessage::pitchWheel (1, 4096), 0);
         off.addEvent (juce::MidiMessage::noteOff (1, note), 0);
 
-        Zn::Test::LiteralVoice reference (rate, 4096);
+        choose (rig, literal, random);
         reference.noteStarted (literal, note, juce::MPEValue::from7BitInt (velocity).as14BitInt());
+        expectSame (1500, on, "start");
 
-        juce::AudioBuffer<float> expected (2, 4096);
-        reference.render (literal, expected);
-        EXPECT_LT (loudestDifference (rig.render (4096, on), expected), 1.0e-5f) << attempt;
+        for (auto block = 0; block < 6; ++block)
+        {
+            choose (rig, literal, random);
+            expectSame (1 + random.nextInt (1500), {}, "change");
+        }
+
+        reference.bend (note, -1.0);
+        expectSame (1000, bend, "bend");
 
         reference.noteStopped (literal);
-        reference.render (literal, expected);
-        EXPECT_LT (loudestDifference (rig.render (4096, off), expected), 1.0e-5f) << attempt;
+        expectSame (4096, off, "end");
         EXPECT_EQ (rig.synth.isAnyVoiceActive(), reference.isActive()) << attempt;
     }
+}
+
+TEST (Synth, NeitherBendsWhatIsReleasedNorForgetsItsWheel)
+{
+    const auto play = [] (const char* song) {
+        Rig rig;
+        rig.setEnvelope (0.005f, 1.0f, 1.0f, 0.5f);
+        return rig.render (4096, events (song));
+    };
+
+    const auto straight = play ("on 60 @0, off 60 @500");
+    EXPECT_LT (loudestDifference (play ("on 60 @0, off 60 @500, hex E0 7F 7F @600"), straight), 1.0e-6f);
+    EXPECT_GT (loudestDifference (play ("on 60 @0, hex E0 7F 7F @499, off 60 @500"), straight), 0.01f);
+}
+
+TEST (Synth, StartsAStolenVoiceAfresh)
+{
+    Rig full;
+    full.setEnvelope (0.5f, 1.0f, 1.0f, 1.0f);
+    juce::MidiBuffer held;
+
+    for (auto note = 30; note < 30 + Synth::numVoices; ++note)
+        held.addEvent (juce::MidiMessage::noteOn (1, note, juce::uint8 (100)), 0);
+
+    full.render (4096, held);
+
+    // Takes a voice from the middle; its key no longer ends anything, and all others do.
+    full.render (100, events ("on 100 @0"));
+    juce::MidiBuffer offs;
+
+    for (auto note = 30; note < 30 + Synth::numVoices; ++note)
+        offs.addEvent (juce::MidiMessage::noteOff (1, note), 0);
+
+    full.setEnvelope (0.5f, 1.0f, 1.0f, 0.0f);
+    full.render (100, offs);
+    EXPECT_TRUE (full.synth.isAnyVoiceActive());
+
+    Rig alone;
+    alone.setEnvelope (0.5f, 1.0f, 1.0f, 0.0f);
+    alone.render (200, events ("on 100 @0"));
+    EXPECT_LT (loudestDifference (full.render (2000), alone.render (2000)), 1.0e-5f);
 }
 
 TEST (Synth, StartsEndsAndBendsAtTheSampleOfTheMessage)
