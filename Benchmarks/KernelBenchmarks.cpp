@@ -1,4 +1,6 @@
-#include "Support/KernelVoice.h"
+#include "Support/KernelTable.h"
+#include "Support/LiteralVoice.h"
+#include "Synth/WavetableSynth/Voice.h"
 
 #include <benchmark/benchmark.h>
 
@@ -11,10 +13,9 @@ namespace Zn::Audio::Kernels
 namespace
 {
 using Test::KernelTable;
-using Test::KernelVoice;
 using Test::LiteralTable;
 using Test::LiteralVoice;
-using Test::VoiceSettings;
+using WavetableSynth::Voice;
 
 constexpr double rate = 48000.0;
 constexpr int blockSize = 64;
@@ -31,17 +32,25 @@ struct Patch
 
         plain.push_back (cycle (1, 65536, 1));
 
-        for (size_t i = 0; i < plain.size(); ++i)
-            tables[i] = interleaved.emplace_back (plain[i]).view();
+        for (const auto& table : plain)
+            interleaved.emplace_back (table);
 
         for (size_t i = 0; i < 4; ++i)
         {
             settings.oscillators[i].table = &plain[i];
             settings.oscillators[i].unison = 2;
             settings.oscillators[i].octave = static_cast<int> (i) - 1;
+
+            ours.oscillators[i] = { .table = interleaved[i].view(),
+                                    .octave = settings.oscillators[i].octave,
+                                    .unison = 2 };
         }
 
         settings.subTable = &plain.back();
+        ours.sub.table = interleaved.back().view();
+        ours.envelope =
+            makeEnvelopeRates (settings.attack, settings.decay, settings.sustain, settings.release, rate);
+        ours.sampleRate = rate;
     }
 
     static LiteralTable cycle (int numChannels, int numFrames, int harmonic)
@@ -61,50 +70,52 @@ struct Patch
 
     std::vector<LiteralTable> plain;
     std::vector<KernelTable> interleaved;
-    KernelVoice::Tables tables;
-    VoiceSettings settings;
+    Test::VoiceSettings settings;       // of the literal voice
+    WavetableSynth::VoiceSettings ours; // the same
 };
 
-/** All voices of a block as a synth plays them: oscillators one by one, filters side by side, then the mix. */
+/** The voices of the synth, in its groups. */
 class KernelVoices
 {
 public:
-    KernelVoices (InstructionSet set, const Patch& patchToPlay, int numVoices)
-        : kernels (kernelsFor (set)), patch (patchToPlay)
+    KernelVoices (InstructionSet set, const Patch& patch, int numVoices)
     {
         for (auto i = 0; i < numVoices; ++i)
-            voices.emplace_back (kernels, patch.tables, rate, blockSize)
-                .noteStarted (patch.settings, Patch::note (i), 12000);
-
-        filtered.reserve (voices.size());
+        {
+            auto& voice = *voices.emplace_back (std::make_unique<Voice>());
+            voice.use (patch.ours, kernelsFor (set));
+            voice.prepare (rate);
+            voice.start (juce::MPENote (1,
+                                        Patch::note (i),
+                                        juce::MPEValue::from14BitInt (12000),
+                                        juce::MPEValue::centreValue(),
+                                        juce::MPEValue::minValue(),
+                                        juce::MPEValue::centreValue()),
+                         0);
+            pointers.push_back (&voice);
+        }
     }
 
     void render()
     {
         left.fill (0.0f);
         right.fill (0.0f);
-        filtered.clear();
 
-        for (auto& voice : voices)
+        for (std::span<Voice* const> rest = pointers; ! rest.empty();)
         {
-            voice.renderOscillators (patch.settings, blockSize);
-            filtered.push_back (voice.filtered (patch.settings, blockSize));
+            const auto group = rest.first (std::min (rest.size(), size_t (Voice::largestGroup)));
+            Voice::renderGroup (group, scratch, left, right);
+            rest = rest.subspan (group.size());
         }
-
-        kernels.filterVoices (filtered, FilterType::lowPass, 2);
-
-        for (auto& voice : voices)
-            voice.mixInto (patch.settings, left, right);
 
         benchmark::DoNotOptimize (left.data());
         benchmark::ClobberMemory();
     }
 
 private:
-    const VoiceKernels& kernels;
-    const Patch& patch;
-    std::vector<KernelVoice> voices;
-    std::vector<FilteredVoice> filtered;
+    std::vector<std::unique_ptr<Voice>> voices;
+    std::vector<Voice*> pointers;
+    Voice::Scratch scratch;
     std::array<float, blockSize> left {}, right {};
 };
 

@@ -1,6 +1,7 @@
 #include "Synth/WavetableSynth/Synth.h"
 
-#include "Support/KernelVoice.h"
+#include "Support/KernelTable.h"
+#include "Support/LiteralVoice.h"
 #include "Support/MidiText.h"
 #include "Support/RealTimeGuard.h"
 
@@ -39,7 +40,7 @@ struct TwinTable
 
 struct Rig
 {
-    Rig()
+    explicit Rig (const Kernels::VoiceKernels& kernels = Kernels::bestKernels()) : synth (kernels)
     {
         synth.prepare (rate);
 
@@ -133,48 +134,58 @@ void choose (Rig& rig, Zn::Test::VoiceSettings& literal, juce::Random& random)
     literal.release = 0.005f + 0.02f * random.nextFloat();
     rig.setEnvelope (literal.attack, literal.decay, literal.sustain, literal.release);
 }
+/** A note on ours and on the literal voice, while everything changes. */
+void compareANote (const Kernels::VoiceKernels& kernels, juce::Random& random)
+{
+    Rig rig (kernels);
+    Zn::Test::VoiceSettings literal;
+    Zn::Test::LiteralVoice reference (rate, 4096);
+
+    const auto expectSame = [&] (int numSamples, const juce::MidiBuffer& midi, const char* what) {
+        juce::AudioBuffer<float> expected (2, numSamples);
+        reference.render (literal, expected);
+        EXPECT_LT (loudestDifference (rig.render (numSamples, midi), expected), 1.0e-5f) << what;
+    };
+
+    const auto note = 24 + random.nextInt (72);
+    const auto velocity = 1 + random.nextInt (127);
+    juce::MidiBuffer on, bend, off;
+    on.addEvent (juce::MidiMessage::noteOn (1, note, juce::uint8 (velocity)), 0);
+    bend.addEvent (juce::MidiMessage::pitchWheel (1, 4096), 0);
+    off.addEvent (juce::MidiMessage::noteOff (1, note), 0);
+
+    choose (rig, literal, random);
+    reference.noteStarted (literal, note, juce::MPEValue::from7BitInt (velocity).as14BitInt());
+    expectSame (1500, on, "start");
+
+    for (auto block = 0; block < 6; ++block)
+    {
+        choose (rig, literal, random);
+        expectSame (1 + random.nextInt (1500), {}, "change");
+    }
+
+    reference.bend (note, -1.0);
+    expectSame (1000, bend, "bend");
+
+    reference.noteStopped (literal);
+    expectSame (4096, off, "end");
+    EXPECT_EQ (rig.synth.isAnyVoiceActive(), reference.isActive());
+}
 } // namespace
 
 TEST (Synth, SoundsLikeTheLiteralVoiceWhileAllSettingsChange)
 {
-    juce::Random random (3);
-
-    for (auto attempt = 0; attempt < 60; ++attempt)
+    for (const auto set : { Kernels::InstructionSet::scalar,
+                            Kernels::InstructionSet::baseline,
+                            Kernels::InstructionSet::avx2 })
     {
-        Rig rig;
-        Zn::Test::VoiceSettings literal;
-        Zn::Test::LiteralVoice reference (rate, 4096);
+        juce::Random random (3);
 
-        const auto expectSame = [&] (int numSamples, const juce::MidiBuffer& midi, const char* what) {
-            juce::AudioBuffer<float> expected (2, numSamples);
-            reference.render (literal, expected);
-            EXPECT_LT (loudestDifference (rig.render (numSamples, midi), expected), 1.0e-5f)
-                << what << " " << attempt;
-        };
-
-        const auto note = 24 + random.nextInt (72);
-        const auto velocity = 1 + random.nextInt (127);
-        juce::MidiBuffer on, bend, off;
-        on.addEvent (juce::MidiMessage::noteOn (1, note, juce::uint8 (velocity)), 0);
-        bend.addEvent (juce::MidiMessage::pitchWheel (1, 4096), 0);
-        off.addEvent (juce::MidiMessage::noteOff (1, note), 0);
-
-        choose (rig, literal, random);
-        reference.noteStarted (literal, note, juce::MPEValue::from7BitInt (velocity).as14BitInt());
-        expectSame (1500, on, "start");
-
-        for (auto block = 0; block < 6; ++block)
+        for (auto seed = 0; Kernels::isAvailable (set) && seed < 40; ++seed)
         {
-            choose (rig, literal, random);
-            expectSame (1 + random.nextInt (1500), {}, "change");
+            SCOPED_TRACE ("set " + std::to_string (int (set)) + ", seed " + std::to_string (seed));
+            compareANote (Kernels::kernelsFor (set), random);
         }
-
-        reference.bend (note, -1.0);
-        expectSame (1000, bend, "bend");
-
-        reference.noteStopped (literal);
-        expectSame (4096, off, "end");
-        EXPECT_EQ (rig.synth.isAnyVoiceActive(), reference.isActive()) << attempt;
     }
 }
 

@@ -1,4 +1,5 @@
-#include "Support/KernelVoice.h"
+#include "Support/KernelTable.h"
+#include "Synth/Kernels/VoiceKernels.h"
 
 #include <gtest/gtest.h>
 
