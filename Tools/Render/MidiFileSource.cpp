@@ -69,7 +69,7 @@ std::vector<std::uint8_t> bytesOf (const juce::File& file)
 
     std::vector<std::uint8_t> bytes (static_cast<std::size_t> (size));
 
-    if (stream.read (bytes.data(), static_cast<int> (size)) != size)
+    if (size > 0 && stream.read (bytes.data(), static_cast<int> (size)) != size)
         throw FileError ("cannot be read");
 
     return bytes;
