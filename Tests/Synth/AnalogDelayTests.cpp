@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace Zn::Audio::AnalogDelay
@@ -185,6 +186,37 @@ TEST (AnalogDelay, GlidesToANewTimeAndStandsThereAtOnceAfterPrepareOrReset)
     fill();
     delay.process (ramp);
     EXPECT_NEAR (delayAt (3100) - filterDelay, 3000.0f, 0.1f);
+}
+
+TEST (AnalogDelay, GlidesWithoutAClick)
+{
+    constexpr auto hertz = 100.0, steepest = 6.2831853 * hertz / sampleRate; // of the sine
+
+    for (const auto& [from, to] :
+         { std::pair { 23478.3, 21600.0 }, { 24000.0, 24123.4 }, { 190000.0, 180000.7 } })
+    {
+        Delay delay;
+        delay.prepare (sampleRate);
+        set (delay, { from, 0.0f, 0.0f });
+
+        juce::AudioBuffer<float> sound (2, 220000);
+
+        for (auto i = 0; i < sound.getNumSamples(); ++i)
+            for (auto channel = 0; channel < 2; ++channel)
+                sound.setSample (channel, i, static_cast<float> (std::sin (steepest * i)));
+
+        auto before = part (sound, 0, 200000), glide = part (sound, 200000, 20000);
+        delay.process (before);
+        set (delay, { to, 0.0f, 0.0f });
+        delay.process (glide);
+
+        // A pitch that is bent to so many times itself makes the sine so many times as steep.
+        const auto limit = 1.01 * steepest * (1.0 + std::abs (to - from) / 4800.0);
+
+        for (auto i = 1; i < glide.getNumSamples(); ++i)
+            ASSERT_LT (std::abs (glide.getSample (0, i) - glide.getSample (0, i - 1)), limit)
+                << from << " to " << to << ", sample " << i;
+    }
 }
 
 TEST (AnalogDelay, ForgetsEverythingWhenItIsReset)

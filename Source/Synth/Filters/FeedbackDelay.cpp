@@ -15,7 +15,8 @@ std::span<float> channelOf (juce::AudioBuffer<float>& buffer, int channel) noexc
     return { buffer.getWritePointer (channel), static_cast<std::size_t> (buffer.getNumSamples()) };
 }
 
-void aim (Kernels::LinearRamp& ramp, float target, bool atOnce) noexcept
+template <typename Value>
+void aim (Kernels::Ramp<Value>& ramp, Value target, bool atOnce) noexcept
 {
     if (atOnce)
         ramp.jumpTo (target);
@@ -45,9 +46,7 @@ void FeedbackDelay::reset() noexcept
 void FeedbackDelay::setTargets (double delaySeconds, float feedback) noexcept
 {
     if (std::isfinite (delaySeconds))
-        aim (state.delaySamples,
-             static_cast<float> (std::max (0.0, delaySeconds) * sampleRate),
-             ! standsAtTargets);
+        aim (state.delaySamples, std::max (0.0, delaySeconds) * sampleRate, ! standsAtTargets);
 
     if (std::isfinite (feedback))
         aim (state.feedbackGain, std::clamp (feedback, 0.0f, maxFeedback), ! standsAtTargets);
@@ -82,16 +81,15 @@ void FeedbackDelay::clearStaleFrames (int numSamples) noexcept
     later.skip (numSamples);
 
     const auto [nearest, farthest] = std::minmax (glide.current, later.current);
-    const auto limited = [size] (float delay) {
-        return static_cast<int> (std::min (delay, float (size - 2)));
+    const auto limited = [size] (double delay) {
+        return static_cast<int> (std::min (delay, double (size - 2)));
     };
 
     // Steps that are rounded may lead a glide past its target before it stands there.
-    const auto overshoot = glide.isRamping()
-                               ? limited (std::max (glide.current, glide.target) * float (glide.length)
-                                          * std::numeric_limits<float>::epsilon())
-                                     + 1
-                               : 0;
+    const auto overshoot = glide.isRamping() ? limited (std::max (glide.current, glide.target) * glide.length
+                                                        * std::numeric_limits<double>::epsilon())
+                                                   + 1
+                                             : 0;
 
     // Seen from where this block begins, it reads from `first` up to and with `last`.
     const auto first = limited (nearest) - overshoot - numSamples;

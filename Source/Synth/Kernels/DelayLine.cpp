@@ -9,14 +9,14 @@ namespace Zn::Audio::Kernels
 namespace
 {
 /** Where the frames of a delay lie, and how much of the later of them is heard. */
-void setDelay (DelayState& state, float samples, size_t lineSize) noexcept
+void setDelay (DelayState& state, double samples, size_t lineSize) noexcept
 {
-    if (! (samples >= 0.0f))
+    if (! (samples >= 0.0))
         return;
 
-    const auto limited = std::min (samples, static_cast<float> (lineSize - 2));
+    const auto limited = std::min (samples, static_cast<double> (lineSize - 2));
     state.wholeSamples = static_cast<int> (limited);
-    state.fraction = limited - static_cast<float> (state.wholeSamples);
+    state.fraction = static_cast<float> (limited - state.wholeSamples);
 }
 
 float between (float first, float second, float fraction) noexcept

@@ -21,7 +21,7 @@ struct DelayState
     Stereo feedback;                       // what comes back with the next frame
     std::array<FilterState, 2> filters {}; // left and right
 
-    LinearRamp delaySamples; // a time that is negative or not a number leaves the delay where it is
+    DelayRamp delaySamples; // a time that is negative or not a number leaves the delay where it is
     LinearRamp feedbackGain;
 };
 

@@ -2,7 +2,8 @@
 
 namespace Zn::Audio::Kernels
 {
-void LinearRamp::reset (double sampleRate, double seconds) noexcept
+template <typename Value>
+void Ramp<Value>::reset (double sampleRate, double seconds) noexcept
 {
     // Neither is ever negative, so the conversion is the floor. No length also stands for a rate that is not known.
     const auto samples = sampleRate * seconds;
@@ -10,7 +11,8 @@ void LinearRamp::reset (double sampleRate, double seconds) noexcept
     jumpTo (target);
 }
 
-void LinearRamp::setTarget (float newTarget) noexcept
+template <typename Value>
+void Ramp<Value>::setTarget (Value newTarget) noexcept
 {
     if (newTarget == target)
         return;
@@ -23,16 +25,18 @@ void LinearRamp::setTarget (float newTarget) noexcept
 
     target = newTarget;
     stepsLeft = length;
-    step = (target - current) / static_cast<float> (length);
+    step = (target - current) / static_cast<Value> (length);
 }
 
-void LinearRamp::jumpTo (float value) noexcept
+template <typename Value>
+void Ramp<Value>::jumpTo (Value value) noexcept
 {
     current = target = value;
     stepsLeft = 0;
 }
 
-void LinearRamp::skip (int numSamples) noexcept
+template <typename Value>
+void Ramp<Value>::skip (int numSamples) noexcept
 {
     if (numSamples >= stepsLeft)
     {
@@ -40,7 +44,10 @@ void LinearRamp::skip (int numSamples) noexcept
         return;
     }
 
-    current += step * static_cast<float> (numSamples);
+    current += step * static_cast<Value> (numSamples);
     stepsLeft -= numSamples;
 }
+
+template struct Ramp<float>;
+template struct Ramp<double>;
 } // namespace Zn::Audio::Kernels

@@ -4,12 +4,14 @@ namespace Zn::Audio::Kernels
 {
 /** Moves a value to its target in equal steps: the same steps as juce::SmoothedValue makes, without JUCE.
 
-    Thread: audio, but for reset, which belongs to prepare.
+    Steps are added up, so their rounding is too, and the last one makes up for it: choose a Value in which that is
+    not heard. Thread: audio, but for reset, which belongs to prepare.
 */
-struct LinearRamp
+template <typename Value>
+struct Ramp
 {
-    float current = 0.0f, target = 0.0f;
-    float step = 0.0f; // per sample
+    Value current = 0, target = 0;
+    Value step = 0;    // per sample
     int stepsLeft = 0; // 0 when the target is reached
     int length = 0;    // samples from one target to the next
 
@@ -17,14 +19,14 @@ struct LinearRamp
     void reset (double sampleRate, double seconds) noexcept;
 
     /** Starts a ramp from the present value; the same target again lets a ramp go on. */
-    void setTarget (float newTarget) noexcept;
+    void setTarget (Value newTarget) noexcept;
 
-    void jumpTo (float value) noexcept;
+    void jumpTo (Value value) noexcept;
 
     bool isRamping() const noexcept { return stepsLeft > 0; }
 
     /** The value of the next sample. */
-    float next() noexcept
+    Value next() noexcept
     {
         if (stepsLeft == 0)
             return target;
@@ -36,4 +38,7 @@ struct LinearRamp
     /** Passes over some samples at once, as when nobody hears what would be scaled. */
     void skip (int numSamples) noexcept;
 };
+
+using LinearRamp = Ramp<float>; // of a gain or a place
+using DelayRamp = Ramp<double>; // of a time in samples: thousands of them, of which each fraction is heard
 } // namespace Zn::Audio::Kernels
