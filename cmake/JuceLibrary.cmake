@@ -37,6 +37,10 @@ else()
     target_link_libraries (zn_juce PUBLIC juce::juce_recommended_config_flags)
 endif()
 
+# A debug build of JUCE would greet with its version on standard error, which belongs to the tools.
+set_source_files_properties ("${JUCE_MODULES_DIR}/juce_core/juce_core.cpp"
+                             PROPERTIES COMPILE_DEFINITIONS JUCE_DISABLE_JUCE_VERSION_PRINTING=1)
+
 # Whatever a program does not use is left out of it.
 target_compile_options (zn_juce PRIVATE -w -ffunction-sections -fdata-sections)
 target_link_options (zn_juce INTERFACE -Wl,--gc-sections)
