@@ -11,18 +11,17 @@ namespace Zn::Audio::Plugin
 */
 class SharedBase : public ProcessorBase
 {
+    const Singleton::UserToken singletons; // first: whatever comes after may use them to its end
+
 public:
     SharedBase() = default;
 
-    /** A project keeps the host parameters itself; there is no more to save yet. */
+    /** Adds nothing to a host's project: what comes back is what the host keeps of the parameters itself. */
     void getStateInformation (juce::MemoryBlock&) override {}
     void setStateInformation (const void*, int) override {}
 
 protected:
     ManagedParameters managedParameters;
     HostParamList hostParameters { managedParameters };
-
-private:
-    const Singleton::UserToken singletons;
 };
 } // namespace Zn::Audio::Plugin
