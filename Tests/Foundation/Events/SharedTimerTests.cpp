@@ -1,6 +1,7 @@
 #include "Foundation/Events/SharedTimer.h"
 
 #include "Foundation/Events/TimerCallback.h"
+#include "Foundation/Events/UpdateTimer.h"
 #include "Foundation/Singleton.h"
 
 #include <gtest/gtest.h>
@@ -66,6 +67,30 @@ TEST (SharedTimer, GoesOnToTheNextCallbackWhenOneThrows)
     EXPECT_NO_THROW (tick());
     tick();
     EXPECT_EQ (calls, 2);
+}
+
+TEST (UpdateTimer, KeepsItsIntervalOverManyTicksAndStartsItAnewWhenSwitchedOn)
+{
+    const Singleton::UserToken user;
+    auto calls = 0;
+    UpdateTimer timer (UpdateTimer::screenInterval, [&] { ++calls; });
+
+    const auto run = [] (int milliseconds) {
+        for (auto i = 0; i < milliseconds / SharedTimer::intervalMilliseconds; ++i)
+            tick();
+    };
+
+    run (3300);
+    EXPECT_EQ (calls, 100);
+
+    timer.setActive (false);
+    run (1000);
+    timer.setActive (true);
+    tick();
+    EXPECT_EQ (calls, 100);
+
+    tick();
+    EXPECT_EQ (calls, 101);
 }
 
 TEST (SharedTimer, OutlivesATickInWhichTheLastUserLeaves)

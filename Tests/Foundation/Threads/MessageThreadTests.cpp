@@ -1,0 +1,130 @@
+#include "Foundation/Threads/MessageThread.h"
+
+#include "Foundation/Threads/AsyncCallback.h"
+
+#include "Support/MessageLoop.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <optional>
+#include <stdexcept>
+#include <thread>
+
+namespace Zn::Threads
+{
+namespace
+{
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+/** Runs a function on a thread of its own while this one serves messages, and waits for it. */
+void onWorker (const std::function<void()>& work)
+{
+    std::atomic<bool> ended { false };
+    std::jthread worker ([&] {
+        work();
+        ended = true;
+    });
+
+    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return ended.load(); }));
+}
+} // namespace
+
+TEST (CallOnMessageThreadAndBlock, RunsThereAndReturnsBehindItsEnd)
+{
+    onWorker ([] {
+        auto ranThere = false;
+        EXPECT_TRUE (callOnMessageThreadAndBlock ([&] {
+            std::this_thread::sleep_for (20ms);
+            ranThere = juce::MessageManager::existsAndIsCurrentThread();
+        }));
+        EXPECT_TRUE (ranThere);
+
+        EXPECT_THROW (callOnMessageThreadAndBlock ([] { throw std::runtime_error ("for the caller"); }),
+                      std::runtime_error);
+    });
+}
+
+TEST (CallOnMessageThreadAndBlock, StandsInForTheMessageThreadWhereThatIsSafe)
+{
+    const auto ranHere = [] {
+        std::thread::id ranOn;
+        return callOnMessageThreadAndBlock ([&] { ranOn = std::this_thread::get_id(); })
+               && ranOn == std::this_thread::get_id();
+    };
+
+    EXPECT_TRUE (ranHere()) << "on the message thread itself";
+
+    onWorker ([&] {
+        const juce::MessageManagerLock lock;
+        EXPECT_TRUE (ranHere()) << "with its lock held";
+    });
+}
+
+TEST (CallOnMessageThreadAndBlock, GivesUpOnAMessageThreadThatWaitsForIt)
+{
+    auto called = false;
+    auto ran = true;
+    const auto start = Clock::now();
+
+    std::thread ([&] { ran = callOnMessageThreadAndBlock ([&] { called = true; }); }).join();
+
+    EXPECT_FALSE (ran);
+    EXPECT_LT (Clock::now() - start, 1500ms);
+
+    Zn::Test::runPendingMessages();
+    EXPECT_FALSE (called) << "its caller had gone";
+}
+
+TEST (GetAsyncCallback, CallsOnTheMessageThreadForAsLongAsItsOwnerLives)
+{
+    std::optional<Lifeline> owner { std::in_place };
+    auto calls = 0;
+    const auto post = getAsyncCallback (*owner, [&] {
+        EXPECT_TRUE (juce::MessageManager::existsAndIsCurrentThread());
+        ++calls;
+    });
+
+    onWorker ([&] {
+        post();
+        post();
+    });
+    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return calls == 2; }));
+
+    post();
+    owner.reset();
+    post();
+    Zn::Test::runPendingMessages();
+    EXPECT_EQ (calls, 2);
+}
+
+TEST (GetAsyncCallback, IsWaitedForByAnOwnerThatGoesOnAnotherThread)
+{
+    std::optional<Lifeline> owner { std::in_place };
+    std::atomic<bool> isRunning { false }, hasEnded { false };
+
+    getAsyncCallback (*owner, [&] {
+        isRunning = true;
+        std::this_thread::sleep_for (50ms);
+        hasEnded = true;
+    })();
+
+    std::jthread destroyer ([&] {
+        while (! isRunning)
+            std::this_thread::yield();
+
+        owner.reset();
+        EXPECT_TRUE (hasEnded);
+    });
+
+    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return hasEnded.load(); }));
+}
+
+TEST (GetAsyncCallback, MayEndItsOwnOwner)
+{
+    std::optional<Lifeline> owner { std::in_place };
+    getAsyncCallback (*owner, [&] { owner.reset(); })();
+    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return ! owner.has_value(); }));
+}
+} // namespace Zn::Threads
