@@ -1,0 +1,49 @@
+#include "Presets/PresetFile.h"
+
+#include "Presets/NativePath.h"
+#include "Presets/Reflection/JsonText.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+namespace Zn::Presets::PresetFile
+{
+std::string toBytes (const nlohmann::json& document)
+{
+    constexpr auto indent = 4;
+    auto bytes = Json::toText (document, indent);
+    bytes.append ("\n\0", 2);
+    return bytes;
+}
+
+nlohmann::json read (const juce::File& file)
+{
+    const auto bytes = readBytes (file);
+    return bytes ? Json::parse (*bytes, Json::largestPresetText) : nlohmann::json();
+}
+
+std::optional<std::string> readBytes (const juce::File& file)
+{
+    std::error_code error;
+
+    if (! std::filesystem::is_regular_file (nativePath (file), error)
+        || file.getSize() > static_cast<juce::int64> (Json::largestPresetText))
+        return {};
+
+    juce::FileInputStream stream (file);
+
+    if (stream.failedToOpen())
+        return {};
+
+    std::string bytes (static_cast<std::size_t> (stream.getTotalLength()), '\0');
+    const auto numRead = stream.read (bytes.data(), static_cast<int> (bytes.size()));
+    bytes.resize (static_cast<std::size_t> (std::max (numRead, 0)));
+    return bytes;
+}
+
+bool hasExtension (const juce::File& file, const juce::String& extension)
+{
+    return file.getFileExtension().equalsIgnoreCase ("." + extension);
+}
+} // namespace Zn::Presets::PresetFile
