@@ -1,0 +1,133 @@
+#include "Presets/Undo/Manager.h"
+
+#include "Presets/Base.h"
+#include "Presets/Undo/HistoryParam.h"
+
+#include <numeric>
+
+namespace Zn::Undo
+{
+Manager::Manager (Presets::Base& stateToKeep) : state (stateToKeep)
+{
+    keep ("Initial");
+}
+
+Manager::NewProject::NewProject (Manager& managerToRestart) noexcept
+    : manager (managerToRestart), noEdits (manager.isApplying, true)
+{}
+
+Manager::NewProject::~NewProject()
+{
+    manager.restart();
+}
+
+void Manager::restart()
+{
+    snapshots.clear();
+    index = 0;
+    depth = 0;
+    keep ("Initial");
+    callListeners();
+}
+
+void Manager::begin()
+{
+    if (! isApplying)
+        ++depth;
+}
+
+void Manager::markChanged()
+{
+    if (! isApplying)
+        changed = true;
+}
+
+void Manager::end (const juce::String& name)
+{
+    if (isApplying)
+        return;
+
+    depth = std::max (depth - 1, 0);
+
+    if (depth > 0 || ! changed)
+        return;
+
+    snapshots.resize (static_cast<std::size_t> (index) + 1);
+    keep (name);
+    callListeners();
+}
+
+void Manager::undo()
+{
+    if (canUndo())
+        goTo (index - 1);
+}
+
+void Manager::redo()
+{
+    if (canRedo())
+        goTo (index + 1);
+}
+
+std::unique_ptr<Parameters::Parameter> Manager::createUndoParam()
+{
+    return std::make_unique<UndoParam> (*this);
+}
+
+std::unique_ptr<Parameters::Parameter> Manager::createRedoParam()
+{
+    return std::make_unique<RedoParam> (*this);
+}
+
+bool Manager::canUndo() const
+{
+    return index > 0;
+}
+
+bool Manager::canRedo() const
+{
+    return index < static_cast<std::int32_t> (snapshots.size()) - 1;
+}
+
+const juce::String& Manager::getCurrentName() const
+{
+    return snapshots[static_cast<std::size_t> (index)].getName();
+}
+
+std::size_t Manager::getNumBytes() const noexcept
+{
+    return std::accumulate (snapshots.begin(),
+                            snapshots.end(),
+                            std::size_t {},
+                            [] (auto sum, const auto& snapshot) { return sum + snapshot.getNumBytes(); });
+}
+
+void Manager::keep (const juce::String& name)
+{
+    snapshots.emplace_back (name, state.createDocument (ReflectorContext::forUndo()));
+    index = static_cast<std::int32_t> (snapshots.size()) - 1;
+    changed = false;
+}
+
+void Manager::goTo (std::int32_t newIndex)
+{
+    if (isApplying) // a listener of the load asks for the next
+        return;
+
+    index = newIndex;
+    apply (snapshots[static_cast<std::size_t> (newIndex)]);
+    callListeners();
+}
+
+void Manager::apply (const Snapshot& snapshot)
+{
+    const juce::ScopedValueSetter<bool> noEdits (isApplying, true);
+
+    try
+    {
+        state.applyDocument (snapshot.getDocument(), ReflectorContext::forUndo());
+    }
+    catch (const std::exception&)
+    {} // what was read stands, and the snapshots around it are as good as before
+}
+} // namespace Zn::Undo

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "Foundation/Events/HasBroadcaster.h"
+#include "Presets/Undo/Interface.h"
+#include "Presets/Undo/Snapshot.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace Zn::Presets
+{
+class Base;
+}
+
+namespace Zn::Undo
+{
+/** Undo by whole snapshots: after each edit the complete state is kept, and undoing loads an older one the way a preset
+    is loaded. Nobody writes code to undo what they do; they only say that they did something.
+
+    The first snapshot is the floor that undo cannot leave. Tells its listeners whenever what can be undone or redone
+    may have become another. Thread: message.
+*/
+class Manager : public Interface, public Events::HasBroadcaster
+{
+public:
+    /** Keeps the state as it is now. The state must outlive the manager. */
+    explicit Manager (Presets::Base& stateToKeep);
+
+    Manager (const Manager&) = delete;
+    Manager& operator= (const Manager&) = delete;
+
+    /** Held while a host loads its project: what is loaded is no edit, and becomes the new floor. */
+    class NewProject
+    {
+    public:
+        explicit NewProject (Manager& managerToRestart) noexcept;
+        ~NewProject();
+
+        NewProject (const NewProject&) = delete;
+        NewProject& operator= (const NewProject&) = delete;
+
+    private:
+        Manager& manager;
+        const juce::ScopedValueSetter<bool> noEdits;
+    };
+
+    /** Forgets everything and keeps the state as it is now. */
+    void restart();
+
+    void begin() override;
+    void markChanged() override;
+
+    /** The end of the outermost edit keeps the state under this name, if anything was changed, and drops what could
+        have been redone.
+    */
+    void end (const juce::String& name) override;
+
+    void undo() override;
+    void redo() override;
+
+    std::unique_ptr<Parameters::Parameter> createUndoParam() override;
+    std::unique_ptr<Parameters::Parameter> createRedoParam() override;
+
+    bool canUndo() const override;
+    bool canRedo() const override;
+
+    /** Of the snapshot that the state is at. */
+    const juce::String& getCurrentName() const;
+
+    /** What all snapshots take. */
+    std::size_t getNumBytes() const noexcept;
+
+private:
+    void keep (const juce::String& name);
+    void goTo (std::int32_t newIndex);
+    void apply (const Snapshot& snapshot);
+
+    std::int32_t index = 0; // of the current snapshot
+    std::int32_t depth = 0; // open edits
+    bool changed = false;
+    bool isApplying = false; // what happens meanwhile is no edit
+    std::vector<Snapshot> snapshots;
+    Presets::Base& state;
+};
+} // namespace Zn::Undo
