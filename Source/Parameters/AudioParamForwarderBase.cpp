@@ -11,6 +11,8 @@ AudioParamForwarderBase::AudioParamForwarderBase (juce::AudioProcessorParameter&
 
 AudioParamForwarderBase::~AudioParamForwarderBase()
 {
+    AudioParamForwarderBase::
+        endGesture(); // or the host would wait for ever when an editor closes in mid-drag
     getTarget().removeListener (this);
 }
 

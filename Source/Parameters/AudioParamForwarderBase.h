@@ -9,8 +9,8 @@ namespace Zn::Parameters
 /** Gives a widget a parameter of the processor, with gestures that reach the host once.
 
     A gesture goes to `hostSide`, the parameter that the host knows the target by, or to the target itself when
-    the host knows it; a target that the host does not know has gestures in name only. Created and destroyed with
-    the editor; must not outlive the processor.
+    the host knows it; a target that the host does not know has gestures in name only. A gesture ends with the
+    forwarder at the latest. Created and destroyed with the editor; must not outlive the processor.
 */
 class AudioParamForwarderBase : public ForwarderBase<juce::AudioProcessorParameter>,
                                 private juce::AudioProcessorParameter::Listener

@@ -6,11 +6,8 @@ namespace Zn::Parameters
 {
 void MenuItems::Item::choose() const
 {
-    if (action != nullptr)
-        action();
-
-    if (afterwards != nullptr)
-        afterwards();
+    if (const auto both = chainFunctions (action, afterwards)) // copies: the action may destroy this line
+        both();
 }
 
 void MenuItems::setRecursiveFunc (Item& menu, CallbackFunc callback)
@@ -19,6 +16,33 @@ void MenuItems::setRecursiveFunc (Item& menu, CallbackFunc callback)
         setRecursiveFunc (item, callback);
 
     menu.afterwards = std::move (callback);
+}
+
+void MenuItems::addToActions (Item& menu, const CallbackFunc& callback)
+{
+    for (auto& item : menu.subItems)
+        addToActions (item, callback);
+
+    if (menu.action != nullptr)
+        menu.action = chainFunctions (std::move (menu.action), callback);
+}
+
+void MenuItems::holdWeakly (Item& menu, const std::weak_ptr<const void>& owner)
+{
+    for (auto& item : menu.subItems)
+        holdWeakly (item, owner);
+
+    if (menu.isSelected != nullptr)
+        menu.isSelected = [owner, isSelected = std::move (menu.isSelected)] {
+            const auto kept = owner.lock();
+            return kept != nullptr && isSelected();
+        };
+
+    if (menu.action != nullptr)
+        menu.action = [owner, action = std::move (menu.action)] {
+            if (const auto kept = owner.lock())
+                action();
+        };
 }
 
 namespace

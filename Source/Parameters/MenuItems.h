@@ -5,6 +5,7 @@
 #include <juce_audio_processors/juce_audio_processors.h>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace Zn::Parameters
@@ -22,7 +23,7 @@ struct Item
 
     bool isTicked() const { return isSelected != nullptr && isSelected(); }
 
-    /** Does what the line stands for. */
+    /** Does what the line stands for, which may destroy the menu. */
     void choose() const;
 };
 
@@ -30,6 +31,14 @@ struct Item
     step. Replaces what was set before.
 */
 void setRecursiveFunc (Item& menu, CallbackFunc callback);
+
+/** Adds a callback to the action of every line of a whole menu tree that has one. */
+void addToActions (Item& menu, const CallbackFunc& callback);
+
+/** Lets a whole menu tree outlive what its lines refer to: once the owner is gone they are unticked and do nothing,
+    and while a line acts it keeps the owner.
+*/
+void holdWeakly (Item& menu, const std::weak_ptr<const void>& owner);
 } // namespace MenuItems
 
 /** Every value of a parameter, the highest first, as it stands on a dial.
