@@ -1,6 +1,7 @@
 #include "Sequencer/Modifiers/Clip.h"
 
 #include "Sequencer/Modifiers/Empty.h"
+#include "Sequencer/Modifiers/LoopFitter.h"
 #include "Sequencer/Modifiers/NoteList.h"
 #include "Sequencer/Modifiers/Pattern.h"
 #include "Sequencer/Modifiers/RenderedLists.h"
@@ -20,7 +21,7 @@ struct ChildTypes
 };
 
 /** What a file can name as a child, the first that is present winning. */
-using RegisteredTypes = ChildTypes<NoteList, Pattern, StepPulseSequencer>;
+using RegisteredTypes = ChildTypes<NoteList, Pattern, StepPulseSequencer, LoopFitter>;
 } // namespace
 
 Clip::Clip() : child (std::make_unique<Empty>()) {}

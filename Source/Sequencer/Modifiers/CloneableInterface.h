@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 namespace Zn::Sequencer::Modifiers
 {
@@ -30,4 +31,17 @@ public:
         return std::make_unique<T> (static_cast<const T&> (*this));
     }
 };
+
+/** Deep copies of a list of parts, none of which is null. */
+template <typename T>
+std::vector<std::unique_ptr<T>> copiesOf (const std::vector<std::unique_ptr<T>>& parts)
+{
+    std::vector<std::unique_ptr<T>> copies;
+    copies.reserve (parts.size());
+
+    for (const auto& part : parts)
+        copies.push_back (std::make_unique<T> (*part));
+
+    return copies;
+}
 } // namespace Zn::Sequencer::Modifiers

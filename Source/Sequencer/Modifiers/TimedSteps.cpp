@@ -7,21 +7,8 @@ namespace Zn::Sequencer::Modifiers
 {
 namespace
 {
-using Sequences = std::vector<std::unique_ptr<StepPulseSequencer>>;
-
-Sequences copied (const Sequences& sequences)
-{
-    Sequences copies;
-    copies.reserve (sequences.size());
-
-    for (const auto& sequence : sequences)
-        copies.push_back (std::make_unique<StepPulseSequencer> (*sequence));
-
-    return copies;
-}
-
 /** Plays the sequences one after another; returns where the last one ends. */
-double renderInTurn (const Sequences& sequences, RenderedEvents& target)
+double renderInTurn (const TimedSteps::Sequences& sequences, RenderedEvents& target)
 {
     auto position = 0.0;
 
@@ -45,7 +32,7 @@ TimedSteps::TimedSteps (const TimedSteps& other)
     : Base (other)
     , mute (other.mute)
     , solo (other.solo)
-    , sequences (copied (other.sequences))
+    , sequences (copiesOf (other.sequences))
     , duration (other.duration)
     , channel (other.channel)
 {}
@@ -55,7 +42,7 @@ TimedSteps& TimedSteps::operator= (const TimedSteps& other)
     Base::operator= (other);
     mute = other.mute;
     solo = other.solo;
-    sequences = copied (other.sequences);
+    sequences = copiesOf (other.sequences);
     duration = other.duration;
     channel = other.channel;
 

@@ -8,11 +8,13 @@ namespace Zn::Sequencer::Modifiers
 class TimedSteps : public Base
 {
 public:
-    bool mute = false;                                          // plays nothing but holds its place
-    bool solo = false;                                          // for the owner of several lanes to heed
-    std::vector<std::unique_ptr<StepPulseSequencer>> sequences; // none is null
-    Duration duration; // how long the lane lasts when it plays nothing
-    int channel = 1;   // of all its notes; not saved
+    using Sequences = std::vector<std::unique_ptr<StepPulseSequencer>>;
+
+    bool mute = false;   // plays nothing but holds its place
+    bool solo = false;   // for the owner of several lanes to heed
+    Sequences sequences; // none is null
+    Duration duration;   // how long the lane lasts when it plays nothing
+    int channel = 1;     // of all its notes; not saved
 
     TimedSteps();
     TimedSteps (const TimedSteps& other);

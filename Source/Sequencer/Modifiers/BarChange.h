@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Sequencer/Modifiers/TimedSteps.h"
+
+namespace Zn::Sequencer::Modifiers
+{
+/** Gives a bar of a lane as many sequences as it has beats, each as long as a beat.
+
+    The bar's are those that start inside the old bar, whose place in the lane is `oldTime`; without any the bar lies
+    behind the last one. New beats are blank and follow the old ones; beats that are gone take their sequences along,
+    and later ones move up. The last bar keeps what it no longer plays, for when it grows again.
+*/
+void fitToBar (TimedSteps::Sequences& lane, Ranges::Span oldTime, Bar oldBar, Bar newBar);
+} // namespace Zn::Sequencer::Modifiers
