@@ -14,6 +14,15 @@ void HostParamList::forward (const juce::String& hostIdentifier, ParamHolderBase
     entries.push_back ({ std::move (hostSide), &target });
 }
 
+ParamHolderBase* HostParamList::find (const juce::String& hostIdentifier) const noexcept
+{
+    for (const auto& [hostSide, target] : entries)
+        if (hostSide->getIdentifier() == hostIdentifier)
+            return target;
+
+    return nullptr;
+}
+
 void HostParamList::addTo (juce::AudioProcessor& processor)
 {
     for (auto& [hostSide, target] : entries)

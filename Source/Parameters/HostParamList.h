@@ -23,6 +23,9 @@ public:
     */
     void forward (const juce::String& hostIdentifier, ParamHolderBase& target);
 
+    /** The parameter of the tree that the host knows by an identifier; null when there is none. */
+    ParamHolderBase* find (const juce::String& hostIdentifier) const noexcept;
+
     /** Gives all of them to the processor, once. */
     void addTo (juce::AudioProcessor& processor);
 

@@ -35,10 +35,11 @@ public:
     }
 
     void handle (const juce::MidiMessage&) noexcept override { act(); }
-    void reflect (Reflector&) override {}
+    const Midi::Learn::Binding& getBinding() const noexcept override { return binding; }
 
 private:
     const int note;
+    const Midi::Learn::Binding binding;
     const std::function<void()> act;
 };
 

@@ -73,6 +73,8 @@ public:
         case 14:
             state.playHead->internalClock = random.nextInt (4) == 0;
             return;
+        case 15:
+            return learn();
         default:
             return key();
         }
@@ -112,6 +114,27 @@ private:
 
         send (random.nextBool() ? juce::MidiMessage::noteOn (1 + random.nextInt (16), note, velocity)
                                 : juce::MidiMessage::noteOff (1, note));
+    }
+
+    void learn()
+    {
+        using Target = Midi::Learn::Target;
+        auto& map = state.learnMap;
+        const auto target = random.nextBool()
+                                ? Target::forSlot (random.nextInt (Sequencer::numSlots))
+                                : Target::forParam (random.nextBool() ? "Transpose" : "Arp-Active");
+
+        switch (random.nextInt (5))
+        {
+        case 0:
+            return map.clearAll();
+        case 1:
+            return map.learn (target);
+        case 2:
+            return map.update();
+        default:
+            map.bind ({ target, target.isSlot() ? 40 + random.nextInt (12) : 64 });
+        }
     }
 
     void set (int index, float value) { processor.getParameters()[index]->setValueNotifyingHost (value); }

@@ -1,15 +1,15 @@
 #pragma once
 
-#include <juce_audio_basics/juce_audio_basics.h>
+#include "Midi/Learn/Binding.h"
 
-namespace Zn
-{
-class Reflector;
-}
+#include <juce_audio_basics/juce_audio_basics.h>
 
 namespace Zn::Midi::Learn
 {
-/** What a learned message does: moves a parameter, switches a pattern. A message that matches is consumed. */
+/** What a learned message does: moves a parameter, switches a pattern. A message that matches is consumed.
+
+    Never changes once it is made. The collector frees it, so its destructor touches nothing of the plug-in's.
+*/
 class Handler
 {
 public:
@@ -21,7 +21,7 @@ public:
     /** Acts on a message that matches. Thread: audio. */
     virtual void handle (const juce::MidiMessage& message) noexcept = 0;
 
-    /** Thread: message. */
-    virtual void reflect (Reflector& r) = 0;
+    /** What it was made for, to list and to save it. Thread: message. */
+    virtual const Binding& getBinding() const noexcept = 0;
 };
 } // namespace Zn::Midi::Learn

@@ -8,12 +8,17 @@
 
 namespace Zn::Midi::Learn
 {
+constexpr int maxEntries = 128; // of a table
+
+/** In the order in which they act. */
+using Handlers = std::vector<std::shared_ptr<Handler>>;
+
 /** The learn table as one frame of a ring. The frames share the handlers, so that none dies in the audio
     thread's hands: the writer releases a frame's old handlers when it fills it anew.
 */
 struct State
 {
     LearnerRecord* learner = nullptr; // null as if idle; outlives the ring
-    std::vector<std::shared_ptr<Handler>> handlers;
+    Handlers handlers;
 };
 } // namespace Zn::Midi::Learn

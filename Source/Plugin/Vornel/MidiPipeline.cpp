@@ -7,8 +7,6 @@ namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
-constexpr size_t maxLearnEntries = 128;
-
 void append (juce::MidiBuffer& target, const juce::MidiBuffer& source, int sampleOffset) noexcept
 {
     Midi::EventWriter writer (target);
@@ -20,7 +18,7 @@ void append (juce::MidiBuffer& target, const juce::MidiBuffer& source, int sampl
 
 MidiPipeline::MidiPipeline (State& stateToUse) : state (stateToUse), midiProcessor (stateToUse.pitchTables)
 {
-    matched.reserve (maxLearnEntries);
+    matched.reserve (Midi::Learn::maxEntries);
 }
 
 void MidiPipeline::prepare (int blockSize)
@@ -97,14 +95,8 @@ void MidiPipeline::runSegments (const Sequencer::ClockSlice& clock,
     {
         collectMatches (event, learn);
 
-        if (matched.empty())
-        {
-            input.add (event);
-            continue;
-        }
-
         // What came before acts first, so that a handler changes the sound at its own sample.
-        if (event.samplePosition > start)
+        if (! matched.empty() && event.samplePosition > start)
         {
             runSegment ({ start, event.samplePosition - start }, clock, patterns);
             input.clear();
@@ -113,6 +105,9 @@ void MidiPipeline::runSegments (const Sequencer::ClockSlice& clock,
 
         for (auto* handler : matched)
             handler->handle (event.getMessage());
+
+        if (downKeys.goesOn (event, ! matched.empty()))
+            input.add (event);
     }
 
     runSegment ({ start, clock.size() - start }, clock, patterns);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Midi/Learn/DownKeys.h"
 #include "Midi/Learn/State.h"
 #include "Plugin/Vornel/MidiProcessor.h"
 
@@ -63,6 +64,7 @@ private:
     juce::MidiBuffer output;
     juce::MidiBuffer scratch;
     std::vector<Midi::Learn::Handler*> matched;
+    Midi::Learn::DownKeys downKeys;
 
     Midi::NoteGate bypassGate; // what passed while bypassed
     bool wasBypassed = false;

@@ -9,8 +9,10 @@ Processor::Processor()
     : midi (*state)
     , sound (*state)
     , patternListener (state->patterns.getAudioBroadcaster(), [this] { publishPatterns(); })
+    , learnListener (state->learnMap, [this] { publishLearnTable(); })
 {
-    learnWriter.publish ([this] (Midi::Learn::State& frame) { frame.learner = &state->learner; });
+    state->learnMap.setParameters (hostParameters);
+    publishLearnTable();
     publishPatterns();
     prepare (defaultSampleRate, defaultBlockSize);
 }
@@ -19,6 +21,7 @@ Processor::~Processor()
 {
     state->stopFollowing(); // first, as hosts destroy processors on any thread
     patternListener.detach();
+    learnListener.detach();
     learnWriter.replaceAll ({});
     patternWriter.replaceAll ({});
     Events::GarbageCollector::getInstance().collectNow();
@@ -79,6 +82,16 @@ void Processor::publishPatterns()
         frame.patterns = state->patterns.getPatternData();
         frame.liveSlots = state->liveSlots;
         frame.playHead = state->playHead;
+    });
+}
+
+void Processor::publishLearnTable()
+{
+    JUCE_ASSERT_MESSAGE_THREAD
+
+    learnWriter.publish ([this] (Midi::Learn::State& frame) {
+        frame.learner = &state->learner;
+        frame.handlers = state->learnMap.getHandlers();
     });
 }
 } // namespace Zn::Audio::Plugins::Vornel

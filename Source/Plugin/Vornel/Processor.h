@@ -40,6 +40,7 @@ private:
     using LearnRing = GUIToRealTime<Midi::Learn::State, 5>;
 
     void publishPatterns();
+    void publishLearnTable();
     Sequencer::ClockSlice advanceClock (int numSamples) noexcept;
 
     PatternRing patternRing;
@@ -55,6 +56,6 @@ private:
 
     MidiPipeline midi;
     AudioPipeline sound;
-    Events::Listener patternListener;
+    Events::Listener patternListener, learnListener;
 };
 } // namespace Zn::Audio::Plugins::Vornel

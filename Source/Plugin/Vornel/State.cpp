@@ -174,6 +174,12 @@ void State::followChanges()
         swingWatcher->answer();
 }
 
+void State::stopFollowing() noexcept
+{
+    swingWatcher.reset();
+    learnMap.stopUpdating();
+}
+
 void State::followSwing()
 {
     patterns.setSwing (

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "Midi/Inbox.h"
-#include "Midi/Learn/LearnerRecord.h"
 #include "Midi/PitchTableRing.h"
 #include "Parameters/ChangeWatcher.h"
 #include "Plugin/Vornel/BrushParam.h"
 #include "Plugin/Vornel/ConnectedIntParam.h"
+#include "Plugin/Vornel/LearnMap.h"
 #include "Plugin/Vornel/MidiSettings.h"
 #include "Plugin/Vornel/OctaveRange.h"
 #include "Plugin/Vornel/Params.h"
@@ -47,7 +47,7 @@ public:
     /** Stops answering changes of parameters, so that nothing of the message thread's is under way in here. To be
         called before the state or its listeners are destroyed. Thread: any.
     */
-    void stopFollowing() noexcept { swingWatcher.reset(); }
+    void stopFollowing() noexcept;
 
     /** Reads what steers a segment. Thread: audio. */
     MidiSettings readMidiSettings() const noexcept;
@@ -68,6 +68,7 @@ public:
 
     Midi::Inbox inbox;
     Midi::Learn::LearnerRecord learner;
+    LearnMap learnMap { *this };
     Midi::PitchTableRing pitchTables;
 
     std::atomic<float> meter { 0.0f };        // RMS of the left channel, a gain; written: audio, read: GUI
