@@ -150,13 +150,11 @@ TEST_F (Undo, BeginsAnewForAnotherProject)
     notebook.number = 5;
     manager.begin(); // by a drag that the load interrupts
     manager.markChanged();
-
-    {
-        const Manager::NewProject loading (manager);
-        write (4);
-        notebook.number = 5;
-    }
-
+    manager.awaitRestart();
+    write (4);
+    notebook.number = 5;
+    EXPECT_EQ (manager.getCurrentName(), "Initial");
+    manager.restart();
     EXPECT_FALSE (manager.canUndo() || manager.canRedo());
     EXPECT_EQ (numCalls, 3);
 

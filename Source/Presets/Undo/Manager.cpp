@@ -12,39 +12,31 @@ Manager::Manager (Presets::Base& stateToKeep) : state (stateToKeep)
     keep ("Initial");
 }
 
-Manager::NewProject::NewProject (Manager& managerToRestart) noexcept
-    : manager (managerToRestart), noEdits (manager.isApplying, true)
-{}
-
-Manager::NewProject::~NewProject()
-{
-    manager.restart();
-}
-
 void Manager::restart()
 {
     snapshots.clear();
     index = 0;
     depth = 0;
+    ignoresEdits = false;
     keep ("Initial");
     callListeners();
 }
 
 void Manager::begin()
 {
-    if (! isApplying)
+    if (! ignoresEdits)
         ++depth;
 }
 
 void Manager::markChanged()
 {
-    if (! isApplying)
+    if (! ignoresEdits)
         changed = true;
 }
 
 void Manager::end (const juce::String& name)
 {
-    if (isApplying)
+    if (ignoresEdits)
         return;
 
     depth = std::max (depth - 1, 0);
@@ -111,7 +103,7 @@ void Manager::keep (const juce::String& name)
 
 void Manager::goTo (std::int32_t newIndex)
 {
-    if (isApplying) // a listener of the load asks for the next
+    if (ignoresEdits) // a listener of the load asks for the next
         return;
 
     index = newIndex;
@@ -121,7 +113,7 @@ void Manager::goTo (std::int32_t newIndex)
 
 void Manager::apply (const Snapshot& snapshot)
 {
-    const juce::ScopedValueSetter<bool> noEdits (isApplying, true);
+    const juce::ScopedValueSetter<bool> noEdits (ignoresEdits, true);
 
     try
     {

@@ -29,20 +29,8 @@ public:
     Manager (const Manager&) = delete;
     Manager& operator= (const Manager&) = delete;
 
-    /** Held while a host loads its project: what is loaded is no edit, and becomes the new floor. */
-    class NewProject
-    {
-    public:
-        explicit NewProject (Manager& managerToRestart) noexcept;
-        ~NewProject();
-
-        NewProject (const NewProject&) = delete;
-        NewProject& operator= (const NewProject&) = delete;
-
-    private:
-        Manager& manager;
-        const juce::ScopedValueSetter<bool> noEdits;
-    };
+    /** Nothing is an edit from now on until restart(), for a host that loads another project. */
+    void awaitRestart() noexcept { ignoresEdits = true; }
 
     /** Forgets everything and keeps the state as it is now. */
     void restart();
@@ -78,7 +66,7 @@ private:
     std::int32_t index = 0; // of the current snapshot
     std::int32_t depth = 0; // open edits
     bool changed = false;
-    bool isApplying = false; // what happens meanwhile is no edit
+    bool ignoresEdits = false; // while something is loaded
     std::vector<Snapshot> snapshots;
     Presets::Base& state;
 };
