@@ -26,20 +26,23 @@ void Lifeline::cut() noexcept
     gate->open = false;
 }
 
+CallbackFunc Lifeline::guard (CallbackFunc callback) const
+{
+    return [sharedGate = gate, callback = std::move (callback)] {
+        const juce::ScopedLock scopedLock (sharedGate->lock);
+
+        if (sharedGate->open)
+            callback();
+    };
+}
+
 CallbackFunc getAsyncCallback (const Lifeline& owner, CallbackFunc callback)
 {
-    const auto shared = std::make_shared<const CallbackFunc> (std::move (callback));
-
-    return [gate = owner.gate, shared] {
-        juce::MessageManager::callAsync ([gate, shared] {
-            const juce::ScopedLock scopedLock (gate->lock);
-
-            if (! gate->open)
-                return;
-
+    return [guarded = std::make_shared<const CallbackFunc> (owner.guard (std::move (callback)))] {
+        juce::MessageManager::callAsync ([guarded] {
             try
             {
-                (*shared)();
+                (*guarded)();
             }
             catch (...) // the host's message loop knows nothing of ours
             {}

@@ -22,9 +22,11 @@ public:
     /** Ends it early. */
     void cut() noexcept;
 
+    /** The callback, as a function that does nothing once the owner has gone. May be copied and kept by anyone. */
+    CallbackFunc guard (CallbackFunc callback) const;
+
 private:
     struct Gate;
-    friend CallbackFunc getAsyncCallback (const Lifeline& owner, CallbackFunc callback);
 
     const std::shared_ptr<Gate> gate;
 };

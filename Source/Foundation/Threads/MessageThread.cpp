@@ -36,18 +36,16 @@ public:
         proceed (Stage::running, Stage::ended);
     }
 
-    /** Whether the call was made. One that has begun is waited for, since it uses what its caller holds. */
+    /** Whether the call was made and has ended. Thread: the one that waits. */
     bool waitForEnd (std::chrono::milliseconds timeout)
     {
         std::unique_lock guard (lock);
 
-        if (! changed.wait_for (guard, timeout, [this] { return stage != Stage::queued; }))
+        if (! changed.wait_for (guard, timeout, [this] { return stage == Stage::ended; }))
         {
-            stage = Stage::cancelled;
+            stage = Stage::abandoned;
             return false;
         }
-
-        changed.wait (guard, [this] { return stage == Stage::ended; });
 
         if (failure)
             std::rethrow_exception (failure);
@@ -61,7 +59,7 @@ private:
         queued,
         running,
         ended,
-        cancelled
+        abandoned
     };
 
     bool proceed (Stage from, Stage to)

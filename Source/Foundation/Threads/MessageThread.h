@@ -15,8 +15,9 @@ inline constexpr std::chrono::milliseconds longestWait { 1000 };
 bool isOnMessageThread() noexcept;
 
 /** Runs a function on the message thread and waits for its end, the caller standing in where isOnMessageThread()
-    says so. Gives up when it has not begun in time: it is then never called, and the answer is false. What it
-    throws arrives here. Thread: any.
+    says so. False when that takes too long: a call that has not begun by then never does, one that has goes on
+    alone, so it touches nothing that its caller takes away (results go into shared memory, see also
+    Lifeline::guard). What it throws arrives here. Thread: any.
 */
 bool callOnMessageThreadAndBlock (CallbackFunc callback, std::chrono::milliseconds timeout = longestWait);
 } // namespace Zn::Threads

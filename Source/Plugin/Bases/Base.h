@@ -1,12 +1,15 @@
 #pragma once
 
 #include "Plugin/Bases/SharedBase.h"
+#include "Presets/Reflection/Loader.h"
+#include "Presets/Reflection/Saver.h"
 
 #include <memory>
 
 namespace Zn::Audio::Plugin
 {
-/** Owns the state, one object on the heap that lives as long as the processor, and lists its parameters to the host.
+/** Owns the state, one object on the heap that lives as long as the processor, lists its parameters to the host, and
+    gives the host its document.
 */
 template <typename StateType>
 class Base : public SharedBase
@@ -18,9 +21,18 @@ public:
         hostParameters.addTo (*this);
     }
 
+    ~Base() override { stopHostState(); }
+
     StateType& getState() noexcept { return *state; }
 
 protected:
+    nlohmann::json createDocument() override { return Json::save (*state, ReflectorContext::forHostChunk()); }
+
+    void applyDocument (nlohmann::json document) override
+    {
+        Json::load (*state, document, ReflectorContext::forHostChunk());
+    }
+
     const std::unique_ptr<StateType> state;
 };
 } // namespace Zn::Audio::Plugin

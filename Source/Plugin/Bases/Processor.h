@@ -6,6 +6,9 @@ namespace Zn::Audio::Plugin
 {
 /** The frame around a block: what must be right before any musical work begins.
 
+    What a project has brought is loaded before the first block, where the message thread can be had, and before any
+    block of an offline render, which does not play on without it.
+
     A block always leaves with its audio input cleared. Mono blocks and blocks of no samples go no further. Rates and
     sizes that make no sense are replaced, so that everything behind this class may rely on them.
 */
@@ -17,6 +20,7 @@ public:
 
     void prepareToPlay (double sampleRate, int maxBlockSize) final
     {
+        this->finishPendingLoad();
         const auto usable = sampleRate > 0.0 && maxBlockSize > 0;
         prepare (usable ? sampleRate : defaultSampleRate, usable ? maxBlockSize : defaultBlockSize);
     }
@@ -62,6 +66,9 @@ private:
     {
         const juce::ScopedNoDenormals noDenormals;
         audio.clear();
+
+        if (this->isNonRealtime())
+            this->finishPendingLoad();
 
         if (audio.getNumChannels() < 2)
             return;

@@ -2,6 +2,8 @@
 
 #include <juce_audio_processors/juce_audio_processors.h>
 
+#include <memory>
+
 namespace Zn::Audio::Plugin
 {
 /** Gives a processor its editor. Editor is constructed from a reference to the processor. */
@@ -12,6 +14,20 @@ public:
     using ProcessorType::ProcessorType;
 
     bool hasEditor() const override { return true; }
-    juce::AudioProcessorEditor* createEditor() override { return new Editor (*this); }
+
+    /** Null when there is no editor to be had. Thread: message. */
+    juce::AudioProcessorEditor* createEditor() override
+    {
+        this->finishPendingLoad();
+
+        try
+        {
+            return std::make_unique<Editor> (*this).release();
+        }
+        catch (...) // the host knows nothing of ours
+        {
+            return nullptr;
+        }
+    }
 };
 } // namespace Zn::Audio::Plugin

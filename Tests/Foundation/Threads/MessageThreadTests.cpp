@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <mutex>
 #include <optional>
 #include <stdexcept>
 #include <thread>
@@ -75,6 +76,20 @@ TEST (CallOnMessageThreadAndBlock, GivesUpOnAMessageThreadThatWaitsForIt)
 
     Zn::Test::runPendingMessages();
     EXPECT_FALSE (called) << "its caller had gone";
+}
+
+TEST (CallOnMessageThreadAndBlock, GivesUpOnACallThatWaitsForItsCaller)
+{
+    std::mutex heldByCaller;
+    std::atomic<bool> hasLeft { false };
+
+    std::jthread worker ([&] {
+        const std::scoped_lock lock (heldByCaller);
+        EXPECT_FALSE (callOnMessageThreadAndBlock ([&] { const std::scoped_lock waits (heldByCaller); }, 50ms));
+        hasLeft = true;
+    });
+
+    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return hasLeft.load(); }));
 }
 
 TEST (GetAsyncCallback, CallsOnTheMessageThreadForAsLongAsItsOwnerLives)

@@ -1,0 +1,98 @@
+#include "Plugin/Bases/PresetCacher.h"
+
+#include "Foundation/Events/SharedTimer.h"
+
+#include "Plugin/HostStateFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <thread>
+#include <vector>
+
+namespace Zn::Audio::Plugin
+{
+namespace
+{
+void runTimerFor (int milliseconds)
+{
+    for (auto i = 0; i < milliseconds / Events::SharedTimer::intervalMilliseconds; ++i)
+        Events::SharedTimer::getInstance().timerCallback();
+}
+} // namespace
+
+TEST (PresetCacher, MakesADocumentTwiceASecondAtMostAndOnlyAfterAChange)
+{
+    const Singleton::UserToken user;
+    ToyProcessor processor;
+    auto made = 0;
+    PresetCacher cacher (processor, [&] { return nlohmann::json { { "made", ++made } }; });
+
+    runTimerFor (2000);
+    EXPECT_EQ (made, 1);
+
+    for (auto* parameter : processor.getParameters())
+        parameter->setValueNotifyingHost (0.75f);
+
+    runTimerFor (480);
+    EXPECT_EQ (made, 1);
+    runTimerFor (2000);
+    EXPECT_EQ (made, 2);
+    EXPECT_EQ (cacher.getNewest().at ("made"), 2);
+}
+
+TEST (PresetCacher, LaysWhatIsToBeLoadedOverItsDocumentUntilThereIsOneThatHasIt)
+{
+    const Singleton::UserToken user;
+    ToyProcessor processor;
+    nlohmann::json live { { "a", { { "x", 1 }, { "y", 1 } } }, { "b", 1 } };
+    PresetCacher cacher (processor, [&] { return live; });
+
+    cacher.expect (R"({ "a": { "x": 2 } })");
+    cacher.expect ("no document at all");
+    cacher.expect (R"({ "b": 2 })");
+    const nlohmann::json merged { { "a", { { "x", 2 }, { "y", 1 } } }, { "b", 2 } };
+    EXPECT_EQ (cacher.getNewest(), merged);
+
+    cacher.refresh(); // the loads still wait
+    EXPECT_EQ (cacher.getNewest(), merged);
+
+    for (auto i = 0; i < 3; ++i)
+        cacher.expectationMet();
+
+    live = { { "b", 3 } };
+    EXPECT_EQ (cacher.getNewest(), merged);
+    runTimerFor (500);
+    EXPECT_EQ (cacher.getNewest(), live);
+}
+
+TEST (PresetCacher, GivesReadersOnManyThreadsWholeDocuments)
+{
+    const Singleton::UserToken user;
+    ToyProcessor processor;
+    auto count = 0;
+    PresetCacher cacher (processor, [&] {
+        ++count;
+        return nlohmann::json { { "first", count }, { "last", std::vector<int> (50, count) } };
+    });
+
+    std::atomic<bool> stop { false };
+    std::vector<std::jthread> readers;
+
+    for (auto i = 0; i < 3; ++i)
+        readers.emplace_back ([&] {
+            for (auto seen = 0; ! stop;)
+            {
+                const auto document = cacher.getNewest();
+                const auto number = document.at ("first").get<int>();
+                EXPECT_GE (number, seen);
+                EXPECT_EQ (document.at ("last"), std::vector<int> (50, number));
+                seen = number;
+            }
+        });
+
+    for (auto i = 0; i < 2000; ++i)
+        cacher.refresh();
+
+    stop = true;
+}
+} // namespace Zn::Audio::Plugin
