@@ -17,6 +17,10 @@ function (zn_add_floor name)
 
     target_include_directories (${name} ${scope} "${PROJECT_SOURCE_DIR}/Source")
     target_link_libraries (${name} ${scope} ${FLOOR_LINKS})
+
+    if (FLOOR_SOURCES AND FLOOR_LINKS)
+        zn_use_precompiled_headers (${name} zn_library_headers)
+    endif()
 endfunction()
 
 # The test program of a floor: zn_<folder>_tests, run by CTest one case at a time.
@@ -29,6 +33,7 @@ function (zn_add_tests name)
     add_executable (${name} ${TESTS_SOURCES})
     target_include_directories (${name} PRIVATE "${PROJECT_SOURCE_DIR}/Tests")
     target_link_libraries (${name} PRIVATE ${TESTS_LINKS} zn_test_support zn_real_time_guard zn_warnings GTest::gmock)
+    zn_use_precompiled_headers (${name} zn_test_headers)
     gtest_discover_tests (${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
 
