@@ -19,6 +19,10 @@ TEST (ArgumentParser, ReadsEveryOption)
                                                      "Gain=-3 dB",
                                                      "--set",
                                                      "Name=a=b",
+                                                     "--learn",
+                                                     "note 36=slot 2",
+                                                     "--learn",
+                                                     " cc 64  = Filter-Cutoff ",
                                                      "--slot",
                                                      "7",
                                                      "--seed",
@@ -45,6 +49,11 @@ TEST (ArgumentParser, ReadsEveryOption)
     EXPECT_EQ (options.settings[0].text, "-3 dB");
     EXPECT_EQ (options.settings[1].identifier, "Name");
     EXPECT_EQ (options.settings[1].text, "a=b");
+    EXPECT_EQ (options.learned[0].number, 36);
+    EXPECT_EQ (options.learned[0].slot, 1);
+    EXPECT_EQ (options.learned[1].number, 64);
+    EXPECT_EQ (options.learned[1].slot, std::nullopt);
+    EXPECT_EQ (options.learned[1].parameter, "Filter-Cutoff");
     EXPECT_EQ (options.slot, 7);
     EXPECT_EQ (options.seed, -5);
     EXPECT_EQ (options.bpm, 99.5);
@@ -75,6 +84,13 @@ TEST (ArgumentParser, RefusesWhatMakesNoSense)
         { { "--slot", "8" }, "0 to 7" },
         { { "--slot", "1x" }, "0 to 7" },
         { { "--seed", "1.5" }, "whole number" },
+        { { "--learn", "" }, "note 0..127 = slot 1..8" },
+        { { "--learn", "note 128 = slot 1" }, "note 0..127 = slot 1..8" },
+        { { "--learn", "note 36 = slot 0" }, "note 0..127 = slot 1..8" },
+        { { "--learn", "note 36 = slot 2 3" }, "note 0..127 = slot 1..8" },
+        { { "--learn", "note 36 = Transpose" }, "note 0..127 = slot 1..8" },
+        { { "--learn", "cc 64 =" }, "or 'cc 64 = ID'" },
+        { { "--learn", "cc 1 = Transpose" }, "controller 64 only" },
         { { "--bpm", "nan" }, "4 to 999" },
         { { "--bpm", "1000" }, "4 to 999" },
         { { "--sample-rate", "7999" }, "8000 to 384000" },

@@ -54,6 +54,7 @@ class CommandLine(unittest.TestCase):
         self.expect_failure(2, "--help", "--frobnicate")
         self.expect_failure(2, "nothing to write", CHORALE)
         self.expect_failure(2, "--list-params", CHORALE, "--out-events", out, "--set", "Nonsense=1")
+        self.expect_failure(2, "no parameter 'Cutoff'", CHORALE, "--out-events", out, "--learn", "cc 64 = Cutoff")
         self.expect_failure(2, "10 milliseconds", CHORALE, "--out-events", out, "--loop", "1:1.001")
 
     def test_refuses_what_is_no_midi_file(self):
@@ -122,6 +123,23 @@ class CommandLine(unittest.TestCase):
                     expected, actual = sorted(whole, key=by_pitch), sorted(self.play(example, blocks), key=by_pitch)
                     self.assertEqual([event[1] for event in actual], [event[1] for event in expected])
                     self.assertLessEqual({a[0] - e[0] for a, e in zip(actual, expected)}, {-1, 0, 1})
+
+    def test_switches_the_slot_by_a_learned_key(self):
+        # At 120 beats a minute and 8000 samples a second: key 60 for 8 quarters, key 36 after 4.5; slot 8 is empty.
+        track = bytes.fromhex("00903c64 841c902464 3c802400 8268803c00 00ff2f00")
+        song = self.file(b"MThd\0\0\0\6\0\0\0\1\0\x78MTrk" + struct.pack(">I", len(track)) + track)
+        key = "note 36 = slot 8"
+
+        def last_onset(*options):
+            events = self.folder / "events.jsonl"
+            self.assertEqual(self.call(song, "--out-events", events, *QUICK, *options).returncode, 0)
+            lines = [json.loads(line) for line in events.read_text().splitlines()]
+            return max(line["sample"] for line in lines if line["bytes"][0] == 0x90)
+
+        self.assertEqual(last_onset(), 31000)
+        self.assertEqual(last_onset("--learn", key), 19000, "the switch waits for the next quarter")
+        self.assertEqual(last_onset("--learn", key, "--set", "Quantize=4/4"), 31000)
+        self.assertEqual(last_onset("--learn", key, "--block", 33), 19000)
 
     def test_repeats_a_render_with_the_same_seed(self):
         renders = []

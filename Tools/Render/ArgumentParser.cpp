@@ -42,6 +42,12 @@ constexpr std::array rows {
           "ID=TEXT",
           "set a host parameter to a display text; may be given often",
           [] (auto& o, auto& v) { o.settings.push_back (settingFrom (v)); } },
+    Row { "--learn",
+          "MESSAGE=TARGET",
+          "let a key of the file switch to a slot, \"note 36 = slot 2\" (slots are counted\n"
+          "from 1 to 8 here), or the sustain pedal move a host parameter,\n"
+          "\"cc 64 = Filter-Cutoff\"; such messages do not sound; may be given often",
+          [] (auto& o, auto& v) { o.learned.push_back (learnedFrom (v)); } },
     Row { "--slot",
           "N",
           "play the pattern of this slot, 0 to 7",

@@ -14,6 +14,7 @@ namespace Zn::Render
 namespace
 {
 constexpr int slots = 8;
+constexpr int sustainPedal = 64; // the one controller that the plug-in can learn
 constexpr int largestBlock = 65536;
 constexpr double lowestSampleRate = 8000.0, highestSampleRate = 384000.0;
 constexpr double slowestBpm = 4.0, fastestBpm = 999.0; // slower is beyond what MIDI files can say
@@ -62,6 +63,20 @@ std::pair<std::string_view, std::string_view> splitAtColon (std::string_view tex
     const auto colon = std::min (text.find (':'), text.size());
     return { text.substr (0, colon), text.substr (std::min (colon + 1, text.size())) };
 }
+/** The words of a text, with each '=' a word of its own. */
+juce::StringArray wordsOf (const std::string& text)
+{
+    auto words =
+        juce::StringArray::fromTokens (juce::String::fromUTF8 (text.c_str()).replace ("=", " = "), false);
+    words.removeEmptyStrings();
+    return words;
+}
+
+std::optional<int> numberUpTo127From (const juce::String& text)
+{
+    const auto number = numberFrom<int> (text.toStdString());
+    return number && *number >= 0 && *number <= 127 ? number : std::nullopt;
+}
 } // namespace
 
 juce::File fileFrom (const std::string& text)
@@ -81,6 +96,27 @@ Options::Setting settingFrom (const std::string& text)
 
     return { setting.upToFirstOccurrenceOf ("=", false, false),
              setting.fromFirstOccurrenceOf ("=", false, false) };
+}
+
+Options::Learned learnedFrom (const std::string& text)
+{
+    const auto words = wordsOf (text);
+    const auto number = numberUpTo127From (words[1]);
+    const auto isAssignment = number && words[2] == "=";
+
+    if (isAssignment && words.size() == 5 && words[0] == "note" && words[3] == "slot")
+        if (const auto slot = numberFrom<int> (words[4].toStdString()); slot && *slot >= 1 && *slot <= slots)
+            return { .number = *number, .slot = *slot - 1, .parameter = {} };
+
+    if (isAssignment && words.size() == 4 && words[0] == "cc")
+    {
+        if (*number != sustainPedal)
+            throw ArgumentError ("can move parameters by controller 64 only, the sustain pedal");
+
+        return { .number = *number, .slot = {}, .parameter = words[3] };
+    }
+
+    throw ArgumentError ("needs 'note 0..127 = slot 1..8' or 'cc 64 = ID', not '" + text + "'");
 }
 
 int wavBitsFrom (const std::string& text)

@@ -10,6 +10,7 @@ namespace Zn::Render
 juce::File fileFrom (const std::string&);
 Options::Setting settingFrom (const std::string&);
 int wavBitsFrom (const std::string&);
+Options::Learned learnedFrom (const std::string&);
 int slotFrom (const std::string&);
 juce::int64 seedFrom (const std::string&);
 double bpmFrom (const std::string&);

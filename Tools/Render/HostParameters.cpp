@@ -56,7 +56,8 @@ juce::String textsOf (const juce::AudioProcessorParameter& parameter)
 }
 } // namespace
 
-void setParameter (juce::AudioProcessor& processor, const juce::String& identifier, const juce::String& text)
+juce::AudioProcessorParameter& findParameter (const juce::AudioProcessor& processor,
+                                              const juce::String& identifier)
 {
     const auto& parameters = processor.getParameters();
     const auto found = std::find_if (parameters.begin(), parameters.end(), [&] (const auto* parameter) {
@@ -67,13 +68,19 @@ void setParameter (juce::AudioProcessor& processor, const juce::String& identifi
         throw ArgumentError ("there is no parameter '" + identifier.toStdString()
                              + "'; --list-params shows them all");
 
-    const auto value = (*found)->getValueForText (text);
+    return **found;
+}
 
-    if (! isValue (**found, text, value))
+void setParameter (juce::AudioProcessor& processor, const juce::String& identifier, const juce::String& text)
+{
+    auto& parameter = findParameter (processor, identifier);
+    const auto value = parameter.getValueForText (text);
+
+    if (! isValue (parameter, text, value))
         throw ArgumentError ("'" + text.toStdString() + "' is no value of " + identifier.toStdString() + " ("
-                             + textsOf (**found).toStdString() + "); --list-params shows them all");
+                             + textsOf (parameter).toStdString() + "); --list-params shows them all");
 
-    (*found)->setValueNotifyingHost (value);
+    parameter.setValueNotifyingHost (value);
 }
 
 juce::String listParameters (const juce::AudioProcessor& processor)

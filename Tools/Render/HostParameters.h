@@ -6,6 +6,9 @@
 
 namespace Zn::Render
 {
+/** The parameter with an identifier. Throws ArgumentError if there is none. */
+juce::AudioProcessorParameter& findParameter (const juce::AudioProcessor&, const juce::String& identifier);
+
 /** Sets a parameter as a host does that lets its user type: by identifier and display text.
 
     Throws ArgumentError if there is no such parameter, or if the text is none of its values.

@@ -18,10 +18,19 @@ struct Options
         juce::String identifier, text;
     };
 
+    /** A message that the processor has learned before the song begins. */
+    struct Learned
+    {
+        int number = 0;          // of the note for a slot, of the controller for a parameter
+        std::optional<int> slot; // 0..7
+        juce::String parameter;  // identifier, without a slot
+    };
+
     std::optional<juce::File> input;
     std::optional<juce::File> wavFile, midiFile, eventsFile;
     int wavBits = 24;
     std::vector<Setting> settings;
+    std::vector<Learned> learned;
     std::optional<int> slot; // 0..7
     std::optional<juce::int64> seed;
     std::optional<double> bpm; // none: the file's tempo map

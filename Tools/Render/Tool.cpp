@@ -73,6 +73,14 @@ std::unique_ptr<juce::AudioProcessor> makeProcessor (const Options& options, con
     for (const auto& setting : options.settings)
         setParameter (*processor, setting.identifier, setting.text);
 
+    for (const auto& learned : options.learned)
+    {
+        if (! learned.slot)
+            findParameter (*processor, learned.parameter);
+
+        access.learn (*processor, learned);
+    }
+
     if (options.slot)
         access.selectSlot (*processor, *options.slot);
 

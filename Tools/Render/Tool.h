@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Options.h"
+
 #include <juce_audio_processors/juce_audio_processors.h>
 
 #include <atomic>
@@ -15,6 +17,7 @@ struct ProcessorAccess
 {
     std::function<std::unique_ptr<juce::AudioProcessor>()> create;
     std::function<void (juce::AudioProcessor&, int slot)> selectSlot;
+    std::function<void (juce::AudioProcessor&, const Options::Learned&)> learn; // of a parameter that exists
     std::function<void (juce::AudioProcessor&, juce::int64 seed)> setSeed;
 };
 

@@ -21,12 +21,20 @@ void interrupt (int)
     interrupted = true;
 }
 
+void learn (juce::AudioProcessor& processor, const Zn::Render::Options::Learned& learned)
+{
+    using Target = Zn::Midi::Learn::Target;
+    const auto target = learned.slot ? Target::forSlot (*learned.slot) : Target::forParam (learned.parameter);
+    dynamic_cast<Vornel&> (processor).getState().learnMap.bind ({ target, learned.number });
+}
+
 Zn::Render::ProcessorAccess accessToVornel()
 {
     return {
         .create = [] { return std::unique_ptr<juce::AudioProcessor> (createPluginFilter()); },
         .selectSlot = [] (auto& processor,
                           int slot) { dynamic_cast<Vornel&> (processor).setStartSlot (slot); },
+        .learn = learn,
         .setSeed = [] (auto& processor, auto seed) { dynamic_cast<Vornel&> (processor).setSeed (seed); },
     };
 }
