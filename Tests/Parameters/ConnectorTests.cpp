@@ -216,7 +216,7 @@ public:
 
     explicit Pieces (Model& model) : state (std::make_unique<State> (1))
     {
-        connector = std::make_unique<Connector> (createForwarder (model.mode));
+        connector = std::make_unique<Connector> (new IntRef<int> (model.grid, "Grid", 0, 3, 1));
         const auto& target = connector->getTarget();
         updating = std::make_unique<UpdatingConnector> (*connector, [this] { stateChanged(); });
         button = std::make_unique<Connector> (std::make_shared<ConnectedState> (target, 2, 0));
