@@ -2,6 +2,9 @@
 
 #include "Presets/NativePath.h"
 
+#include <cstdio>
+#include <system_error>
+
 namespace Zn::Presets
 {
 namespace
@@ -15,10 +18,30 @@ juce::String temporaryPrefix (const juce::File& target)
     return "." + target.getFileName() + ".";
 }
 
-juce::File temporaryFor (const juce::File& target)
+/** Makes an empty file that was not there before, so that nobody else writes to it: not even a process that was
+    forked from this one and draws the same random numbers.
+*/
+bool createExclusively (const juce::File& file)
 {
-    const auto stamp = juce::String::toHexString (juce::Random::getSystemRandom().nextInt64());
-    return target.getSiblingFile (temporaryPrefix (target) + stamp + temporaryExtension);
+    auto* const created = std::fopen (file.getFullPathName().toRawUTF8(), "wx");
+    return created != nullptr && std::fclose (created) == 0;
+}
+
+/** No file if the folder takes none. */
+juce::File createTemporaryFor (const juce::File& target)
+{
+    constexpr auto mostTries = 100;
+
+    for (auto i = 0; i < mostTries; ++i)
+    {
+        const auto stamp = juce::String::toHexString (juce::Random::getSystemRandom().nextInt64());
+        const auto file = target.getSiblingFile (temporaryPrefix (target) + stamp + temporaryExtension);
+
+        if (createExclusively (file))
+            return file;
+    }
+
+    return {};
 }
 
 void removeLeftovers (const juce::File& target)
@@ -60,7 +83,10 @@ bool replaceFile (const juce::File& target, std::string_view content, Durability
         return false;
 
     removeLeftovers (target);
-    const auto temporary = temporaryFor (target);
+    const auto temporary = createTemporaryFor (target);
+
+    if (temporary == juce::File())
+        return false;
 
     if (writeWhole (temporary, content, durability) && moveOver (temporary, target))
         return true;

@@ -50,34 +50,9 @@ auto loadQuietly (Load&& load) -> decltype (load())
 }
 } // namespace
 
-Version Base::getMinimumVersion() const
-{
-    return {};
-}
-
 juce::File Base::getUserFolder() const
 {
     return Folders::user ("Presets");
-}
-
-juce::String Base::getExtension() const
-{
-    return "json";
-}
-
-juce::String Base::getProduct() const
-{
-    return "Vornel";
-}
-
-juce::File Base::getDefaultPresetFile() const
-{
-    return {};
-}
-
-juce::String Base::getZipName() const
-{
-    return "FactoryPresets.zip";
 }
 
 bool Base::isValid (const nlohmann::json& documentHeader) const
@@ -217,31 +192,14 @@ nlohmann::json Base::load (const juce::File& file)
     return document;
 }
 
-juce::File Base::fileToSave (const juce::URL& destination) const
-{
-    if (! destination.isLocalFile())
-        return {};
-
-    const auto asked = destination.getLocalFile();
-    const auto name = juce::File::createLegalFileName (asked.getFileName()).trim();
-
-    if (name.isEmpty())
-        return {};
-
-    const auto file = asked.getSiblingFile (name);
-    return PresetFile::hasExtension (file, getExtension())
-               ? file
-               : file.getSiblingFile (name + "." + getExtension());
-}
-
 bool Base::save (const juce::URL& destination)
 {
-    const auto file = fileToSave (destination);
-    const auto name = file.getFileNameWithoutExtension();
+    const auto file = PresetFile::fileToSave (destination, getExtension());
 
-    if (name.isEmpty() || file.isDirectory())
+    if (file == juce::File())
         return false;
 
+    const auto name = file.getFileNameWithoutExtension();
     const auto previous = std::exchange (header, DocumentHeader::forSaving (name));
     const auto bytes = PresetFile::toBytes (createDocument (ReflectorContext::forPresetFile()));
 

@@ -36,16 +36,16 @@ public:
     Base& operator= (const Base&) = delete;
 
     /** Older documents are refused. */
-    virtual Version getMinimumVersion() const;
+    virtual Version getMinimumVersion() const { return {}; }
 
     virtual juce::File getUserFolder() const;
-    virtual juce::String getExtension() const; // without its point
-    virtual juce::String getProduct() const;   // what a file must say it belongs to
+    virtual juce::String getExtension() const { return "json"; } // without its point
+    virtual juce::String getProduct() const { return "Vornel"; } // what a file must say it belongs to
 
     /** Lies in getContentFolder(); no file by default. */
-    virtual juce::File getDefaultPresetFile() const;
+    virtual juce::File getDefaultPresetFile() const { return {}; }
 
-    virtual juce::String getZipName() const;
+    virtual juce::String getZipName() const { return "FactoryPresets.zip"; }
 
     /** Whether a document's version and product are ours. Is given the header alone: of a file's top level what is
         neither object nor array. Does not throw.
@@ -127,7 +127,6 @@ private:
     void applyAsPreset (nlohmann::json document, const juce::String& name);
     Binaries::Bytes getFactoryZip() const;
     void loadFromArchive (const juce::File& file);
-    juce::File fileToSave (const juce::URL& destination) const;
 
     DocumentHeader header;
     PresetList list;

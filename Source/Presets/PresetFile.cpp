@@ -46,4 +46,21 @@ bool hasExtension (const juce::File& file, const juce::String& extension)
 {
     return file.getFileExtension().equalsIgnoreCase ("." + extension);
 }
+
+juce::File fileToSave (const juce::URL& destination, const juce::String& extension)
+{
+    if (! destination.isLocalFile())
+        return {};
+
+    const auto chosen = destination.getLocalFile();
+    const auto name = juce::File::createLegalFileName (chosen.getFileName()).trim();
+    const auto hasOurs = hasExtension (chosen, extension);
+    const auto stem = hasOurs ? name.dropLastCharacters (extension.length() + 1) : name;
+
+    if (stem.isEmpty())
+        return {};
+
+    const auto file = chosen.getSiblingFile (hasOurs ? name : name + "." + extension);
+    return file.isDirectory() ? juce::File() : file;
+}
 } // namespace Zn::Presets::PresetFile

@@ -22,5 +22,10 @@ std::optional<std::string> readBytes (const juce::File& file);
 
 /** Whether a file has an extension, in capitals or not. */
 bool hasExtension (const juce::File& file, const juce::String& extension);
+
+/** The file that is meant by what a user has chosen to save to: its name made legal, with the extension. No file
+    if that is on no disk of this machine, has no name, or is a folder.
+*/
+juce::File fileToSave (const juce::URL& destination, const juce::String& extension);
 } // namespace PresetFile
 } // namespace Zn::Presets

@@ -18,7 +18,7 @@ constexpr auto deepestFolder = 32;
 struct FoundFile
 {
     juce::File file;
-    juce::String path; // from the folder that was searched
+    juce::String path; // from the folder that was searched, without the extension
 };
 
 /** Says of each folder once that it is new, by whichever links it is reached. */
@@ -67,7 +67,8 @@ std::vector<FoundFile> search (const juce::File& folder, const juce::String& ext
         }
         else if (const auto file = fileFromPath (it->path()); isPreset (*it, file, extension))
         {
-            found.push_back ({ file, file.getRelativePathFrom (folder) });
+            const auto path = file.getRelativePathFrom (folder);
+            found.push_back ({ file, path.dropLastCharacters (extension.length() + 1) });
         }
     }
 

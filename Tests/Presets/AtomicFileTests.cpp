@@ -1,0 +1,88 @@
+#include "Presets/AtomicFile.h"
+#include "Presets/ChildProcess.h"
+#include "Presets/ToyLibrary.h"
+
+#include <sys/resource.h>
+
+#include <csignal>
+
+namespace Zn::Presets::Tests
+{
+namespace
+{
+struct AtomicFile : LibraryTest
+{
+    int numFiles() const { return root.getNumberOfChildFiles (juce::File::findFiles); }
+
+    const juce::File file = root.getChildFile ("preset.json");
+    const std::string one = std::string (100'000, '1'), two = std::string (150'000, '2');
+};
+
+std::string contentOf (const juce::File& file)
+{
+    return PresetFile::readBytes (file).value_or ("nothing");
+}
+
+TEST_F (AtomicFile, HoldsOldOrNewWheneverItsWriterIsKilled)
+{
+    ASSERT_TRUE (replaceFile (file, one, Durability::survivesPowerLoss));
+    juce::Random random (1);
+
+    for (auto round = 0; round < 200; ++round)
+    {
+        ChildProcess writer ([this] {
+            for (;;)
+                for (const auto* content : { &two, &one })
+                    replaceFile (file, *content, Durability::survivesPowerLoss);
+        });
+
+        juce::Thread::sleep (random.nextInt (4));
+        writer.kill();
+
+        const auto found = contentOf (file);
+        ASSERT_TRUE (found == one || found == two)
+            << "torn in round " << round << ", " << found.size() << " bytes";
+    }
+
+    for (const auto& leftover : root.findChildFiles (juce::File::findFiles, false))
+        leftover.setLastModificationTime (juce::Time::getCurrentTime() - juce::RelativeTime::hours (1));
+
+    EXPECT_TRUE (replaceFile (file, two, Durability::canBeMadeAgain));
+    EXPECT_EQ (contentOf (file), two);
+    EXPECT_EQ (numFiles(), 1) << "what was left behind is cleared away";
+}
+
+TEST_F (AtomicFile, StaysAsItIsOnAFullDisk)
+{
+    ASSERT_TRUE (replaceFile (file, one, Durability::canBeMadeAgain));
+
+    ChildProcess writer ([this] {
+        std::signal (SIGXFSZ, SIG_IGN);
+        const rlimit full { 120'000, 120'000 };
+        ::setrlimit (RLIMIT_FSIZE, &full);
+        return replaceFile (file, two, Durability::survivesPowerLoss);
+    });
+
+    EXPECT_FALSE (writer.getResult());
+    EXPECT_EQ (contentOf (file), one);
+    EXPECT_EQ (numFiles(), 1);
+}
+
+TEST_F (AtomicFile, StaysAsItIsInAFolderThatIsReadOnly)
+{
+    ASSERT_TRUE (replaceFile (file, one, Durability::canBeMadeAgain));
+    root.setReadOnly (true);
+
+    ChildProcess writer ([this] {
+        ChildProcess::becomeNobody();
+        Toy toy (root);
+        return replaceFile (file, two, Durability::survivesPowerLoss) || toy.save (juce::URL (file));
+    });
+
+    EXPECT_FALSE (writer.getResult());
+    root.setReadOnly (false);
+    EXPECT_EQ (contentOf (file), one);
+    EXPECT_EQ (numFiles(), 1);
+}
+} // namespace
+} // namespace Zn::Presets::Tests
