@@ -15,7 +15,7 @@ Marks stand behind the rows and count for all of a word:
     ?40  sounds in 40 of 100 cases
     ~15  velocity varies by up to 15 percent either way
 
-A voice that is shorter than the drawing is repeated to its end, so that 3 words over 16 columns shift against the beat.
+A voice that ends in "..." is repeated to the end of the drawing: "0 1 2 ..." over 16 columns shifts against the beat.
 """
 
 import re
@@ -57,10 +57,14 @@ def single(number):
     return struct.unpack("f", struct.pack("f", number))[0]
 
 
-def words_of(voice, columns):
-    words = voice.replace("|", " ").split()
+def words_of(voice):
+    return voice.replace("|", " ").removesuffix("...").split()
 
-    if not words or words[0] == "_" or len(words) > columns:
+
+def words_through(voice, columns):
+    words = words_of(voice)
+
+    if words[0] == "_" or len(words) != columns and not voice.endswith("..."):
         raise ValueError(f"{len(words)} words for {columns} columns: {voice}")
 
     return [words[column % len(words)] for column in range(columns)]
@@ -82,12 +86,27 @@ def notes_of(word, column, held, velocity, gate):
 
 
 def drawn(voice, columns, dynamics, gate):
-    words = words_of(voice, columns)
+    words = words_through(voice, columns)
 
     for column, word in enumerate(words):
         if word not in "._":
             held = next((n for n, later in enumerate(words[column + 1:], 1) if later != "_"), columns - column)
             yield from notes_of(word, column, held, dynamics[column % len(dynamics)], gate)
+
+
+def checked(notes, columns):
+    """The notes in order of time. Two on one row may touch, but a row cannot sound twice at once."""
+    ends = {}
+
+    for note in sorted(notes, key=lambda note: (note.column, note.row)):
+        if note.column < ends.get(note.row, 0) or not 0 < note.velocity <= 100 or not 0 <= note.row < 128:
+            raise ValueError(f"cannot be played: {note}")
+
+        ends[note.row] = note.column + note.length
+        yield note
+
+    if any(end > columns for end in ends.values()):
+        raise ValueError("a note is longer than the pattern")
 
 
 def draw(*voices, columns=16, time=(4, 4), dynamics=(70,), gate=1.0):
@@ -96,11 +115,11 @@ def draw(*voices, columns=16, time=(4, 4), dynamics=(70,), gate=1.0):
     """
     bars = (time,) if isinstance(time[0], int) else tuple(time)
     notes = [note for voice in voices for note in drawn(voice, columns, dynamics, gate)]
-    return Slot(tuple(sorted(notes, key=lambda note: (note.column, note.row))), columns, bars, False)
+    return Slot(tuple(checked(notes, columns)), columns, bars, False)
 
 
 def cycle(*voices, step=(1, 16), **arguments):
     """A pattern of as many columns as the first voice has words, each lasting a step: for metres that no bar holds."""
-    columns = len(voices[0].replace("|", " ").split())
+    columns = len(words_of(voices[0]))
     slot = draw(*voices, columns=columns, time=step, **arguments)
     return Slot(slot.notes, columns, slot.bars, True)
