@@ -114,6 +114,6 @@ CHOPPED = Pattern(
         draw("0+1+2! _ 0+1+2 _ 0+1+2, _ . . | 0+1+2! _ 0+1+2 _ 0+1+2, _ 0+1+2, _ "
              "| 1+2+3! _ 1+2+3 _ 1+2+3, _ . . | 1+2+3! 1+2+3, 1+2+3, 1+2+3, 1+2+3! 1+2+3, 2+3+4! 2+3+4,",
              columns=32, dynamics=(74,), gate=0.6),
-    ), tempo=126, sound=sound("Slow Dawn", attack=0.01, release=0.18, sustain=0.7), quantise="4/4")
+    ), tempo=126, sound=sound("Slow Dawn", master=-8.0, attack=0.01, release=0.18, sustain=0.7), quantise="4/4")
 
 RHYTHMIC = (SIXTEEN, OFFBEAT, TRESILLO, SHUFFLE, CLAVE, CHOPPED)
