@@ -1,4 +1,4 @@
-#include "FactoryData.h"
+#include "Factory/PackedPresets.h"
 #include "Foundation/Singleton.h"
 #include "Plugin/Vornel/State.h"
 #include "Presets/Reflection/JsonText.h"
@@ -7,63 +7,16 @@
 #include <gmock/gmock.h>
 
 #include <set>
-#include <string_view>
-#include <vector>
 
 namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
+using Factory::patternPresets;
+using Factory::soundPresets;
 using nlohmann::json;
 using ::testing::Ge;
 using ::testing::SizeIs;
-
-/** A preset as it lies in the program's archive. */
-struct Packed
-{
-    juce::String path;
-    std::string bytes;
-
-    juce::String name() const
-    {
-        return path.fromLastOccurrenceOf ("/", false, false).upToLastOccurrenceOf (".", false, false);
-    }
-    juce::String folder() const { return path.upToLastOccurrenceOf ("/", false, false); }
-    json document() const { return Json::parse (bytes); }
-};
-
-void PrintTo (const Packed& preset, std::ostream* out)
-{
-    *out << preset.path;
-}
-
-std::vector<Packed> unpacked (const char* archive)
-{
-    auto size = 0;
-    const auto* data = FactoryData::getNamedResource (archive, size);
-    juce::MemoryInputStream stream (data, static_cast<std::size_t> (size), false);
-    juce::ZipFile zip (stream);
-    std::vector<Packed> presets;
-
-    for (auto i = 0; i < zip.getNumEntries(); ++i)
-    {
-        juce::MemoryBlock content;
-        std::unique_ptr<juce::InputStream> (zip.createStreamForEntry (i))->readIntoMemoryBlock (content);
-        presets.push_back ({ zip.getEntry (i)->filename, std::string (content.begin(), content.end()) });
-    }
-
-    return presets;
-}
-
-std::vector<Packed> patternPresets()
-{
-    return unpacked ("FactoryPresets_zip");
-}
-
-std::vector<Packed> soundPresets()
-{
-    return unpacked ("FactorySounds_zip");
-}
 
 std::string fileOf (const json& document)
 {
