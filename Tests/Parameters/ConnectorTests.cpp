@@ -131,23 +131,6 @@ TEST (Connector, AnswersAndSetsLikeItsTarget)
     }
 }
 
-TEST (Connector, DestroysItsTargetWithTheLastOneThatSharesIt)
-{
-    Model model;
-    auto first = std::make_unique<Connector> (new BoolRef (model.snap, "Snap"));
-    const std::weak_ptr target = first->getTarget();
-
-    auto second = std::make_unique<Connector> (first->getTarget());
-    auto third = std::make_unique<UpdatingConnector> (*second, [] {});
-    first.reset();
-    second.reset();
-    third->setBool (false);
-    EXPECT_FALSE (model.snap);
-
-    third.reset();
-    EXPECT_TRUE (target.expired());
-}
-
 TEST (UpdatingConnector, TellsOnceOfEachValueThatItSets)
 {
     Model model;
@@ -196,31 +179,28 @@ TEST (ConnectedState, MakesEachValueOfASelectorASwitch)
     for (auto index : { 0, 1, 2, 3 })
         buttons.push_back (std::make_unique<ConnectedState> (mode, index, 1));
 
-    const auto lit = [&buttons] {
-        std::string drawing;
-
-        for (const auto& button : buttons)
-            drawing += button->getBool() ? 'x' : '.';
-
-        return drawing;
+    const std::vector<std::pair<Setter, std::string>> rows {
+        { [&] (auto&) { buttons[3]->setBool (true); }, "...x" },
+        { [&] (auto&) { buttons[2]->setNormalisedNotifying (0.51f); }, "..x." },
+        { [&] (auto&) { buttons[0]->setNormalisedNotifying (std::nanf ("")); }, "..x." },
+        { [&] (auto&) { buttons[2]->setNormalisedNotifying (0.5f); }, ".x.." },
+        { [&] (auto&) { buttons[0]->setFromText ("On"); }, "x..." },
+        { [&] (auto&) { buttons[3]->getMenuChoices().subItems[1].choose(); }, "...x" },
+        { [&] (auto& selector) { selector.setInt (2); }, "..x." },
     };
 
-    EXPECT_EQ (lit(), ".x..");
-    buttons[3]->setBool (true);
-    EXPECT_EQ (lit(), "...x");
-    buttons[2]->setNormalisedNotifying (0.51f);
-    EXPECT_EQ (lit(), "..x.");
-    buttons[2]->setNormalisedNotifying (std::nanf (""));
-    EXPECT_EQ (lit(), "..x.");
-    buttons[2]->setNormalisedNotifying (0.5f);
-    EXPECT_EQ (lit(), ".x..");
-    buttons[0]->setFromText ("On");
-    EXPECT_EQ (lit(), "x...");
-    buttons[3]->setDouble (1.0);
-    EXPECT_EQ (lit(), "...x");
-    EXPECT_EQ (linesOf (buttons[3]->getMenuChoices()), (Lines { "Off", "*On" }));
-    EXPECT_EQ (linesOf (buttons[0]->getMenuChoices()), (Lines { "*Off", "On" }));
+    for (const auto& [set, expected] : rows)
+    {
+        set (*mode);
+        std::string lit;
 
+        for (const auto& button : buttons)
+            lit += button->getBool() ? 'x' : '.';
+
+        EXPECT_EQ (lit, expected);
+    }
+
+    EXPECT_EQ (linesOf (buttons[2]->getMenuChoices()), (Lines { "Off", "*On" }));
     EXPECT_EQ (buttons[1]->getDefault(), 1.0f);
     EXPECT_EQ (buttons[0]->getDefault(), 0.0f);
     EXPECT_FALSE (ConnectedState (mode, 0, 1).getBool()) << "neither value";
@@ -236,7 +216,7 @@ public:
 
     explicit Pieces (Model& model) : state (std::make_unique<State> (1))
     {
-        connector = std::make_unique<Connector> (createForwarder (model.mode));
+        connector = std::make_unique<Connector> (new IntRef<int> (model.grid, "Grid", 0, 3, 1));
         const auto& target = connector->getTarget();
         updating = std::make_unique<UpdatingConnector> (*connector, [this] { stateChanged(); });
         button = std::make_unique<Connector> (std::make_shared<ConnectedState> (target, 2, 0));

@@ -2,6 +2,8 @@
 
 #include <juce_events/juce_events.h>
 
+#include <algorithm>
+#include <atomic>
 #include <condition_variable>
 #include <exception>
 #include <memory>
@@ -12,11 +14,27 @@ namespace Zn::Threads
 {
 namespace
 {
+/** Calls that were given up while the message thread has not come to them: it is as stuck as it was. */
+std::atomic<int> numAbandoned { 0 };
+
+/** Enough for a message thread that is merely busy. */
+constexpr std::chrono::milliseconds waitWhileStuck { 50 };
+
 /** A call that two threads share: one waits for it, the other makes it, and either may come first or be gone. */
 class SharedCall
 {
 public:
     explicit SharedCall (CallbackFunc callbackToUse) : callback (std::move (callbackToUse)) {}
+
+    /** With the queue's reference and the caller's gone. */
+    ~SharedCall()
+    {
+        if (stage == Stage::abandoned)
+            --numAbandoned;
+    }
+
+    SharedCall (const SharedCall&) = delete;
+    SharedCall& operator= (const SharedCall&) = delete;
 
     /** Makes the call, unless nobody waits for it any more. Thread: message. */
     void make() noexcept
@@ -44,6 +62,7 @@ public:
         if (! changed.wait_for (guard, timeout, [this] { return stage == Stage::ended; }))
         {
             stage = Stage::abandoned;
+            ++numAbandoned;
             return false;
         }
 
@@ -95,6 +114,9 @@ bool callOnMessageThreadAndBlock (CallbackFunc callback, std::chrono::millisecon
         callback();
         return true;
     }
+
+    if (numAbandoned.load() > 0)
+        timeout = std::min (timeout, waitWhileStuck);
 
     const auto call = std::make_shared<SharedCall> (std::move (callback));
     return juce::MessageManager::callAsync ([call] { call->make(); }) && call->waitForEnd (timeout);

@@ -18,6 +18,9 @@ bool isOnMessageThread() noexcept;
     says so. False when that takes too long: a call that has not begun by then never does, one that has goes on
     alone, so it touches nothing that its caller takes away (results go into shared memory, see also
     Lifeline::guard). What it throws arrives here. Thread: any.
+
+    As long as the message thread has not come back since a call was given up, others are given up sooner: a host that
+    saves sixty plug-ins while it blocks that thread shall not stand still for a minute.
 */
 bool callOnMessageThreadAndBlock (CallbackFunc callback, std::chrono::milliseconds timeout = longestWait);
 } // namespace Zn::Threads

@@ -8,7 +8,7 @@ namespace Zn::Sequencer::Modifiers
 
     The bar's are those that start inside the old bar, whose place in the lane is `oldTime`; without any the bar lies
     behind the last one. New beats are blank and follow the old ones; beats that are gone take their sequences along,
-    and later ones move up. The last bar keeps what it no longer plays, for when it grows again.
+    and later ones move up. A bar that the lane ends with loses nothing: what it no longer plays stays.
 */
 void fitToBar (TimedSteps::Sequences& lane, Ranges::Span oldTime, Bar oldBar, Bar newBar);
 } // namespace Zn::Sequencer::Modifiers

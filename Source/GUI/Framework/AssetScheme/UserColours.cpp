@@ -1,0 +1,34 @@
+#include "GUI/Framework/AssetScheme/UserColours.h"
+
+#include "GUI/Framework/AssetScheme/Base.h"
+
+namespace Zn::GUI::AssetScheme
+{
+namespace
+{
+constexpr juce::int64 largestFile = 1024 * 1024; // bytes
+}
+
+UserColours::UserColours (const juce::File& file) : watcher (file, [this] { load(); })
+{
+    load();
+}
+
+void UserColours::reset()
+{
+    const auto& file = watcher.getFile();
+
+    if (file.existsAsFile() && ! file.moveToTrash())
+        file.deleteFile();
+
+    watcher.check();
+    load();
+}
+
+void UserColours::load()
+{
+    const auto& file = watcher.getFile();
+    const auto isReadable = file.existsAsFile() && file.getSize() <= largestFile;
+    Base::get().setUserColours (isReadable ? file.loadFileAsString().toStdString() : std::string());
+}
+} // namespace Zn::GUI::AssetScheme
