@@ -64,8 +64,7 @@ private:
         if (isOnTopLevel())
             header.erase (currentKey); // the last of several values with one key holds
 
-        ++depth;
-        return true;
+        return ++depth <= Json::deepestNesting;
     }
 
     bool leave()
@@ -83,7 +82,7 @@ json readHeader (std::string_view text)
 {
     text = text.substr (0, text.find ('\0'));
 
-    if (text.size() > Json::largestPresetText || ! Json::nestsWithinLimit (text))
+    if (text.size() > Json::largestPresetText)
         return nullptr;
 
     HeaderCollector collector;
