@@ -51,7 +51,7 @@ LEAVES = Pattern(
 
 MUSIC_BOX = Pattern(
     "Music Box", "21 Nov 2026 11:40:03",
-    "Small combs of steel, wound up: tunes in three, slowing gaps and a tooth that is missing.",
+    "A steel comb, wound up anew by each key: tunes in three, slowing gaps and a tooth that is missing.",
     (
         draw("3! 4 5 | 4 3 2", columns=6, time=(3, 4), dynamics=(70, 54, 60)),
         draw("3! 2 5 3 | 4 2 3 1 | 3 2 5 4", columns=12, time=(3, 4), dynamics=(70, 50, 58, 54)),
@@ -65,7 +65,7 @@ MUSIC_BOX = Pattern(
         # Running down.
         draw("3@70 4@66 5@62 4@58 . 3@54 . 2@50 . . 3@44 . . . 1@38 . . .", columns=18, time=((3, 4),) * 3),
         draw("3+6! 4 5 3+5 4 3 | 2+5! 3 4 1+4 3 2", columns=12, time=((3, 4),) * 2, dynamics=(66, 50, 56)),
-    ), tempo=96, sound=sound("Glass Beads", decay=0.5, release=0.4))
+    ), tempo=96, sound=sound("Glass Beads", decay=0.5, release=0.4), retrigger=True)
 
 NIGHT_TRAIN = Pattern(
     "Night Train", "21 Nov 2026 11:40:04",
