@@ -19,7 +19,7 @@ juce::Rectangle<float> pageOf (juce::XmlElement& svg)
 
     const auto lengthOf = [&] (const char* attribute, int indexInViewBox) {
         if (svg.getDoubleAttribute (attribute) <= 0.0)
-            svg.setAttribute (attribute, juce::jmax (1.0f, viewBox[indexInViewBox].getFloatValue()));
+            svg.setAttribute (attribute, juce::jmax (1.0, viewBox[indexInViewBox].getDoubleValue()));
 
         return static_cast<float> (svg.getDoubleAttribute (attribute));
     };

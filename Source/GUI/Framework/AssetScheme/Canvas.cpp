@@ -51,8 +51,8 @@ juce::Range<int> edgesOf (juce::Range<int> units, int editorPixels)
 /** Height over width of every editor. */
 double shape()
 {
-    const double width = Base::get().constantOf ("DefaultWidth");
-    const double height = Base::get().constantOf ("DefaultHeight");
+    const auto width = double (Base::get().constantOf ("DefaultWidth"));
+    const auto height = double (Base::get().constantOf ("DefaultHeight"));
     return height / std::max (1.0, width);
 }
 } // namespace

@@ -22,7 +22,7 @@ void UserColours::reset()
         file.deleteFile();
 
     watcher.check();
-    load();
+    Base::get().resetUserColours(); // even where the file cannot be removed
 }
 
 void UserColours::load()
