@@ -59,7 +59,7 @@ bool LearnMap::bind (const Binding& binding)
     const auto isBound = add (binding);
 
     if (isBound)
-        callListeners();
+        tableChanged();
 
     return isBound;
 }
@@ -71,19 +71,19 @@ void LearnMap::bindKeySwitches (int lowestNote)
     for (auto slot = 0; slot < Sequencer::numSlots; ++slot)
         add ({ Target::forSlot (slot), first + slot });
 
-    callListeners();
+    tableChanged();
 }
 
 void LearnMap::clear (const Target& target)
 {
     if (std::erase_if (handlers, [&] (const auto& h) { return h->getBinding().target == target; }) > 0)
-        callListeners();
+        tableChanged();
 }
 
 void LearnMap::clearAll()
 {
     if (! std::exchange (handlers, {}).empty())
-        callListeners();
+        tableChanged();
 }
 
 std::vector<Midi::Learn::Binding> LearnMap::getBindings() const
@@ -110,7 +110,7 @@ void LearnMap::reflect (Reflector& r)
     for (const auto& binding : bindings)
         add (binding);
 
-    callListeners();
+    tableChanged();
 }
 
 void LearnMap::update()
@@ -119,6 +119,12 @@ void LearnMap::update()
 
     for (auto& [identifier, param] : learnedParams)
         param.tellListeners();
+}
+
+void LearnMap::tableChanged()
+{
+    tableBroadcaster.callListeners();
+    callListeners();
 }
 
 bool LearnMap::exists (const Target& target) const
@@ -151,7 +157,7 @@ bool LearnMap::take (const juce::MidiMessage& message)
 
     learning.reset();
     add ({ target, *number });
-    callListeners();
+    tableChanged();
     return true;
 }
 

@@ -20,7 +20,8 @@ class State;
     that names two slots could only ever leave one of them playing. The pedal may move several parameters. While it
     moves any, it sustains nothing. A key that was down when it was learned still ends what it began.
 
-    Broadcasts every change of the table, and the beginning and end of learning. Thread: message.
+    Its own broadcaster tells the editor of every change of the table, and of the beginning and end of learning.
+    Thread: message.
 */
 class LearnMap : public Events::HasBroadcaster
 {
@@ -56,6 +57,9 @@ public:
     std::vector<Binding> getBindings() const;
     const Midi::Learn::Handlers& getHandlers() const noexcept { return handlers; }
 
+    /** Hands a new table to the audio thread and to the host's project. */
+    Events::Broadcaster& getTableBroadcaster() noexcept { return tableBroadcaster; }
+
     /** An array. Loading replaces the table by what can be bound of the first 128 entries. */
     void reflect (Reflector& r);
 
@@ -66,6 +70,7 @@ public:
     void stopUpdating() noexcept { timer.reset(); }
 
 private:
+    void tableChanged();
     bool exists (const Target& target) const;
     bool add (const Binding& binding);
     bool take (const juce::MidiMessage& message);
@@ -75,6 +80,7 @@ private:
     State& state;
     const HostParamList* parameters = nullptr;
     Midi::Learn::Handlers handlers;
+    Events::Broadcaster tableBroadcaster;
 
     /** By host identifier. They stay when nothing is bound to them any more: the audio thread may still be moving
         one, and the host has to hear of it.
