@@ -78,13 +78,11 @@ TEST_F (FactoryContent, StaysInItsFolderWhateverTheNames)
     folder.createDirectory();
     outside.createSymbolicLink (folder.getChildFile ("Link"), true);
 
-    const Zip zip {
-        { "../up.json", "" },        { "a/../../up.json", "" },
-        { "..\\up.json", "" },       { root.getChildFile ("absolute.json").getFullPathName(), "" },
-        { "~/home.json", "" },       { "C:/drive.json", "" },
-        { "a//b.json", "" },         { "", "" },
-        { "Link/through.json", "" }, { "good.json", "good" }
-    };
+    const Zip zip { { "../up.json", "" },   { "a/../../up.json", "" },
+                    { "..\\up.json", "" },  { root.getChildFile ("absolute.json").getFullPathName(), "" },
+                    { "~/home.json", "" },  { "C:/drive.json", "" },
+                    { "a//b.json", "" },    { "Link/through.json", "" },
+                    { "good.json", "good" } };
     installFactoryContent (zip.get(), folder);
 
     EXPECT_THAT (filesBelow (root),
@@ -143,7 +141,7 @@ TEST_F (FactoryContent, SurvivesAnArchiveCutOrDamagedAnywhere)
         installFactoryContent (whole.first (i), folder);
 
         std::vector<std::byte> damaged (whole.begin(), whole.end());
-        damaged[i] = ~damaged[i];
+        damaged[i] ^= std::byte { 0x55 };
         FactoryArchive archive (damaged);
 
         for (auto entry = 0; entry < archive.size(); ++entry)
