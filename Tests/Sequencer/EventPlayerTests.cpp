@@ -173,7 +173,8 @@ Notes crowd (juce::Random& random)
         auto step = note (124 + random.nextInt (4), 0.25 * random.nextInt (16), 0.25 * random.nextInt (12));
         step.time.start += random.nextBool() ? 0.07 : 0.0;
         step.event.channel = random.nextInt (3);
-        step.event.chance = random.nextBool() ? 1.0f : random.nextFloat();
+        const float chances[] = { 0.0f, 1.0f, random.nextFloat() };
+        step.event.chance = chances[random.nextInt (3)];
         step.event.velocity = random.nextFloat();
         step.event.spreadLow = -0.5f * random.nextFloat();
         step.event.spreadHigh = random.nextBool() ? step.event.spreadLow : random.nextFloat();

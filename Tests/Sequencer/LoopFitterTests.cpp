@@ -15,21 +15,9 @@ namespace Zn::Sequencer::Modifiers
 {
 namespace
 {
-using Tests::asText;
-using Tests::load;
-using Tests::note;
-using Tests::parsed;
-using Tests::saved;
-using Tests::steps;
+using namespace Tests;
 
 constexpr auto numTrees = 300;
-
-RenderedEvents rendered (const Base& modifier)
-{
-    RenderedEvents events;
-    modifier.render (events);
-    return events;
-}
 
 std::unique_ptr<StepPulseSequencer> sequence (std::string_view drawing, double quarters, int row = 60)
 {

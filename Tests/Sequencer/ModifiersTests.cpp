@@ -11,15 +11,7 @@ namespace Zn::Sequencer::Modifiers
 {
 namespace
 {
-using Tests::asText;
-using Tests::note;
-
-RenderedEvents rendered (const Base& modifier)
-{
-    RenderedEvents events;
-    modifier.render (events);
-    return events;
-}
+using namespace Tests;
 
 /** Four quarter notes on rows 60 to 63, the last one overrunning the bar. */
 NoteList quarterNotes()
@@ -107,14 +99,9 @@ TEST (Clip, LeavesTheTargetAloneWhenInactive)
     clip.time = { 1.0, 1.0 };
     clip.active = false;
 
-    RenderedEvents target { .start = 0.0,
-                            .length = 7.0,
-                            .notes = { note (50, 5, 1) },
-                            .sequences = {},
-                            .marks = {} };
-    const auto before = asText (target);
+    auto target = rendered (quarterNotes());
     clip.render (target);
-    EXPECT_EQ (asText (target), before);
+    EXPECT_EQ (asText (target), asText (rendered (quarterNotes())));
 }
 
 TEST (NoteList, CutsItsNotesAtTheEndOfItsBars)

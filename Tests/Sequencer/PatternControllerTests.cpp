@@ -9,12 +9,7 @@ namespace Zn::Sequencer
 {
 namespace
 {
-using Tests::asText;
-using Tests::load;
-using Tests::note;
-using Tests::parsed;
-using Tests::saved;
-using Tests::steps;
+using namespace Tests;
 
 /** What a preset and the host's project keep of the patterns. */
 struct Document
@@ -46,17 +41,6 @@ struct PatternControllerTest : ::testing::Test
         load (document, parsed (text), context);
     }
 };
-
-TEST_F (PatternControllerTest, StartsWithEightEmptyBars)
-{
-    for (std::size_t i = 0; i < numSlots; ++i)
-    {
-        EXPECT_EQ (asText (slot (i).events), "0+4 notes:  sequences:  marks: ") << i;
-        EXPECT_EQ (slot (i).playLength, 4.0);
-        EXPECT_TRUE (slot (i).playing && slot (i).looping);
-        EXPECT_EQ (controller.getSlots()[i].pattern.grid, 16);
-    }
-}
 
 TEST_F (PatternControllerTest, PublishesANewRenderingAndLeavesTheOldOneAlone)
 {

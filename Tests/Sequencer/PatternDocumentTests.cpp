@@ -15,19 +15,7 @@ namespace Zn::Sequencer::Modifiers
 namespace
 {
 using nlohmann::json;
-using Tests::asText;
-using Tests::load;
-using Tests::note;
-using Tests::parsed;
-using Tests::saved;
-using Tests::steps;
-
-RenderedEvents rendered (const Base& modifier)
-{
-    RenderedEvents events;
-    modifier.render (events);
-    return events;
-}
+using namespace Tests;
 
 /** Saves, loads into another object, saves again. */
 template <typename Model>

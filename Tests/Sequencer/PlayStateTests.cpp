@@ -16,21 +16,6 @@ std::vector<Cell> cellsOf (const CellSet& set)
 }
 } // namespace
 
-TEST (PlayState, EndsInTheSecondSweepWhatIsNotClaimedAgain)
-{
-    PlayState state;
-    state.claim ({ 3, 64 });
-    state.claim ({ 0, 127 });
-
-    EXPECT_THAT (cellsOf (state.sweep()), testing::IsEmpty());
-    EXPECT_EQ (state.get ({ 3, 64 }), PlayState::State::unclaimed);
-
-    state.claim ({ 3, 64 });
-    EXPECT_THAT (cellsOf (state.sweep()), testing::ElementsAre (Cell { 0, 127 }));
-    EXPECT_THAT (cellsOf (state.sweep()), testing::ElementsAre (Cell { 3, 64 }));
-    EXPECT_TRUE (state.isSilent());
-}
-
 TEST (PlayState, NamesCellsChannelByChannelRowsUpwards)
 {
     PlayState state;

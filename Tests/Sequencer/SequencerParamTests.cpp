@@ -11,7 +11,7 @@ namespace Zn::Sequencer
 namespace
 {
 using Texts = std::vector<std::string>;
-} // namespace
+}
 
 TEST (SwingParam, ReadsBackEveryPercentAndLimitsTheRest)
 {
@@ -25,11 +25,13 @@ TEST (SwingParam, ReadsBackEveryPercentAndLimitsTheRest)
         EXPECT_EQ (knob->getCurrentText(), juce::String (percent) + "%");
     }
 
-    for (const auto& [text, percent] : std::vector<std::pair<const char*, int>> { { "1000%", 200 },
-                                                                                  { "-1e30", -200 },
-                                                                                  { "inf", 0 },
-                                                                                  { "nan%", 0 },
-                                                                                  { "-12.7 %", -13 } })
+    const std::vector<std::pair<const char*, int>> rows { { "1000%", 200 },
+                                                          { "-1e30", -200 },
+                                                          { "inf", 0 },
+                                                          { "nan%", 0 },
+                                                          { "-12.7 %", -13 } };
+
+    for (const auto& [text, percent] : rows)
     {
         knob->setFromText (text);
         EXPECT_EQ (swing->get(), percent) << text;
@@ -41,19 +43,14 @@ TEST (BPMParameter, KeepsFourDecimalsOfAText)
     std::atomic<float> bpm { 100.0f };
     BPMParameter tempo { bpm };
 
-    for (const auto& [text, expected, shown] :
-         std::vector<std::tuple<const char*, double, const char*>> { { "120", 120.0, "120" },
-                                                                     { "120.5", 120.5, "120" },
-                                                                     { "99.99994", 99.9999, "100" },
-                                                                     { "99.99996", 100.0, "100" },
-                                                                     { "1.00006", 1.0001, "1" },
-                                                                     { "998.9999", 998.9999, "999" },
-                                                                     { "999", 999.0, "999" },
-                                                                     { "0", 1.0, "1" },
-                                                                     { "2000", 999.0, "999" },
-                                                                     { "nan", 1.0, "1" },
-                                                                     { "1e400", 1.0, "1" },
-                                                                     { "", 1.0, "1" } })
+    const std::vector<std::tuple<const char*, double, const char*>> rows {
+        { "120", 120.0, "120" },      { "120.5", 120.5, "120" },  { "99.99994", 99.9999, "100" },
+        { "99.99996", 100.0, "100" }, { "1.00006", 1.0001, "1" }, { "998.9999", 998.9999, "999" },
+        { "999", 999.0, "999" },      { "0", 1.0, "1" },          { "2000", 999.0, "999" },
+        { "nan", 1.0, "1" },          { "1e400", 1.0, "1" },      { "", 1.0, "1" }
+    };
+
+    for (const auto& [text, expected, shown] : rows)
     {
         tempo.setFromText (text);
         EXPECT_EQ (bpm.load(), static_cast<float> (expected)) << text;
@@ -73,10 +70,12 @@ TEST (BPMParameter, HasUsualTemposInTheMiddleOfItsDial)
     std::atomic<float> bpm { 100.0f };
     BPMParameter tempo { bpm };
 
-    for (const auto& [value, normalised] : std::vector<std::pair<double, float>> { { 60.0, 0.3567239f },
-                                                                                   { 100.0, 0.4307828f },
-                                                                                   { 120.0, 0.4606633f },
-                                                                                   { 140.0, 0.4874987f } })
+    const std::pair<double, float> rows[] { { 60.0, 0.3567239f },
+                                            { 100.0, 0.4307828f },
+                                            { 120.0, 0.4606633f },
+                                            { 140.0, 0.4874987f } };
+
+    for (const auto& [value, normalised] : rows)
     {
         tempo.setDouble (value);
         EXPECT_NEAR (tempo.getNormalised(), normalised, 1e-6f) << value;

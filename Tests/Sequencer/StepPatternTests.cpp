@@ -8,16 +8,7 @@ namespace Zn::Sequencer::Modifiers
 {
 namespace
 {
-using Tests::asText;
-using Tests::note;
-using Tests::steps;
-
-RenderedEvents rendered (const Base& modifier)
-{
-    RenderedEvents events;
-    modifier.render (events);
-    return events;
-}
+using namespace Tests;
 
 StepPulseSequencer drawn (std::string_view drawing, double quarters, int row = 60)
 {

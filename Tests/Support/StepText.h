@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Sequencer/RenderedEvents.h"
+#include "Sequencer/Modifiers/Base.h"
 
 #include <sstream>
 #include <string>
@@ -68,5 +68,12 @@ inline std::string asText (const Sequencer::RenderedEvents& events)
     text << events.start << "+" << events.length << " notes: " << asText (events.notes)
          << " sequences: " << asText (events.sequences) << " marks: " << asText (events.marks);
     return text.str();
+}
+/** What a part of a pattern plays by itself. */
+inline Sequencer::RenderedEvents rendered (const Sequencer::Modifiers::Base& modifier)
+{
+    Sequencer::RenderedEvents events;
+    modifier.render (events);
+    return events;
 }
 } // namespace Zn::Tests
