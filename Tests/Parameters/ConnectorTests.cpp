@@ -7,7 +7,7 @@
 #include "Parameters/HostParamList.h"
 #include "Parameters/IntLike.h"
 #include "Parameters/ParamKinds.h"
-#include "Parameters/TestProcessor.h"
+#include "Parameters/ParameterLogs.h"
 #include "Parameters/UpdatingConnector.h"
 #include "Support/Documents.h"
 
@@ -23,7 +23,8 @@ namespace Zn::Parameters
 {
 namespace
 {
-using Lines = std::vector<std::string>;
+using Tests::Lines;
+using Tests::linesOf;
 using Shared = std::shared_ptr<Parameter>;
 
 /** One value of every kind that a widget can be bound to. */
@@ -51,16 +52,6 @@ struct Model : Audio::ParamList
         return result;
     }
 };
-
-Lines linesOf (const MenuItems::Item& menu)
-{
-    Lines lines;
-
-    for (const auto& item : menu.subItems)
-        lines.push_back (((item.isTicked() ? "*" : "") + item.text).toStdString());
-
-    return lines;
-}
 
 /** All that a parameter answers, to compare. */
 Lines answersOf (Parameter& p)
@@ -357,7 +348,7 @@ TEST (ConnectorLifetimes, SurviveAChangeThatRebuildsTheEditor)
 
 TEST (ConnectorLifetimes, EndAnOpenGestureWithTheForwarder)
 {
-    Tests::TestProcessor processor;
+    Zn::Test::PlainProcessor processor;
     Audio::ManagedParameters managed;
     Model model;
     Audio::HostParamList host { managed };

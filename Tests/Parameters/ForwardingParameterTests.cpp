@@ -1,7 +1,7 @@
 #include "Parameters/CreateForwarder.h"
 #include "Parameters/HostParamList.h"
 #include "Parameters/ParamKinds.h"
-#include "Parameters/TestProcessor.h"
+#include "Parameters/ParameterLogs.h"
 
 #include <gtest/gtest.h>
 
@@ -11,9 +11,9 @@ namespace Zn::Audio
 {
 namespace
 {
+using Test::PlainProcessor;
 using Tests::HostLog;
-using Tests::TestProcessor;
-using Lines = std::vector<std::string>;
+using Tests::Lines;
 
 struct Tree : ParamList
 {
@@ -41,7 +41,7 @@ struct Plugin
         return dynamic_cast<juce::HostedAudioProcessorParameter&> (*processor.getParameters()[index]);
     }
 
-    TestProcessor processor;
+    PlainProcessor processor;
     ManagedParameters managed;
     Tree tree;
     HostParamList host { managed };
@@ -75,7 +75,7 @@ TEST (HostParamList, ListsOnlyWhatIsForwardedInItsOwnOrder)
 
 TEST (ForwardingParameter, OutlivesTheTreeAndTheManagedList)
 {
-    TestProcessor processor;
+    PlainProcessor processor;
 
     {
         ManagedParameters managed;
@@ -123,10 +123,9 @@ TEST (ForwardingParameter, StoresSwitchesAndStepsAsEverySideReadsThem)
 {
     Plugin plugin;
 
-    for (const auto& [value, isOn] : std::vector<std::pair<float, bool>> { { 0.0f, false },
-                                                                           { 0.5f, false },
-                                                                           { 0.51f, true },
-                                                                           { 1.0f, true } })
+    const std::pair<float, bool> rows[] { { 0.0f, false }, { 0.5f, false }, { 0.51f, true }, { 1.0f, true } };
+
+    for (const auto& [value, isOn] : rows)
     {
         plugin.at (enable).setValue (value);
         EXPECT_EQ (plugin.tree.enable.get(), isOn) << value;
@@ -206,7 +205,7 @@ TEST (Gesture, OnAParameterThatNoHostKnowsIsOnlyAFlag)
 
 TEST (Gesture, OnATargetThatTheHostListsItselfIsPassedOn)
 {
-    TestProcessor processor;
+    PlainProcessor processor;
     ManagedParameters managed;
     Tree tree;
     processor.addParameter (tree.cutoff.handOver().release());

@@ -3,8 +3,7 @@
 #include "Parameters/CreateForwarder.h"
 #include "Parameters/IntLike.h"
 #include "Parameters/ParamKinds.h"
-#include "Presets/Reflection/Loader.h"
-#include "Presets/Reflection/Saver.h"
+#include "Support/Documents.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +12,7 @@ namespace Zn::Audio
 namespace
 {
 using nlohmann::json;
+using Tests::load;
 
 constexpr auto presetFile = ReflectorContext::forPresetFile();
 constexpr auto hostChunk = ReflectorContext::forHostChunk();
@@ -39,13 +39,6 @@ struct Tree : ParamList
     VolumeParam master { *this, "Master", 3.0f, 0.0f };
     Filter filter;
 };
-
-template <typename Object>
-void load (Object& object, json document, ReflectorContext context)
-{
-    Json::Loader loader (document, context);
-    object.reflect (loader);
-}
 } // namespace
 
 TEST (ParamList, SavesTextsInGroupsAndLeavesOutWhatAFlagExcludes)

@@ -4,6 +4,7 @@
 #include "Parameters/CreateForwarder.h"
 #include "Parameters/IntLike.h"
 #include "Parameters/ParamKinds.h"
+#include "Parameters/ParameterLogs.h"
 
 #include <gmock/gmock.h>
 
@@ -11,7 +12,8 @@ namespace Zn::Parameters
 {
 namespace
 {
-using Lines = std::vector<std::string>;
+using Tests::Lines;
+using Tests::linesOf;
 
 struct Tree : Audio::ParamList
 {
@@ -20,16 +22,6 @@ struct Tree : Audio::ParamList
     Audio::IntParam octave { *this, "Octave", { -3, 3 }, 0 };
     Audio::ChoiceParam quantize { *this, "Quantize", { "4/4", "2/4", "1/4", "1/8", "1/16", "1/32" }, 2 };
 };
-
-Lines linesOf (const MenuItems::Item& menu)
-{
-    Lines lines;
-
-    for (const auto& item : menu.subItems)
-        lines.push_back (((item.isTicked() ? "*" : "") + item.text).toStdString());
-
-    return lines;
-}
 
 Lines stepsOf (const Parameter& parameter)
 {
@@ -50,6 +42,7 @@ TEST (Forwarder, NamesEveryStepOfItsTarget)
 
     EXPECT_EQ (stepsOf (*createForwarder (tree.quantize)),
                (Lines { "4/4", "2/4", "1/4", "1/8", "1/16", "1/32" }));
+    EXPECT_EQ (AudioChoiceForwarder { *tree.quantize }.getChoiceText (6), "");
     EXPECT_EQ (stepsOf (*createForwarder (tree.octave)), (Lines { "-3", "-2", "-1", "0", "1", "2", "3" }));
     EXPECT_EQ (stepsOf (*createForwarder (tree.enable)), (Lines { "Off", "On" }));
 
@@ -79,11 +72,12 @@ TEST (Forwarder, SetsWholeNumbersAsEachKindUnderstandsThem)
 {
     Tree tree;
 
-    for (const auto& [asked, octave, choice, isOn] :
-         std::vector<std::tuple<int, int, int, bool>> { { 2, 2, 2, true },
-                                                        { -9, -3, 0, false },
-                                                        { 99, 3, 5, true },
-                                                        { 0, 0, 0, false } })
+    const std::tuple<int, int, int, bool> rows[] { { 2, 2, 2, true },
+                                                   { -9, -3, 0, false },
+                                                   { 99, 3, 5, true },
+                                                   { 0, 0, 0, false } };
+
+    for (const auto& [asked, octave, choice, isOn] : rows)
     {
         for (auto& [name, holder] : tree.getParams())
             createForwarder (*holder)->setInt (asked);
@@ -109,15 +103,6 @@ TEST (Forwarder, LimitsWhatItIsGivenAndDropsWhatIsNoNumber)
     EXPECT_FLOAT_EQ (dial->getFloat(), 1.4f);
     EXPECT_EQ (dial->getInt(), 1);
     EXPECT_TRUE (dial->isHostVisible());
-}
-
-TEST (Forwarder, HasNoTextForAChoiceThatDoesNotExist)
-{
-    Tree tree;
-    const AudioChoiceForwarder quantize { *tree.quantize };
-
-    EXPECT_EQ (quantize.getChoiceText (-1), "");
-    EXPECT_EQ (quantize.getChoiceText (6), "");
 }
 
 TEST (Switch, IsOffInTheMiddle)
@@ -160,12 +145,10 @@ TEST (IntRef, ShowsEveryStepAndKeepsWhatItWasBoundTo)
         EXPECT_EQ (value, step + 1);
     }
 
-    for (const auto& [text, expected] : std::vector<std::pair<const char*, int>> { { "7", 7 },
-                                                                                   { "1e400", 1 },
-                                                                                   { "nan", 1 },
-                                                                                   { "", 1 },
-                                                                                   { "99", 32 },
-                                                                                   { "6.6", 7 } })
+    const std::pair<const char*, int> rows[] { { "7", 7 }, { "1e400", 1 }, { "nan", 1 },
+                                               { "", 1 },  { "99", 32 },   { "6.6", 7 } };
+
+    for (const auto& [text, expected] : rows)
     {
         number.setFromText (text);
         EXPECT_EQ (value, expected) << text;

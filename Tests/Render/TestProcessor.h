@@ -1,6 +1,6 @@
 #pragma once
 
-#include <juce_audio_processors/juce_audio_processors.h>
+#include "Support/PlainProcessor.h"
 
 #include <string>
 #include <vector>
@@ -9,10 +9,10 @@ namespace Zn::Test
 {
 /** Lets the MIDI through, plays a tone level of the number of keys held, and writes down what the host did.
 */
-class TestProcessor final : public juce::AudioProcessor
+class TestProcessor final : public PlainProcessor
 {
 public:
-    TestProcessor() : AudioProcessor (BusesProperties().withOutput ("Out", juce::AudioChannelSet::stereo()))
+    TestProcessor() : PlainProcessor (BusesProperties().withOutput ("Out", juce::AudioChannelSet::stereo()))
     {
         addParameter (
             new juce::AudioParameterFloat ({ "Gain", 1 }, "Gain", { -60.0f, 6.0f }, 0.0f, levelTexts()));
@@ -54,20 +54,6 @@ public:
                 audio.setSample (channel, i, levelPerKey * static_cast<float> (heldKeys));
         }
     }
-
-    const juce::String getName() const override { return "Test"; }
-    bool acceptsMidi() const override { return true; }
-    bool producesMidi() const override { return true; }
-    double getTailLengthSeconds() const override { return 0.0; }
-    juce::AudioProcessorEditor* createEditor() override { return nullptr; }
-    bool hasEditor() const override { return false; }
-    int getNumPrograms() override { return 1; }
-    int getCurrentProgram() override { return 0; }
-    void setCurrentProgram (int) override {}
-    const juce::String getProgramName (int) override { return {}; }
-    void changeProgramName (int, const juce::String&) override {}
-    void getStateInformation (juce::MemoryBlock&) override {}
-    void setStateInformation (const void*, int) override {}
 
 private:
     static juce::AudioParameterFloatAttributes levelTexts()

@@ -63,28 +63,15 @@ void expectEqual (const juce::AudioBuffer<float>& a, const juce::AudioBuffer<flo
 
 TEST (AnalogDelay, AnswersAnImpulse)
 {
-    struct Row
-    {
-        Setting setting;
-        std::vector<float> left;
+    const std::pair<Setting, std::vector<float>> rows[] {
+        { { 3.0, 0.4f, 0.5f },
+          { 0.0f, 0.0f, 0.0f, .0040155f, .0155055f, .0293541f, .0410343f, .0522369f, .0644781f, .0758933f } },
+        { { 3.0, 0.4f, 0.0f },
+          { 0.0f, 0.0f, 0.0f, .7464102f, .4585641f, -.3368409f, .1916021f, .4580283f, .4301175f } },
+        { { 2.5, 0.0f, 0.0f }, { 0.0f, 0.0f, .3732051f, .6024871f, .0608616f } }
     };
 
-    for (const auto& [setting, left] : std::vector<Row> {
-             { { 3.0, 0.4f, 0.5f },
-               { 0.0f,
-                 0.0f,
-                 0.0f,
-                 .0040155f,
-                 .0155055f,
-                 .0293541f,
-                 .0410343f,
-                 .0522369f,
-                 .0644781f,
-                 .0758933f } },
-             { { 3.0, 0.4f, 0.0f },
-               { 0.0f, 0.0f, 0.0f, .7464102f, .4585641f, -.3368409f, .1916021f, .4580283f, .4301175f } },
-             { { 2.5, 0.0f, 0.0f }, { 0.0f, 0.0f, .3732051f, .6024871f, .0608616f } },
-         })
+    for (const auto& [setting, left] : rows)
     {
         Delay delay;
         delay.prepare (sampleRate);
@@ -328,13 +315,11 @@ TEST (AnalogDelay, IsSafeForTheAudioThread)
 
 TEST (DelayFilter, SetsItsToneByTheAnalogKnob)
 {
-    for (const auto& [analog, cutoff] : std::vector<std::pair<float, float>> { { 0.0f, 20000.0f },
-                                                                               { 0.25f, 5605.4035f },
-                                                                               { 0.5f, 1000.0f },
-                                                                               { 0.75f, 140.70347f },
-                                                                               { 1.0f, 100.0f },
-                                                                               { -3.0f, 20000.0f },
-                                                                               { 3.0f, 100.0f } })
+    const std::pair<float, float> rows[] { { 0.0f, 20000.0f },    { 0.25f, 5605.4035f }, { 0.5f, 1000.0f },
+                                           { 0.75f, 140.70347f }, { 1.0f, 100.0f },      { -3.0f, 20000.0f },
+                                           { 3.0f, 100.0f } };
+
+    for (const auto& [analog, cutoff] : rows)
         EXPECT_NEAR (toneCutoffHz (analog), cutoff, cutoff * 1e-5f) << analog;
 
     DelayFilter filter;

@@ -76,16 +76,14 @@ TEST (SampleList, HoldsTheProgramsTablesInTheOrderThatHostsStore)
     EXPECT_EQ (list.getNames()[0], "Basics - ARP");
     EXPECT_EQ (list.getNames()[1], "Basics - Detuned ARP");
 
-    for (const auto& [index, name] : std::vector<std::pair<int, const char*>> { { 0, "ARP" },
-                                                                                { 12, "Fair Square" },
-                                                                                { 14, "Buzz" },
-                                                                                { 20, "Octaves" },
-                                                                                { 30, "Hammond 5" },
-                                                                                { 42, "Hammond 17" },
-                                                                                { 43, "Nasal" },
-                                                                                { 53, "Church" },
-                                                                                { 61, "Thin and Clean" },
-                                                                                { 69, "Malfunction" } })
+    const std::pair<int, const char*> rows[] {
+        { 0, "ARP" },         { 12, "Fair Square" }, { 14, "Buzz" },
+        { 20, "Octaves" },    { 30, "Hammond 5" },   { 42, "Hammond 17" },
+        { 43, "Nasal" },      { 53, "Church" },      { 61, "Thin and Clean" },
+        { 69, "Malfunction" }
+    };
+
+    for (const auto& [index, name] : rows)
         EXPECT_EQ (names[index], name);
 
     auto bytes = 0;

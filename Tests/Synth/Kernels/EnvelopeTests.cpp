@@ -36,24 +36,9 @@ TEST (Envelope, RunsThroughItsStagesInStraightLines)
 {
     Player player;
     player.press();
-    EXPECT_THAT (player.levels (16),
-                 Pointwise (FloatNear (tolerance),
-                            { 0.2f,
-                              0.4f,
-                              0.6f,
-                              0.8f,
-                              1.0f,
-                              0.95f,
-                              0.9f,
-                              0.85f,
-                              0.8f,
-                              0.75f,
-                              0.7f,
-                              0.65f,
-                              0.6f,
-                              0.55f,
-                              0.5f,
-                              0.5f }));
+    const std::vector<float> up { 0.2f, 0.4f,  0.6f, 0.8f,  1.0f, 0.95f, 0.9f, 0.85f,
+                                  0.8f, 0.75f, 0.7f, 0.65f, 0.6f, 0.55f, 0.5f, 0.5f };
+    EXPECT_THAT (player.levels (16), Pointwise (FloatNear (tolerance), up));
 
     player.lift();
     EXPECT_THAT (player.levels (12),

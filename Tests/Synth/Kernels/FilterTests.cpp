@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -103,27 +104,30 @@ struct Choir
                 }
     }
 
+    /** Sounds and memories of all voices, one after the other. */
+    std::vector<float> numbers() const
+    {
+        std::vector<float> result;
+        const auto add = [&result] (const Stereo& pair) {
+            result.insert (result.end(), { pair.left, pair.right });
+        };
+
+        for (const auto& sound : sounds)
+            std::for_each (sound.begin(), sound.end(), add);
+
+        for (const auto& state : states)
+            for (const auto& stage : state.stages)
+                add (stage.s1), add (stage.s2);
+
+        return result;
+    }
+
     void expectNear (const Choir& other, float tolerance) const
     {
-        for (size_t voice = 0; voice < sounds.size(); ++voice)
-        {
-            for (size_t i = 0; i < sounds[voice].size(); ++i)
-            {
-                ASSERT_NEAR (sounds[voice][i].left, other.sounds[voice][i].left, tolerance)
-                    << voice << " at " << i;
-                ASSERT_NEAR (sounds[voice][i].right, other.sounds[voice][i].right, tolerance)
-                    << voice << " at " << i;
-            }
+        const auto mine = numbers(), theirs = other.numbers();
 
-            for (size_t stage = 0; stage < 2; ++stage)
-            {
-                const auto &a = states[voice].stages[stage], &b = other.states[voice].stages[stage];
-                ASSERT_NEAR (a.s1.left, b.s1.left, tolerance) << "memory of voice " << voice;
-                ASSERT_NEAR (a.s1.right, b.s1.right, tolerance) << "memory of voice " << voice;
-                ASSERT_NEAR (a.s2.left, b.s2.left, tolerance) << "memory of voice " << voice;
-                ASSERT_NEAR (a.s2.right, b.s2.right, tolerance) << "memory of voice " << voice;
-            }
-        }
+        for (size_t i = 0; i < mine.size(); ++i)
+            ASSERT_NEAR (mine[i], theirs[i], tolerance) << "number " << i;
     }
 
     std::vector<std::vector<Stereo>> sounds;

@@ -37,17 +37,12 @@ TEST (TableRead, PassesThroughTheSamplesInACurve)
 {
     const KernelTable table ({ { 0.0f, 1.0f, 0.0f, -1.0f, 0.5f } });
 
-    for (auto [phase, expected] : { std::pair { 0.0, 0.0f },
-                                    { 0.125, 0.5625f },
-                                    { 0.25, 1.0f },
-                                    { 0.375, 0.625f },
-                                    { 0.5, 0.0f },
-                                    { 0.625, -0.65625f },
-                                    { 0.8, -0.836f },
-                                    { 0.95, 0.256f },
-                                    { 1.0, 0.5f },
-                                    { 1.4, 0.5f },
-                                    { 1.6, 0.0f } })
+    const std::pair<double, float> rows[] { { 0.0, 0.0f },     { 0.125, 0.5625f }, { 0.25, 1.0f },
+                                            { 0.375, 0.625f }, { 0.5, 0.0f },      { 0.625, -0.65625f },
+                                            { 0.8, -0.836f },  { 0.95, 0.256f },   { 1.0, 0.5f },
+                                            { 1.4, 0.5f },     { 1.6, 0.0f } };
+
+    for (const auto& [phase, expected] : rows)
     {
         EXPECT_NEAR (readTable (table.view(), 0, phase), expected, 1.0e-5f) << "phase " << phase;
         EXPECT_NEAR (readTable (table.view(), 1, phase), expected, 1.0e-5f)
