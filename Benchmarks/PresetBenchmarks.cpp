@@ -12,24 +12,23 @@ namespace Zn::Presets
 {
 namespace
 {
-/** Eight patterns of fifteen steps, as large as patterns in files are. */
-struct Patterns
+/** A preset of eight patterns of fifteen steps, as large as patterns in files are. */
+std::string presetText (int number)
 {
-    nlohmann::json document = [] {
-        const auto step =
-            nlohmann::json { { "Event",
-                               { { "channel", 1 }, { "noteNum", 64 }, { "velocity", 0.800000011920929 } } },
-                             { "Time", { { "start", 0.0625 }, { "length", 0.0625 } } },
-                             { "enabled", true } };
+    const auto step =
+        nlohmann::json::parse (R"({ "Event": { "channel": 1, "noteNum": 64, "velocity": 0.800000011920929 },
+        "Time": { "start": 0.0625, "length": 0.0625 }, "enabled": true })");
+    auto pattern = nlohmann::json::parse (R"({ "Multiply": false, "Pattern": { "grid": 16 },
+        "Time": { "Bars": [{ "num": 4, "denum": 4 }] } })");
+    pattern["Pattern"]["Steps"] = nlohmann::json (15, step);
 
-        const auto time = nlohmann::json { { "Bars", { { { "num", 4 }, { "denum", 4 } } } } };
-        const auto steps = nlohmann::json (15, step);
-        const auto pattern = nlohmann::json { { "Multiply", false },
-                                              { "Time", time },
-                                              { "Pattern", { { "Steps", steps }, { "grid", 16 } } } };
-        return nlohmann::json { { "Patterns", nlohmann::json (8, pattern) } };
-    }();
-};
+    auto preset =
+        nlohmann::json::parse (R"({ "version": "0.8.0", "product": "Vornel", "name": "Init", "dirty": false,
+        "Params": null })");
+    preset["id"] = std::to_string (number);
+    preset["Patterns"]["Patterns"] = nlohmann::json (8, pattern);
+    return preset.dump (4);
+}
 
 /** A library of such files in a folder of its own. It reflects their header only: what the contents cost is the
     model's business.
@@ -56,24 +55,12 @@ public:
     PresetFolder (const PresetFolder&) = delete;
     PresetFolder& operator= (const PresetFolder&) = delete;
 
-    static std::string text (int number)
-    {
-        nlohmann::json document { { "version", "0.8.0" },
-                                  { "product", "Vornel" },
-                                  { "name", "Init" },
-                                  { "id", std::to_string (number) },
-                                  { "dirty", false },
-                                  { "Params", nullptr },
-                                  { "Patterns", Patterns().document } };
-        return document.dump (4);
-    }
-
     juce::File fill (int numFiles) const
     {
         for (auto i = 0; i < numFiles; ++i)
         {
             std::ofstream stream (file (i).getFullPathName().toStdString());
-            stream << text (i);
+            stream << presetText (i);
         }
 
         return folder;
@@ -100,7 +87,7 @@ void listAndValidate (benchmark::State& state)
     }
 
     state.SetBytesProcessed (state.iterations() * numFiles
-                             * static_cast<std::int64_t> (presets.text (0).size()));
+                             * static_cast<std::int64_t> (presetText (0).size()));
 }
 
 void loadFile (benchmark::State& state)
@@ -131,7 +118,7 @@ void installFactory (benchmark::State& state)
 
     for (auto i = 0; i < numFiles; ++i)
     {
-        const auto text = PresetFolder::text (i);
+        const auto text = presetText (i);
         builder.addEntry (new juce::MemoryInputStream (text.data(), text.size(), true),
                           9,
                           juce::String (i) + ".json",

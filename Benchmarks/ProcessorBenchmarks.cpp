@@ -1,4 +1,5 @@
 #include "Plugin/Vornel/Processor.h"
+#include "Support/TestPlayHead.h"
 
 #include <benchmark/benchmark.h>
 
@@ -32,25 +33,10 @@ public:
     {
         processor.processBlock (audio, midi);
         midi.clear();
-        playHead.samples += audio.getNumSamples();
+        playHead.advance (audio.getNumSamples());
     }
 
 private:
-    struct Song : juce::AudioPlayHead
-    {
-        juce::Optional<PositionInfo> getPosition() const override
-        {
-            PositionInfo position;
-            position.setIsPlaying (true);
-            position.setBpm (120.0);
-            position.setTimeInSamples (samples);
-            position.setPpqPosition (double (samples) * 2.0 / rate);
-            return position;
-        }
-
-        juce::int64 samples = 0;
-    };
-
     void draw()
     {
         auto& patterns = processor.getState().patterns;
@@ -71,7 +57,7 @@ private:
     }
 
     Processor processor;
-    Song playHead;
+    Test::TestPlayHead playHead { rate };
     juce::AudioBuffer<float> audio;
     juce::MidiBuffer midi;
 };

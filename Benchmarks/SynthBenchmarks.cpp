@@ -1,4 +1,5 @@
 #include "Plugin/Vornel/Processor.h"
+#include "Support/TestPlayHead.h"
 
 #include <benchmark/benchmark.h>
 
@@ -50,47 +51,14 @@ public:
     {
         processor.processBlock (audio, midi);
         midi.clear();
-        song.samples += blockSize;
+        song.advance (blockSize);
     }
 
 private:
-    struct Song : juce::AudioPlayHead
-    {
-        juce::Optional<PositionInfo> getPosition() const override
-        {
-            PositionInfo position;
-            position.setIsPlaying (true);
-            position.setBpm (120.0);
-            position.setTimeInSamples (samples);
-            position.setPpqPosition (double (samples) * 2.0 / rate);
-            return position;
-        }
-
-        juce::int64 samples = 0;
-    };
-
     Processor processor;
-    Song song;
+    Test::TestPlayHead song { rate };
     juce::AudioBuffer<float> audio { 2, blockSize };
     juce::MidiBuffer midi;
-};
-
-/** What each block took, in seconds, from the shortest to the longest. */
-class BlockTimes
-{
-public:
-    explicit BlockTimes (std::vector<double> seconds) : sorted (std::move (seconds))
-    {
-        std::ranges::sort (sorted);
-    }
-
-    double at (double proportion) const
-    {
-        return sorted[static_cast<size_t> (proportion * static_cast<double> (sorted.size() - 1))];
-    }
-
-private:
-    std::vector<double> sorted;
 };
 
 /** Of this thread, as other programs may want the processor at the same time. */
@@ -122,13 +90,15 @@ void synthBlock (benchmark::State& run)
         run.SetIterationTime (times.back());
     }
 
-    const BlockTimes blocks (std::move (times));
-    const auto percentOfDeadline = [] (double seconds) { return 100.0 * seconds / deadlineSeconds; };
-    run.counters["% median"] = percentOfDeadline (blocks.at (0.5));
-    run.counters["% p99"] = percentOfDeadline (blocks.at (0.99));
-    run.counters["% max"] = percentOfDeadline (blocks.at (1.0));
-    run.counters["p99/median"] = blocks.at (0.99) / blocks.at (0.5);
-    run.counters["ns a sample"] = 1.0e9 * blocks.at (0.5) / blockSize;
+    std::ranges::sort (times);
+    const auto at = [&times] (double proportion) {
+        return times[static_cast<size_t> (proportion * static_cast<double> (times.size() - 1))];
+    };
+    run.counters["% median"] = 100.0 * at (0.5) / deadlineSeconds;
+    run.counters["% p99"] = 100.0 * at (0.99) / deadlineSeconds;
+    run.counters["% max"] = 100.0 * at (1.0) / deadlineSeconds;
+    run.counters["p99/median"] = at (0.99) / at (0.5);
+    run.counters["ns a sample"] = 1.0e9 * at (0.5) / blockSize;
 }
 
 BENCHMARK (synthBlock)
