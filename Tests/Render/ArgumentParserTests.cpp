@@ -55,59 +55,45 @@ TEST (ArgumentParser, ReadsEveryOption)
 
 TEST (ArgumentParser, RefusesWhatMakesNoSense)
 {
-    const std::pair<const char*, const char*> rows[] {
-        { "", "which MIDI file" },
-        { "in.mid", "nothing to write" },
-        { "in.mid|other.mid", "one input" },
-        { "--preset|x", "no option '--preset'" },
-        { "-x", "no option '-x'" },
-        { "--out-wav", "--out-wav needs a value: FILE" },
-        { "--out-wav|--out-midi|x", "--out-wav needs a value" },
-        { "--out-wav||", "--out-wav needs the name" },
-        { "--help=yes", "takes no value" },
-        { "--wav-bits|20", "16, 24 or 32, not '20'" },
-        { "--set|Gain", "ID=TEXT" },
-        { "--set|=1", "ID=TEXT" },
-        { "--slot|8", "0 to 7" },
-        { "--slot|1x", "0 to 7" },
-        { "--seed|1.5", "whole number" },
-        { "--learn||", "note 0..127 = slot 1..8" },
-        { "--learn|note 128 = slot 1", "note 0..127 = slot 1..8" },
-        { "--learn|note 36 = slot 0", "note 0..127 = slot 1..8" },
-        { "--learn|note 36 = slot 2 3", "note 0..127 = slot 1..8" },
-        { "--learn|note 36 = Transpose", "note 0..127 = slot 1..8" },
-        { "--learn|cc 64 =", "or 'cc 64 = ID'" },
-        { "--learn|cc 1 = Transpose", "controller 64 only" },
-        { "--bpm|nan", "4 to 999" },
-        { "--bpm|1000", "4 to 999" },
-        { "--sample-rate|7999", "8000 to 384000" },
-        { "--sample-rate|inf", "8000 to 384000" },
-        { "--block|0", "1 to 65536" },
-        { "--block|random:1", "random:SEED:MAX" },
-        { "--block|random::5", "random:SEED:MAX" },
-        { "--block|random:1:0", "random:SEED:MAX" },
-        { "--tail|-1", "0 to 3600" },
-        { "--clock|internal", "host, stopped or none" },
-        { "--loop|4", "A:B" },
-        { "--loop|4:4", "A before B" },
-        { "--loop|-1:4", "from 0 on" },
-        { "--loop|:", "A:B" },
-        { "in.mid|--out-midi|./in.mid", "given twice" },
-        { "in.mid|--out-midi|x|--out-wav|x", "given twice" }
+    const std::pair<const char*, std::vector<const char*>> rows[] {
+        { "which MIDI file", { "" } },
+        { "nothing to write", { "in.mid" } },
+        { "one input", { "in.mid|other.mid" } },
+        { "no option '--preset'", { "--preset|x" } },
+        { "no option '-x'", { "-x" } },
+        { "--out-wav needs a value: FILE", { "--out-wav" } },
+        { "--out-wav needs a value", { "--out-wav|--out-midi|x" } },
+        { "--out-wav needs the name", { "--out-wav||" } },
+        { "takes no value", { "--help=yes" } },
+        { "16, 24 or 32, not '20'", { "--wav-bits|20" } },
+        { "ID=TEXT", { "--set|Gain", "--set|=1" } },
+        { "0 to 7", { "--slot|8", "--slot|1x" } },
+        { "whole number", { "--seed|1.5" } },
+        { "note 0..127 = slot 1..8",
+          { "--learn||",
+            "--learn|note 128 = slot 1",
+            "--learn|note 36 = slot 0",
+            "--learn|note 36 = slot 2 3",
+            "--learn|note 36 = Transpose" } },
+        { "or 'cc 64 = ID'", { "--learn|cc 64 =" } },
+        { "controller 64 only", { "--learn|cc 1 = Transpose" } },
+        { "4 to 999", { "--bpm|nan", "--bpm|1000" } },
+        { "8000 to 384000", { "--sample-rate|7999", "--sample-rate|inf" } },
+        { "1 to 65536", { "--block|0" } },
+        { "random:SEED:MAX", { "--block|random:1", "--block|random::5", "--block|random:1:0" } },
+        { "0 to 3600", { "--tail|-1" } },
+        { "host, stopped or none", { "--clock|internal" } },
+        { "A:B", { "--loop|4", "--loop|:" } },
+        { "A before B", { "--loop|4:4" } },
+        { "from 0 on", { "--loop|-1:4" } },
+        { "given twice", { "in.mid|--out-midi|./in.mid", "in.mid|--out-midi|x|--out-wav|x" } }
     };
 
-    for (const auto& [line, message] : rows)
-    {
-        try
-        {
-            parsed (line);
-            ADD_FAILURE() << "accepted: " << line;
-        }
-        catch (const ArgumentError& error)
-        {
-            EXPECT_THAT (error.what(), testing::HasSubstr (message)) << line;
-        }
-    }
+    for (const auto& [message, lines] : rows)
+        for (const auto* line : lines)
+            EXPECT_THAT ([line] { parsed (line); },
+                         testing::ThrowsMessage<ArgumentError> (testing::HasSubstr (message)))
+                << line;
 }
 
 TEST (ArgumentParser, HelpsWithoutAnInput)

@@ -31,14 +31,12 @@ TEST (HostParameters, RefuseTextsThatAreNoneOfTheirValues)
 {
     TestProcessor processor;
 
-    for (const auto& [identifier, text] : { std::pair ("Gain", "loud"),
-                                            std::pair ("Gain", ""),
-                                            std::pair ("Gain", "1/4"),
-                                            std::pair ("Shape", "Square"),
-                                            std::pair ("Shape", "3"),
-                                            std::pair ("On", "maybe"),
-                                            std::pair ("gain", "0"),
-                                            std::pair ("Gain ", "0") })
+    const std::pair<const char*, const char*> rows[] { { "Gain", "loud" }, { "Gain", "" },
+                                                       { "Gain", "1/4" },  { "Shape", "Square" },
+                                                       { "Shape", "3" },   { "On", "maybe" },
+                                                       { "gain", "0" },    { "Gain ", "0" } };
+
+    for (const auto& [identifier, text] : rows)
         EXPECT_THROW (setParameter (processor, identifier, text), ArgumentError) << identifier << "=" << text;
 }
 

@@ -123,48 +123,24 @@ TEST (Renderer, ReleasesKeysAndPedalsThatTheFileLeavesDown)
 
 TEST (Renderer, TellsThePositionOfEachBlock)
 {
-    const auto waltz = midiFile (0,
-                                 1,
-                                 { { 0,
-                                     0xff,
-                                     0x58,
-                                     4,
-                                     3,
-                                     2,
-                                     24,
-                                     8,
-                                     4,
-                                     0xff,
-                                     0x51,
-                                     3,
-                                     0x0f,
-                                     0x42,
-                                     0x40, // 60 bpm
-                                     4,
-                                     0xff,
-                                     0x2f,
-                                     0 } });
+    // 3/4 from the start, and 60 quarters a minute from the fourth on
+    const Bytes track { 0, 0xff, 0x58, 4, 3, 2, 24, 8, 4, 0xff, 0x51, 3, 0x0f, 0x42, 0x40, 4, 0xff, 0x2f, 0 };
+    const MidiFileSource waltz (midiFile (0, 1, { track }));
     TestProcessor playing, stopped, none;
     const auto blocks = BlockSizes::fixed (2000);
-    render (playing, MidiFileSource (waltz), rate, { .blockSizes = blocks }, Loop { 2.0, 6.0 });
-    render (stopped,
-            MidiFileSource (waltz),
-            rate,
-            { .blockSizes = blocks, .clock = HostClock::Mode::stopped });
-    render (none, MidiFileSource (waltz), rate, { .blockSizes = blocks, .clock = {} });
+    render (playing, waltz, rate, { .blockSizes = blocks }, Loop { 2.0, 6.0 });
+    render (stopped, waltz, rate, { .blockSizes = blocks, .clock = HostClock::Mode::stopped });
+    render (none, waltz, rate, { .blockSizes = blocks, .clock = {} });
 
-    struct Row
-    {
-        std::size_t block;
-        double quarters, barStart, bpm;
-        juce::int64 samples;
+    const std::tuple<std::size_t, double, double, double, juce::int64> rows[] {
+        { 0, 0.0, 0.0, 120.0, 0 },
+        { 7, 3.5, 3.0, 120.0, 14000 },
+        { 9, 4.25, 3.0, 60.0, 18000 },
+        { 16, 2.0, 0.0, 120.0, 8000 },
+        { 21, 4.25, 3.0, 60.0, 18000 }
     };
 
-    for (const auto& [block, quarters, barStart, bpm, samples] : { Row { 0, 0.0, 0.0, 120.0, 0 },
-                                                                   Row { 7, 3.5, 3.0, 120.0, 14000 },
-                                                                   Row { 9, 4.25, 3.0, 60.0, 18000 },
-                                                                   Row { 16, 2.0, 0.0, 120.0, 8000 },
-                                                                   Row { 21, 4.25, 3.0, 60.0, 18000 } })
+    for (const auto& [block, quarters, barStart, bpm, samples] : rows)
     {
         const auto& position = *playing.positions[block];
         EXPECT_TRUE (position.getIsPlaying());

@@ -45,37 +45,6 @@ TEST (PatternEngine, CatchesUpWithANoteThatLastsWhenPlayingBegins)
     EXPECT_EQ (text (held.play (1)), "on 60 v102 @0");
 }
 
-TEST (PatternEngine, KeepsARepeatedRowApartWhereverTheBlockIsCut)
-{
-    struct Row
-    {
-        const char* what;
-        Notes notes;
-        const char* secondBlock;
-    };
-
-    // Blocks of four samples: the first ends at 0.375, the second begins at 0.5.
-    const Row rows[] = {
-        { "start between the blocks", { note (60, 0.4375, 0.25) }, "on 60 v102 @0, off 60 @1" },
-        { "touching between the blocks",
-          { note (60, 0.0, 0.4375), note (60, 0.4375, 2.0) },
-          "off 60 @0, on 60 v102 @0" },
-        { "end between the blocks, next start in the second",
-          { note (60, 0.0, 0.4375), note (60, 0.75, 2.0) },
-          "off 60 @0, on 60 v102 @2" },
-        { "a start inside a longer note",
-          { note (60, 0.0, 3.0), note (60, 0.4375, 2.0) },
-          "off 60 @0, on 60 v102 @0" },
-    };
-
-    for (const auto& row : rows)
-    {
-        EngineRig rig { loop (4.0, row.notes) };
-        rig.play (4);
-        EXPECT_EQ (text (rig.play (4)), row.secondBlock) << row.what;
-    }
-}
-
 TEST (PatternEngine, DrawsChanceThenSpreadForEachStep)
 {
     auto chances = steps ("xxxxxxxx", 60);
