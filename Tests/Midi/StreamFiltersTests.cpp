@@ -11,10 +11,7 @@ using namespace Zn::Test;
 
 TEST (StreamFilters, KeepMessagesOfThreeBytesWithinTheBlock)
 {
-    const struct
-    {
-        const char *input, *expected;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] {
         { "on 60 @0, hex C0 05 @1, hex D0 40 @2, off 60 @3", "on 60 @0, off 60 @3" },
         { "hex F0 01 02 F7 @0, hex F0 01 F7 @1, hex F2 01 02 @2, hex F8 @3",
           "hex F0 01 F7 @1, hex F2 01 02 @2" },
@@ -23,11 +20,11 @@ TEST (StreamFilters, KeepMessagesOfThreeBytesWithinTheBlock)
         { "", "" },
     };
 
-    for (const auto& row : rows)
+    for (const auto& [input, expected] : rows)
     {
         juce::MidiBuffer kept;
-        appendThreeByteMessages (events (row.input), kept, 64);
-        EXPECT_EQ (text (kept), row.expected) << row.input;
+        appendThreeByteMessages (events (input), kept, 64);
+        EXPECT_EQ (text (kept), expected) << input;
     }
 }
 
@@ -53,10 +50,7 @@ TEST (StreamFilters, SplitLeavesNotesAndThePedal)
 
 TEST (StreamFilters, MergePutsOtherEventsBehindTheBuffersOwn)
 {
-    const struct
-    {
-        const char *buffer, *others, *expected;
-    } rows[] = {
+    const std::tuple<const char*, const char*, const char*> rows[] {
         { "on 60 @5, on 61 @5, off 60 @9",
           "cc 1 1 @0, cc 1 2 @5, cc 1 3 @9, cc 1 4 @20",
           "cc 1 1 @0, on 60 @5, on 61 @5, cc 1 2 @5, off 60 @9, cc 1 3 @9, cc 1 4 @20" },
@@ -65,11 +59,11 @@ TEST (StreamFilters, MergePutsOtherEventsBehindTheBuffersOwn)
         { "", "", "" },
     };
 
-    for (const auto& row : rows)
+    for (const auto& [own, others, expected] : rows)
     {
-        auto scratch = events ("on 1 @0"), buffer = events (row.buffer);
-        mergeEvents (scratch, buffer, events (row.others));
-        EXPECT_EQ (text (buffer), row.expected);
+        auto scratch = events ("on 1 @0"), buffer = events (own);
+        mergeEvents (scratch, buffer, events (others));
+        EXPECT_EQ (text (buffer), expected);
     }
 }
 

@@ -23,13 +23,7 @@ NoteList quarterNotes()
 
 TEST (ClipToSpan, KeepsOrDropsByTheStartAloneAndCutsAtTheEnd)
 {
-    struct Row
-    {
-        Ranges::Span span;
-        std::string kept;
-    };
-
-    const std::vector<Row> rows {
+    const std::pair<Ranges::Span, std::string> rows[] {
         { { 1, 2 }, "61 @1+1, 62 @2+1, 64 @2.5+0.5" },
         { { 0.5, 1.75 }, "61 @1+1, 62 @2+0.25" },
         { { 2.5, 9 }, "64 @2.5+4" },

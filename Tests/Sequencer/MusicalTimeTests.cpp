@@ -9,21 +9,13 @@ namespace Zn::Sequencer
 {
 namespace
 {
-using Tests::load;
-using Tests::parsed;
-using Tests::saved;
+using namespace Tests;
 
 TEST (Bars, AddUpToQuarterNotesAndStayFinite)
 {
     constexpr auto most = std::numeric_limits<int>::max();
 
-    struct Row
-    {
-        std::vector<Bar> bars;
-        double quarters;
-    };
-
-    const std::vector<Row> rows {
+    const std::pair<std::vector<Bar>, double> rows[] {
         { {}, 0.0 },
         { { { 4, 4 } }, 4.0 },
         { { { 6, 8 }, { 1, 16 } }, 3.25 },
@@ -32,8 +24,8 @@ TEST (Bars, AddUpToQuarterNotesAndStayFinite)
         { { { most, 1 }, { most, 1 } }, longestTime },
     };
 
-    for (const auto& row : rows)
-        EXPECT_EQ (Bars { row.bars }.length(), row.quarters) << row.bars.size() << " bars";
+    for (const auto& [bars, quarters] : rows)
+        EXPECT_EQ (Bars { bars }.length(), quarters) << bars.size() << " bars";
 }
 
 TEST (MusicalTime, TellsItsListenerOfRealChangesOnly)
@@ -90,14 +82,7 @@ struct Owner
 
 TEST (Duration, ReadsABareNumberOrAChild)
 {
-    struct Row
-    {
-        std::string document;
-        double duration;
-        int mode;
-    };
-
-    const std::vector<Row> rows {
+    const std::tuple<std::string, double, int> rows[] {
         { R"({"duration": 3})", 3.0, 1 },
         { R"({"duration": 0.0, "Duration": {"duration": 5.0, "mode": 0}})", 0.0, 1 },
         { R"({"duration": -1.0, "Duration": {"duration": 5.0, "mode": 0}})", 5.0, 0 },
@@ -109,14 +94,12 @@ TEST (Duration, ReadsABareNumberOrAChild)
         { R"({})", 1.0, 1 },
     };
 
-    for (const auto& row : rows)
+    for (const auto& [document, duration, mode] : rows)
     {
         Owner owner;
-        owner.duration.mode = 1;
-        load (owner, parsed (row.document));
-
-        EXPECT_EQ (owner.duration.duration, row.duration) << row.document;
-        EXPECT_EQ (owner.duration.mode, row.mode) << row.document;
+        load (owner, parsed (document));
+        EXPECT_EQ (owner.duration.duration, duration) << document;
+        EXPECT_EQ (owner.duration.mode, mode) << document;
     }
 }
 

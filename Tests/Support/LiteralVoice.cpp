@@ -101,7 +101,7 @@ void LiteralVoice::bend (int note, double bendSemitones)
 
 void LiteralVoice::render (const VoiceSettings& settings, juce::AudioBuffer<float>& block)
 {
-    renderVoiceBlock (settings, block);
+    renderVoice (settings, block);
     applyEnvelope (settings, block);
 }
 
@@ -147,7 +147,7 @@ LiteralVoice::Pitch LiteralVoice::pitch (const VoiceSettings::Oscillator& settin
              { 0.5f, 0.5f } };
 }
 
-void LiteralVoice::renderVoiceBlock (const VoiceSettings& settings, juce::AudioBuffer<float>& block)
+void LiteralVoice::renderVoice (const VoiceSettings& settings, juce::AudioBuffer<float>& block)
 {
     block.clear();
 
@@ -157,7 +157,7 @@ void LiteralVoice::renderVoiceBlock (const VoiceSettings& settings, juce::AudioB
 
     renderSub (settings, block);
 
-    if (settings.filterEnabled && ! settings.cutoffIsAtItsTop)
+    if (settings.filterEnabled)
         renderFilter (settings, block);
 
     block.applyGain (velocityGain);
@@ -246,7 +246,7 @@ void LiteralVoice::renderFilter (const VoiceSettings& settings, juce::AudioBuffe
                 s1 = band + g * high;
                 const auto low = s2 + g * band;
                 s2 = low + g * band;
-                sample = settings.filterType == 0 ? low : settings.filterType == 1 ? band : high;
+                sample = low;
             }
 }
 

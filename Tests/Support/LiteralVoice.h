@@ -30,9 +30,7 @@ struct VoiceSettings
     int subOctave = -2;
 
     bool filterEnabled = true;
-    bool cutoffIsAtItsTop = false; // the parameter's highest value, which switches the filter off
     float cutoff = 8000.0f, resonance = 1.0f, keyTracking = 1.0f;
-    int filterType = 0; // 0 low-pass, 1 band-pass, 2 high-pass
 
     float attack = 0.005f, decay = 1.0f, sustain = 1.0f, release = 0.01f;
 };
@@ -54,13 +52,6 @@ public:
     void render (const VoiceSettings&, juce::AudioBuffer<float>& block);
 
     bool isActive() const { return state != idle; }
-    float getLevel() const { return level; }
-
-    /** The sound before the envelope. */
-    void renderVoiceBlock (const VoiceSettings&, juce::AudioBuffer<float>& block);
-
-    /** The envelope alone, over a block that is there already. */
-    void applyEnvelope (const VoiceSettings&, juce::AudioBuffer<float>& block);
 
     /** One value of a channel: Catmull-Rom, its ends held. */
     static float read (const std::vector<float>& channel, double phase);
@@ -101,10 +92,12 @@ private:
         float s1 = 0.0f, s2 = 0.0f;
     };
 
+    void renderVoice (const VoiceSettings&, juce::AudioBuffer<float>& block);
     void renderOscillator (Oscillator&, const VoiceSettings::Oscillator&, juce::AudioBuffer<float>& block);
     void renderSub (const VoiceSettings&, juce::AudioBuffer<float>& block);
     void renderFilter (const VoiceSettings&, juce::AudioBuffer<float>& block);
     void fillFrom (const LiteralTable&, double frequency, double& phase, juce::AudioBuffer<float>& buffer);
+    void applyEnvelope (const VoiceSettings&, juce::AudioBuffer<float>& block);
     void advanceEnvelope (const VoiceSettings&);
 
     double rate;

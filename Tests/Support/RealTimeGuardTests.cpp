@@ -91,7 +91,7 @@ TEST (RealTimeGuard, CountsEveryWayToTheHeap)
     full.shrink_to_fit();
     auto owned = std::make_unique<int> (1);
 
-    const std::vector<Row> table {
+    const std::tuple<const char*, std::function<void()>, int> rows[] {
         { "vector growth", [&] { full.push_back (1); }, 2 },
         { "String", [] { sink = juce::String ("a text of some length").toRawUTF8(); }, 2 },
         { "new and delete", allocateOnce, 2 },
@@ -100,8 +100,8 @@ TEST (RealTimeGuard, CountsEveryWayToTheHeap)
         { "malloc", mallocAndFree, 2 },
     };
 
-    for (const auto& row : table)
-        EXPECT_GE (countDuring (row.work).heap, row.atLeast) << row.what;
+    for (const auto& [what, work, atLeast] : rows)
+        EXPECT_GE (countDuring (work).heap, atLeast) << what;
 }
 
 TEST (RealTimeGuard, CountsLocksThatCouldWait)

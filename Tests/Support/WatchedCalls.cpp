@@ -64,18 +64,6 @@ void reportHeapCall() noexcept
 {
     RealTimeGuard::report (RealTimeGuard::Offence::heap);
 }
-
-/** Reports a lock, then calls the C library's own function of that name. */
-template <typename... Args>
-int reportAndForward (const char* name, std::atomic<int (*) (Args...)>& original, Args... args)
-{
-    RealTimeGuard::report (RealTimeGuard::Offence::lock);
-
-    if (original.load (std::memory_order_relaxed) == nullptr)
-        original = reinterpret_cast<int (*) (Args...)> (::dlsym (RTLD_NEXT, name));
-
-    return original.load (std::memory_order_relaxed) (args...);
-}
 } // namespace
 
 ZN_WATCHED void* malloc (std::size_t size) noexcept
@@ -127,46 +115,33 @@ ZN_WATCHED void free (void* block) noexcept
     __libc_free (block);
 }
 
-ZN_WATCHED int pthread_mutex_lock (pthread_mutex_t* mutex) noexcept
-{
-    static std::atomic<int (*) (pthread_mutex_t*)> original { nullptr };
-    return reportAndForward ("pthread_mutex_lock", original, mutex);
-}
+/** Reports a lock, then calls the C library's own function of that name. */
+#define ZN_WATCHED_LOCK(name, parameters, ...)                                                               \
+    ZN_WATCHED int name parameters                                                                           \
+    {                                                                                                        \
+        static std::atomic<decltype (&::name)> original { nullptr };                                         \
+        RealTimeGuard::report (RealTimeGuard::Offence::lock);                                                \
+                                                                                                             \
+        if (original.load (std::memory_order_relaxed) == nullptr)                                            \
+            original = reinterpret_cast<decltype (&::name)> (::dlsym (RTLD_NEXT, #name));                    \
+                                                                                                             \
+        return original.load (std::memory_order_relaxed) (__VA_ARGS__);                                      \
+    }
 
-ZN_WATCHED int pthread_rwlock_rdlock (pthread_rwlock_t* lock) noexcept
-{
-    static std::atomic<int (*) (pthread_rwlock_t*)> original { nullptr };
-    return reportAndForward ("pthread_rwlock_rdlock", original, lock);
-}
-
-ZN_WATCHED int pthread_rwlock_wrlock (pthread_rwlock_t* lock) noexcept
-{
-    static std::atomic<int (*) (pthread_rwlock_t*)> original { nullptr };
-    return reportAndForward ("pthread_rwlock_wrlock", original, lock);
-}
-
-ZN_WATCHED int pthread_cond_wait (pthread_cond_t* condition, pthread_mutex_t* mutex)
-{
-    static std::atomic<int (*) (pthread_cond_t*, pthread_mutex_t*)> original { nullptr };
-    return reportAndForward ("pthread_cond_wait", original, condition, mutex);
-}
-
-ZN_WATCHED int
-pthread_cond_timedwait (pthread_cond_t* condition, pthread_mutex_t* mutex, const timespec* until)
-{
-    static std::atomic<int (*) (pthread_cond_t*, pthread_mutex_t*, const timespec*)> original { nullptr };
-    return reportAndForward ("pthread_cond_timedwait", original, condition, mutex, until);
-}
-
-ZN_WATCHED int pthread_cond_clockwait (pthread_cond_t* condition,
-                                       pthread_mutex_t* mutex,
-                                       clockid_t clock,
-                                       const timespec* until)
-{
-    static std::atomic<int (*) (pthread_cond_t*, pthread_mutex_t*, clockid_t, const timespec*)> original {
-        nullptr
-    };
-    return reportAndForward ("pthread_cond_clockwait", original, condition, mutex, clock, until);
-}
+ZN_WATCHED_LOCK (pthread_mutex_lock, (pthread_mutex_t * mutex) noexcept, mutex)
+ZN_WATCHED_LOCK (pthread_rwlock_rdlock, (pthread_rwlock_t * lock) noexcept, lock)
+ZN_WATCHED_LOCK (pthread_rwlock_wrlock, (pthread_rwlock_t * lock) noexcept, lock)
+ZN_WATCHED_LOCK (pthread_cond_wait, (pthread_cond_t * condition, pthread_mutex_t* mutex), condition, mutex)
+ZN_WATCHED_LOCK (pthread_cond_timedwait,
+                 (pthread_cond_t * condition, pthread_mutex_t* mutex, const timespec* until),
+                 condition,
+                 mutex,
+                 until)
+ZN_WATCHED_LOCK (pthread_cond_clockwait,
+                 (pthread_cond_t * condition, pthread_mutex_t* mutex, clockid_t clock, const timespec* until),
+                 condition,
+                 mutex,
+                 clock,
+                 until)
 
 #endif

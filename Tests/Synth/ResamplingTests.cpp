@@ -38,30 +38,23 @@ double errorDecibels (const juce::AudioBuffer<float>& cycle, int channel, const 
 
 TEST (Resampling, GivesTheShapeBetweenTheSamples)
 {
-    struct Row
-    {
-        const char* name;
-        int numFrames;
-        double fileRate;
-        Shape shape;
-        int numSamples;
+    const std::tuple<const char*, int, double, Shape, int> rows[] {
+        { "sine", 2048, 192000.0, sine, 20480 },
+        { "saw as dense as the program's own", 2048, 192000.0, saw (192), 20480 },
+        { "saw up to four fifths of the band", 600, 48000.0, saw (240), 24000 },
+        { "odd length and rate", 337, 44100.0, saw (100), 14672 },
+        { "sine of a few samples", 8, 44100.0, sine, 348 },
+        { "no more samples than before", 1000, tableRate, saw (100), 1000 },
+        { "longest", 65536, 44100.0, sine, 262144 },
     };
 
-    for (const auto& row : std::vector<Row> {
-             { "sine", 2048, 192000.0, sine, 20480 },
-             { "saw as dense as the program's own", 2048, 192000.0, saw (192), 20480 },
-             { "saw up to four fifths of the band", 600, 48000.0, saw (240), 24000 },
-             { "odd length and rate", 337, 44100.0, saw (100), 14672 },
-             { "sine of a few samples", 8, 44100.0, sine, 348 },
-             { "no more samples than before", 1000, tableRate, saw (100), 1000 },
-             { "longest", 65536, 44100.0, sine, 262144 },
-         })
+    for (const auto& [name, numFrames, fileRate, shape, numSamples] : rows)
     {
-        const auto cycle = resampled (wavBytes (cycleOf (row.numFrames, { row.shape }), { row.fileRate }));
+        const auto cycle = resampled (wavBytes (cycleOf (numFrames, { shape }), { fileRate }));
 
-        EXPECT_EQ (cycle.getNumSamples(), row.numSamples) << row.name;
-        EXPECT_LT (errorDecibels (cycle, 0, row.shape), -95.0) << row.name;
-        EXPECT_EQ (cycle.getSample (0, 0), cycle.getSample (0, row.numSamples - 1)) << row.name;
+        EXPECT_EQ (cycle.getNumSamples(), numSamples) << name;
+        EXPECT_LT (errorDecibels (cycle, 0, shape), -95.0) << name;
+        EXPECT_EQ (cycle.getSample (0, 0), cycle.getSample (0, numSamples - 1)) << name;
     }
 }
 

@@ -1,30 +1,13 @@
 #pragma once
 
-#include "Foundation/Singleton.h"
 #include "Synth/WavetableSynth/TableSources.h"
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <functional>
 #include <numbers>
-#include <optional>
 
 namespace Zn::Tests
 {
-/** Keeps what all instances share for as long as the tests run, as a processor does. */
-class SharedObjects : public testing::Environment
-{
-public:
-    void SetUp() override { user.emplace(); }
-    void TearDown() override { user.reset(); }
-
-private:
-    std::optional<Singleton::UserToken> user;
-};
-
-inline auto* const sharedObjects = testing::AddGlobalTestEnvironment (new SharedObjects);
-
 constexpr double twoPi = 2.0 * std::numbers::pi;
 
 struct WavFormat

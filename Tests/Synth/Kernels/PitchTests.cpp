@@ -16,17 +16,13 @@ TEST (Pitch, OfANoteIsTempered)
 
 TEST (Pitch, OfAUnisonPairLiesToBothSides)
 {
-    struct Row
-    {
-        float spread;
-        double lower, upper;
-        float leftPan, rightPan;
+    const std::tuple<float, double, double, float, float> rows[] {
+        { 0.0f, 439.745935, 440.254243, 0.5f, 0.5f },
+        { 0.5f, 438.604387, 441.400085, 0.25f, 0.75f },
+        { 1.0f, 437.465802, 442.548910, 0.0f, 1.0f }
     };
 
-    for (const auto& [spread, lower, upper, leftPan, rightPan] :
-         { Row { 0.0f, 439.745935, 440.254243, 0.5f, 0.5f },
-           Row { 0.5f, 438.604387, 441.400085, 0.25f, 0.75f },
-           Row { 1.0f, 437.465802, 442.548910, 0.0f, 1.0f } })
+    for (const auto& [spread, lower, upper, leftPan, rightPan] : rows)
     {
         const auto [a, b] = unisonPitches ({ .noteFrequencyHz = 440.0f, .numVoices = 2, .spread = spread });
         EXPECT_NEAR (a.frequencyHz, lower, 1.0e-5) << spread;
