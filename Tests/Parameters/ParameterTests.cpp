@@ -42,7 +42,8 @@ TEST (Forwarder, NamesEveryStepOfItsTarget)
 
     EXPECT_EQ (stepsOf (*createForwarder (tree.quantize)),
                (Lines { "4/4", "2/4", "1/4", "1/8", "1/16", "1/32" }));
-    EXPECT_EQ (AudioChoiceForwarder { *tree.quantize }.getChoiceText (6), "");
+    const AudioChoiceForwarder choice { *tree.quantize };
+    EXPECT_EQ (choice.getChoiceText (-1) + choice.getChoiceText (6), "");
     EXPECT_EQ (stepsOf (*createForwarder (tree.octave)), (Lines { "-3", "-2", "-1", "0", "1", "2", "3" }));
     EXPECT_EQ (stepsOf (*createForwarder (tree.enable)), (Lines { "Off", "On" }));
 

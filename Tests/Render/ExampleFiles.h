@@ -22,17 +22,4 @@ inline std::vector<std::uint8_t> bytesOf (const juce::File& file)
     const auto* data = static_cast<const std::uint8_t*> (block.getData());
     return { data, data + block.getSize() };
 }
-
-/** A name in a folder of its own that goes with it. */
-struct ScratchFolder
-{
-    ScratchFolder() { folder.createDirectory(); }
-    ~ScratchFolder() { folder.deleteRecursively(); }
-    ScratchFolder (const ScratchFolder&) = delete;
-    ScratchFolder& operator= (const ScratchFolder&) = delete;
-
-    juce::File file (const char* name) const { return folder.getChildFile (name); }
-
-    juce::File folder = juce::File::createTempFile ("render");
-};
 } // namespace Zn::Test

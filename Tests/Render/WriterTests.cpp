@@ -1,10 +1,9 @@
-#include "ExampleFiles.h"
-
 #include "Render/Errors.h"
 #include "Render/JsonLinesWriter.h"
 #include "Render/MidiFileWriter.h"
 #include "Render/WavFileWriter.h"
 #include "Support/MidiText.h"
+#include "Support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -169,16 +168,4 @@ TEST (OutputFile, LeavesWhatWasThereUntilItIsComplete)
 
     EXPECT_EQ (target.loadFileAsString(), "old") << "not finished";
     EXPECT_EQ (scratch.folder.getNumberOfChildFiles (juce::File::findFiles), 1) << "nothing is left behind";
-}
-
-TEST (OutputFile, RefusesPlacesThatCannotBeWritten)
-{
-    const ScratchFolder scratch;
-    scratch.file ("file").replaceWithText ("text");
-
-    for (const auto& target : { scratch.folder,
-                                scratch.file ("none").getChildFile ("out.wav"),
-                                scratch.file ("file").getChildFile ("out.wav"),
-                                juce::File ("/dev/null") })
-        EXPECT_THROW (OutputFile { target }, FileError) << target.getFullPathName();
 }

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace Zn::Test
 {
 namespace
@@ -32,8 +34,7 @@ public:
         last = std::max (first, positions.back());
 
         if (first < (arrival == Arrival::jumped ? end : lastPosition) || arrival == Arrival::wrapped)
-            forEachCell ([this] (int channel, int row) { return row < 127 && cellAt (channel, row) != off; },
-                         [this] (int channel, int row) { endCell (channel, row, 0); });
+            endEach ([] (int, int row) { return row < 127; });
 
         Notes notes;
 
@@ -41,19 +42,15 @@ public:
             if (! (first >= note.time.end() || note.time.start >= last))
                 notes.push_back (note);
 
-        forEachCell (
-            [&] (int channel, int row) {
-                return cellAt (channel, row) != off && comesLater (notes, channel, row);
-            },
-            [this] (int channel, int row) { endCell (channel, row, 0); });
+        endEach ([&] (int channel, int row) { return comesLater (notes, channel, row); });
 
         for (const auto& note : notes)
             walk (note, arrival);
 
-        forEachCell ([this] (int channel, int row) { return cellAt (channel, row) == unclaimed; },
-                     [this] (int channel, int row) { endCell (channel, row, 0); });
-        forEachCell ([this] (int channel, int row) { return cellAt (channel, row) == claimed; },
-                     [this] (int channel, int row) { cellAt (channel, row) = unclaimed; });
+        endEach ([this] (int channel, int row) { return cellAt (channel, row) == unclaimed; });
+
+        for (auto& channel : cells)
+            std::replace (channel.begin(), channel.end(), claimed, unclaimed);
 
         lastPosition = first;
         end = positions.back();
@@ -66,13 +63,14 @@ public:
 private:
     static constexpr int claimed = 0, off = 1, unclaimed = 2;
 
-    template <typename Condition, typename Action>
-    static void forEachCell (Condition&& condition, Action&& action)
+    /** Ends, at the run's beginning, each cell that sounds and is over. */
+    template <typename Condition>
+    void endEach (Condition&& isOver)
     {
         for (auto channel = 0; channel < 16; ++channel)
             for (auto row = 0; row < 128; ++row)
-                if (condition (channel, row))
-                    action (channel, row);
+                if (cellAt (channel, row) != off && isOver (channel, row))
+                    endCell (channel, row, 0);
     }
 
     /** A note of this cell is in the list, but none that lasts at the run's beginning. */

@@ -77,9 +77,9 @@ juce::MidiBuffer randomPlaying (int seed, const RandomPlaying& playing)
 {
     Random random (static_cast<unsigned> (seed));
     juce::MidiBuffer result;
-    const auto last = playing.numSamples - 1;
+    constexpr auto numEvents = 400, last = 3999; // sample
 
-    for (auto i = 0; i < playing.numEvents; ++i)
+    for (auto i = 0; i < numEvents; ++i)
         result.addEvent (randomEvent (random, playing), between (random, 0, last));
 
     if (playing.usesPedal)
@@ -88,13 +88,6 @@ juce::MidiBuffer randomPlaying (int seed, const RandomPlaying& playing)
     for (auto note = playing.lowestNote; note <= playing.highestNote; ++note)
         result.addEvent (juce::MidiMessage::noteOff (1, note), last);
 
-    return result;
-}
-
-juce::MidiBuffer eventsIn (const juce::MidiBuffer& events, BlockSlice slice)
-{
-    juce::MidiBuffer result;
-    result.addEvents (events, slice.start, slice.length, -slice.start);
     return result;
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Foundation/BlockSlice.h"
-
 #include <juce_audio_basics/juce_audio_basics.h>
 
 #include <string>
@@ -22,16 +20,12 @@ std::string stillSounding (const juce::MidiBuffer& events);
 */
 struct RandomPlaying
 {
-    int numEvents = 400, numSamples = 4000;
     int lowestNote = 0, highestNote = 127;
     bool usesPedal = false;
 };
 
-/** Always the same stream for a seed. It ends with the pedal up and all keys released. */
+/** Always the same stream of 4000 samples for a seed. It ends with the pedal up and all keys released. */
 juce::MidiBuffer randomPlaying (int seed, const RandomPlaying& playing = {});
-
-/** The events of a run of samples, counted from its start. */
-juce::MidiBuffer eventsIn (const juce::MidiBuffer& events, BlockSlice slice);
 
 /** Lengths of blocks that cut so many samples at random. */
 std::vector<int> randomBlocks (int seed, int numSamples);
@@ -46,7 +40,8 @@ juce::MidiBuffer inBlocks (const juce::MidiBuffer& input, const std::vector<int>
 
     for (const auto length : lengths)
     {
-        auto block = eventsIn (input, { start, length });
+        juce::MidiBuffer block;
+        block.addEvents (input, start, length, -start);
         process (block);
         output.addEvents (block, 0, -1, start);
         start += length;

@@ -1,4 +1,5 @@
 #include "Support/RealTimeGuard.h"
+#include "Support/ScratchFolder.h"
 #include "Synth/WavBytes.h"
 #include "Synth/WavetableSynth/SampleList.h"
 #include "Synth/WavetableSynth/SubTable.h"
@@ -48,23 +49,6 @@ juce::MemoryBlock cycleBytes (int numFrames = 64)
 {
     return wavBytes (cycleOf (numFrames, { sine }));
 }
-
-/** A folder that is gone with it. */
-struct TemporaryFolder
-{
-    TemporaryFolder() { folder.createDirectory(); }
-    ~TemporaryFolder() { folder.deleteRecursively(); }
-
-    TemporaryFolder (const TemporaryFolder&) = delete;
-    TemporaryFolder& operator= (const TemporaryFolder&) = delete;
-
-    void add (const juce::String& name, const juce::MemoryBlock& bytes = cycleBytes()) const
-    {
-        folder.getChildFile (name).replaceWithData (bytes.getData(), bytes.getSize());
-    }
-
-    const juce::File folder = juce::File::createTempFile ("tables");
-};
 } // namespace
 
 TEST (SampleList, HoldsTheProgramsTablesInTheOrderThatHostsStore)
@@ -133,20 +117,23 @@ TEST (SampleList, LeavesOutWhatPresetsCouldNotTellApartOrNobodyCanRead)
 
 TEST (SampleList, ReadsTheUsersFolderInNaturalOrder)
 {
-    const TemporaryFolder user;
+    const Zn::Test::ScratchFolder user;
+    const auto add = [&user] (const juce::String& name, const juce::MemoryBlock& bytes) {
+        user.file (name).replaceWithData (bytes.getData(), bytes.getSize());
+    };
 
     for (const auto* name : { "b10.wav", "b9.WAV", "A.wav", "a.txt", ".hidden.wav" })
-        user.add (name);
+        add (name, cycleBytes());
 
-    user.add ("sub.wav/inside.wav");
-    user.folder.getChildFile ("folder.wav").createDirectory();
+    add ("sub.wav/inside.wav", cycleBytes());
+    user.file ("folder.wav").createDirectory();
 
     EXPECT_THAT (texts (SampleList { userSources (user.folder) }.getShortNames()),
                  ElementsAre ("A", "b9", "b10"));
-    EXPECT_TRUE (userSources (user.folder.getChildFile ("missing")).empty());
+    EXPECT_TRUE (userSources (user.file ("missing")).empty());
 
     for (auto i = 0; i < 300; ++i)
-        user.add ("c" + juce::String (i) + ".wav", juce::MemoryBlock ("x", 1));
+        add ("c" + juce::String (i) + ".wav", juce::MemoryBlock ("x", 1));
 
     EXPECT_EQ (userSources (user.folder).size(), 256u);
     EXPECT_EQ (userSources (user.folder).back().displayName, "User - c252");

@@ -178,13 +178,11 @@ void compareANote (const Kernels::VoiceKernels& kernels, juce::Random& random)
 
 TEST (Synth, SoundsLikeTheLiteralVoiceWhileAllSettingsChange)
 {
-    for (const auto set : { Kernels::InstructionSet::scalar,
-                            Kernels::InstructionSet::baseline,
-                            Kernels::InstructionSet::avx2 })
+    for (const auto set : Zn::Test::allSets)
     {
         juce::Random random (3);
 
-        for (auto seed = 0; Kernels::isAvailable (set) && seed < 40; ++seed)
+        for (auto seed = 0; seed < 40; ++seed)
         {
             SCOPED_TRACE ("set " + std::to_string (int (set)) + ", seed " + std::to_string (seed));
             compareANote (Kernels::kernelsFor (set), random);
@@ -234,6 +232,14 @@ TEST (Synth, StartsEndsAndBendsAtTheSampleOfTheMessage)
     EXPECT_NE (audio.getMagnitude (290, 10), 0.0f);
     EXPECT_EQ (audio.getMagnitude (301, 211), 0.0f);
     EXPECT_FALSE (rig.synth.isAnyVoiceActive());
+}
+
+TEST (Synth, RemembersTheWheelBetweenNotes)
+{
+    const auto play = [] (const char* song) { return Rig().render (512, events (song)); };
+
+    // A wheel at its top is two semitones, a hair short of it.
+    EXPECT_LT (loudestDifference (play ("hex E0 7F 7F @0, on 60 @0"), play ("on 62 @0")), 2.0e-3f);
 }
 
 TEST (Synth, RendersTheSameHoweverItsBlocksAreCut)

@@ -8,20 +8,9 @@ namespace Zn::Audio
 {
 namespace
 {
-constexpr StealCandidate held (int note)
-{
-    return { note, false, true };
-}
-
-constexpr StealCandidate pedalled (int note)
-{
-    return { note, false, false };
-}
-
-constexpr StealCandidate released (int note)
-{
-    return { note, true, false };
-}
+constexpr auto held = [] (int note) { return StealCandidate { note, false, true }; };
+constexpr auto pedalled = [] (int note) { return StealCandidate { note, false, false }; };
+constexpr auto released = [] (int note) { return StealCandidate { note, true, false }; };
 } // namespace
 
 TEST (VoiceStealer, TakesWhatIsLeastMissed)

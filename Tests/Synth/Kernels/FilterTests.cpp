@@ -1,3 +1,4 @@
+#include "Support/KernelTable.h"
 #include "Synth/Kernels/StateVariableFilter.h"
 #include "Synth/Kernels/VoiceKernels.h"
 
@@ -13,12 +14,10 @@ namespace Zn::Audio::Kernels
 {
 namespace
 {
+using Test::allSets;
 using ::testing::FloatNear;
 using ::testing::Pointwise;
 
-constexpr InstructionSet allSets[] = { InstructionSet::scalar,
-                                       InstructionSet::baseline,
-                                       InstructionSet::avx2 };
 constexpr FilterType allTypes[] = { FilterType::lowPass, FilterType::bandPass, FilterType::highPass };
 
 std::vector<float>
@@ -141,7 +140,7 @@ TEST (Filter, OfVoicesSideBySideIsTheirFilterOneByOne)
         2.0e-6f; // of sounds and memories at full scale, with resonances of up to 10 dB
 
     for (auto set : allSets)
-        for (auto numVoices = 1; isAvailable (set) && numVoices < 20; ++numVoices)
+        for (auto numVoices = 1; numVoices < 20; ++numVoices)
             for (auto type : allTypes)
                 for (auto numStages : { 1, 2 })
                 {
@@ -163,9 +162,6 @@ TEST (Filter, OfVoicesIsTheSameHoweverTheBlockIsCut)
     for (auto set : allSets)
         for (size_t cut : { 0u, 1u, 2u, 7u, 31u, 63u })
         {
-            if (! isAvailable (set))
-                continue;
-
             juce::Random random (5);
             Choir whole (5, 64, random);
             auto pieces = whole;
@@ -202,9 +198,6 @@ TEST (Filter, ForgetsASoundInsteadOfCarryingItAsTinyNumbers)
 
     for (auto set : allSets)
     {
-        if (! isAvailable (set))
-            continue;
-
         juce::Random random (5);
         Choir choir (3, 64, random);
         choir.filter (set, FilterType::lowPass, 2, 0, 64);
