@@ -119,13 +119,14 @@ ZN_WATCHED void free (void* block) noexcept
 #define ZN_WATCHED_LOCK(name, parameters, ...)                                                               \
     ZN_WATCHED int name parameters                                                                           \
     {                                                                                                        \
-        static std::atomic<decltype (&::name)> original { nullptr };                                         \
+        static std::atomic<void*> original { nullptr };                                                      \
         RealTimeGuard::report (RealTimeGuard::Offence::lock);                                                \
                                                                                                              \
         if (original.load (std::memory_order_relaxed) == nullptr)                                            \
-            original = reinterpret_cast<decltype (&::name)> (::dlsym (RTLD_NEXT, #name));                    \
+            original = ::dlsym (RTLD_NEXT, #name);                                                           \
                                                                                                              \
-        return original.load (std::memory_order_relaxed) (__VA_ARGS__);                                      \
+        return reinterpret_cast<decltype (&::name)> (original.load (std::memory_order_relaxed)) (            \
+            __VA_ARGS__);                                                                                    \
     }
 
 ZN_WATCHED_LOCK (pthread_mutex_lock, (pthread_mutex_t * mutex) noexcept, mutex)
