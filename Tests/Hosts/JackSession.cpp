@@ -2,12 +2,12 @@
 
 #include <jack/jack.h>
 #include <jack/midiport.h>
-#include <jack/transport.h>
 
 #include <atomic>
 #include <cerrno>
 #include <chrono>
 #include <cmath>
+#include <cstdint>
 #include <stdexcept>
 #include <thread>
 
@@ -25,6 +25,9 @@ constexpr auto mostEvents = 100000;
 constexpr jack_midi_data_t keys[] = { 60, 64, 67 };
 
 constexpr jack_midi_data_t markController = 20;
+constexpr auto secondsPerMinute = 60.0;
+constexpr auto beatsPerBar = 4;
+constexpr auto ticksPerBeat = 1920;
 
 template <typename Condition>
 void waitFor (const char* what, std::chrono::seconds limit, Condition&& condition)
@@ -71,6 +74,33 @@ std::string midiPortOf (jack_client_t& client, const std::string& program, unsig
     return ports != nullptr ? *ports.get() : std::string {};
 }
 } // namespace
+
+double JackTempoMap::quartersAt (double otherFrame, double sampleRate) const noexcept
+{
+    return quarters + (otherFrame - frame) * tempo / (secondsPerMinute * sampleRate);
+}
+
+double JackTempoMap::frameOf (double otherQuarters, double sampleRate) const noexcept
+{
+    return frame + (otherQuarters - quarters) * secondsPerMinute * sampleRate / tempo;
+}
+
+void JackTempoMap::fillInBars (jack_position_t& position, double sampleRate) const noexcept
+{
+    const auto place = quartersAt (static_cast<double> (position.frame), sampleRate);
+    const auto beats = std::floor (place);
+    const auto bars = std::floor (beats / beatsPerBar);
+
+    position.valid = JackPositionBBT;
+    position.bar = static_cast<std::int32_t> (bars) + 1;
+    position.beat = static_cast<std::int32_t> (beats - bars * beatsPerBar) + 1;
+    position.tick = static_cast<std::int32_t> ((place - beats) * ticksPerBeat);
+    position.bar_start_tick = bars * beatsPerBar * ticksPerBeat;
+    position.beats_per_bar = beatsPerBar;
+    position.beat_type = 4;
+    position.ticks_per_beat = ticksPerBeat;
+    position.beats_per_minute = tempo;
+}
 
 /** The two clients' callbacks run one after the other, with the program's between them. */
 struct JackSession::Implementation : private Conductor

@@ -95,10 +95,3 @@ TEST (ArgumentParser, RefusesWhatMakesNoSense)
                          testing::ThrowsMessage<ArgumentError> (testing::HasSubstr (message)))
                 << line;
 }
-
-TEST (ArgumentParser, HelpsWithoutAnInput)
-{
-    EXPECT_TRUE (parsed ("--help").showsHelp);
-    EXPECT_TRUE (parsed ("--version").showsVersion);
-    EXPECT_TRUE (parsed ("--list-params|--set|a=b").listsParameters);
-}

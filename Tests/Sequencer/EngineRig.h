@@ -4,7 +4,6 @@
 #include "Support/MidiText.h"
 #include "Support/RenderedSteps.h"
 
-#include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -71,21 +70,6 @@ public:
             throw std::logic_error ("the engine ran another length than it was told");
 
         return rows;
-    }
-
-    /** The messages of several calls, by samples from the first call on. */
-    juce::MidiBuffer playBlocks (const std::vector<int>& lengths)
-    {
-        juce::MidiBuffer all;
-        auto start = 0;
-
-        for (auto length : lengths)
-        {
-            all.addEvents (play (length), 0, length, start);
-            start += length;
-        }
-
-        return all;
     }
 
     Sequencer::PatternEngine engine;

@@ -161,16 +161,17 @@ private:
     double lastPosition = 0.0, end = std::numeric_limits<double>::quiet_NaN();
 };
 
-/** A crowd of notes over a few rows, the highest among them, and channels. */
+/** A crowd of notes over a few rows and channels, the highest and the lowest among them. */
 Notes crowd (juce::Random& random)
 {
+    const int rows[] = { 0, 63, 64, 126, 127 }, channels[] = { 0, 1, 15 };
     Notes notes;
 
     for (auto i = random.nextInt (20); i >= 0; --i)
     {
-        auto step = note (124 + random.nextInt (4), 0.25 * random.nextInt (16), 0.25 * random.nextInt (12));
+        auto step = note (rows[random.nextInt (5)], 0.25 * random.nextInt (16), 0.25 * random.nextInt (12));
         step.time.start += random.nextBool() ? 0.07 : 0.0;
-        step.event.channel = random.nextInt (3);
+        step.event.channel = channels[random.nextInt (3)];
         const float chances[] = { 0.0f, 1.0f, random.nextFloat() };
         step.event.chance = chances[random.nextInt (3)];
         step.event.velocity = random.nextFloat();
