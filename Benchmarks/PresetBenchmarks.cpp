@@ -1,6 +1,7 @@
 #include "Foundation/Singleton.h"
 #include "Presets/Base.h"
 #include "Presets/FactoryContent.h"
+#include "Support/ScratchFolder.h"
 
 #include <benchmark/benchmark.h>
 
@@ -46,30 +47,20 @@ private:
     juce::File folder;
 };
 
-class PresetFolder
+struct PresetFolder : Test::ScratchFolder
 {
-public:
-    PresetFolder() { folder.createDirectory(); }
-    ~PresetFolder() { folder.deleteRecursively(); }
-
-    PresetFolder (const PresetFolder&) = delete;
-    PresetFolder& operator= (const PresetFolder&) = delete;
-
     juce::File fill (int numFiles) const
     {
         for (auto i = 0; i < numFiles; ++i)
         {
-            std::ofstream stream (file (i).getFullPathName().toStdString());
+            std::ofstream stream (preset (i).getFullPathName().toStdString());
             stream << presetText (i);
         }
 
         return folder;
     }
 
-    juce::File file (int number) const { return folder.getChildFile (juce::String (number) + ".json"); }
-
-    const juce::File folder =
-        juce::File::getSpecialLocation (juce::File::tempDirectory).getChildFile (juce::Uuid().toString());
+    juce::File preset (int number) const { return folder.getChildFile (juce::String (number) + ".json"); }
 };
 
 /** What a menu costs that is opened for the first time in a process. */
@@ -97,7 +88,7 @@ void loadFile (benchmark::State& state)
     Library library (presets.fill (1));
 
     for (auto _ : state)
-        benchmark::DoNotOptimize (library.load (presets.file (0)).is_null());
+        benchmark::DoNotOptimize (library.load (presets.preset (0)).is_null());
 }
 
 void saveFile (benchmark::State& state)
@@ -107,7 +98,7 @@ void saveFile (benchmark::State& state)
     Library library (presets.folder);
 
     for (auto _ : state)
-        benchmark::DoNotOptimize (library.save (juce::URL (presets.file (0))));
+        benchmark::DoNotOptimize (library.save (juce::URL (presets.preset (0))));
 }
 
 /** What the first plug-in of a process does: with an empty folder, or with one that holds everything already. */

@@ -1,5 +1,4 @@
-#include "Plugin/Vornel/Processor.h"
-#include "Support/TestPlayHead.h"
+#include "Performance.h"
 
 #include <benchmark/benchmark.h>
 
@@ -11,55 +10,20 @@ namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
-constexpr double rate = 48000.0;
 constexpr int blockSize = 64;
-constexpr double deadlineSeconds = blockSize / rate;
+constexpr double deadlineSeconds = blockSize / Performance::rate;
 constexpr int blocksOfRun = 40000; // 53 s of sound: the 99th percentile stands on the 400 slowest
 constexpr int allVoices = WavetableSynth::Synth::numVoices;
 
-/** The whole plug-in with a patch that leaves nothing out: four oscillators with tables of their own, unison, sub and
-    filter.
-*/
-class Instrument
+/** A patch that leaves nothing out: four oscillators with tables of their own, unison, sub and filter. */
+void setFullPatch (Params& params, bool playsPattern)
 {
-public:
-    explicit Instrument (bool playsPattern)
-    {
-        auto& params = processor.getState().params;
-        *params.arpActive = playsPattern ? 1 : 0;
-        *params.sound.unison = 2;
+    *params.arpActive = playsPattern ? 1 : 0;
+    *params.sound.unison = 2;
 
-        for (auto table = 2; auto& oscillator : params.sound.synth.oscillators.oscillators)
-            static_cast<juce::AudioParameterChoice&> (*oscillator.type) = (table += 7);
-
-        processor.setPlayHead (&song);
-        processor.prepareToPlay (rate, blockSize);
-        midi.ensureSize (32768);
-    }
-
-    ~Instrument() { processor.setPlayHead (nullptr); }
-
-    void holdKeys (int numKeys)
-    {
-        constexpr auto velocity = juce::uint8 (100);
-
-        for (auto key = 0; key < numKeys; ++key)
-            midi.addEvent (juce::MidiMessage::noteOn (1, 36 + 2 * key, velocity), 0);
-    }
-
-    void nextBlock()
-    {
-        processor.processBlock (audio, midi);
-        midi.clear();
-        song.advance (blockSize);
-    }
-
-private:
-    Processor processor;
-    Test::TestPlayHead song { rate };
-    juce::AudioBuffer<float> audio { 2, blockSize };
-    juce::MidiBuffer midi;
-};
+    for (auto table = 2; auto& oscillator : params.sound.synth.oscillators.oscillators)
+        static_cast<juce::AudioParameterChoice&> (*oscillator.type) = (table += 7);
+}
 
 /** Of this thread, as other programs may want the processor at the same time. */
 double secondsWorked()
@@ -72,12 +36,13 @@ double secondsWorked()
 /** Keys that are heard directly, or through the pattern; without keys nothing sounds. Times each block by itself. */
 void synthBlock (benchmark::State& run)
 {
-    const auto playsPattern = run.range (0) != 0;
-    Instrument instrument (playsPattern);
-    instrument.holdKeys (static_cast<int> (run.range (1)));
+    Performance performance (blockSize);
+    setFullPatch (performance.processor.getState().params, run.range (0) != 0);
+    performance.start();
+    performance.holdKeys (static_cast<int> (run.range (1)), 36, 2);
 
     for (auto warmUp = 0; warmUp < 1000; ++warmUp)
-        instrument.nextBlock();
+        performance.nextBlock();
 
     std::vector<double> times;
     times.reserve (blocksOfRun);
@@ -85,7 +50,7 @@ void synthBlock (benchmark::State& run)
     for (auto _ : run)
     {
         const auto start = secondsWorked();
-        instrument.nextBlock();
+        performance.nextBlock();
         times.push_back (secondsWorked() - start);
         run.SetIterationTime (times.back());
     }

@@ -15,21 +15,6 @@ namespace Zn::Sequencer
 class PlayState
 {
 public:
-    enum class State
-    {
-        claimed = 0,  // sounds, and this run wants it
-        off = 1,      // silent
-        unclaimed = 2 // sounds, and no note of this run has wanted it yet
-    };
-
-    State get (Cell cell) const noexcept
-    {
-        if (! sounding.contains (cell))
-            return State::off;
-
-        return claimed.contains (cell) ? State::claimed : State::unclaimed;
-    }
-
     bool isSounding (Cell cell) const noexcept { return sounding.contains (cell); }
     bool isSilent() const noexcept { return numSounding == 0; }
 
