@@ -28,6 +28,9 @@ public:
     /** Calls the function now if a change waits for it, for whoever cannot wait for the timer. Thread: message. */
     void answer();
 
+    /** Leaves the changes so far unanswered. */
+    void forget() noexcept { changed.store (false); }
+
 private:
     void parameterValueChanged (int, float) override { changed.store (true); }
     void parameterGestureChanged (int, bool) override {}

@@ -21,4 +21,13 @@ void ParamList::reflect (Reflector& r)
     for (auto& [name, child] : children)
         r.addChild (name.toStdString(), *child);
 }
+
+void ParamList::forEachParam (const std::function<void (ParamHolderBase&)>& visit) const
+{
+    for (const auto& [name, holder] : params)
+        visit (*holder);
+
+    for (const auto& [name, child] : children)
+        child->forEachParam (visit);
+}
 } // namespace Zn::Audio

@@ -2,6 +2,7 @@
 
 #include "Parameters/ParamHolder.h"
 
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -32,6 +33,9 @@ public:
 
     /** Reads or writes the texts of all parameters that the reflector's target includes, then the groups. */
     virtual void reflect (Reflector& r);
+
+    /** Visits all parameters of the list, then those of its groups. */
+    void forEachParam (const std::function<void (ParamHolderBase&)>& visit) const;
 
     const std::vector<NamedHolder>& getParams() const noexcept { return params; }
     const std::vector<NamedChild>& getChildren() const noexcept { return children; }
