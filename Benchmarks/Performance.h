@@ -37,7 +37,7 @@ public:
         song.advance (audio.getNumSamples());
     }
 
-    Processor processor;
+    Processor processor { StartUp::empty };
 
 private:
     Test::TestPlayHead song { rate };

@@ -1,4 +1,5 @@
 #include "Performance.h"
+#include "Support/WalkPattern.h"
 
 #include <benchmark/benchmark.h>
 
@@ -37,6 +38,7 @@ double secondsWorked()
 void synthBlock (benchmark::State& run)
 {
     Performance performance (blockSize);
+    Tests::drawWalk (performance.processor.getState().patterns);
     setFullPatch (performance.processor.getState().params, run.range (0) != 0);
     performance.start();
     performance.holdKeys (static_cast<int> (run.range (1)), 36, 2);

@@ -4,6 +4,7 @@
 #include "Support/Lateness.h"
 #include "Support/MidiText.h"
 #include "Support/RealTimeGuard.h"
+#include "Support/WalkPattern.h"
 
 #include <gmock/gmock.h>
 
@@ -48,6 +49,7 @@ struct Learned
 {
     Learned()
     {
+        Tests::drawWalk (state.patterns);
         log.reserve (16);
         ppq.resize (blockSize);
         pipeline.prepare (blockSize);

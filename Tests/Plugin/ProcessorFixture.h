@@ -3,6 +3,7 @@
 #include "Plugin/Vornel/Processor.h"
 
 #include "Support/TestHost.h"
+#include "Support/WalkPattern.h"
 
 #include <gtest/gtest.h>
 
@@ -10,10 +11,16 @@
 
 namespace Zn::Audio::Plugins::Vornel
 {
-/** A processor whose parameters and patterns a test sets by name and by drawing. */
+/** A processor whose parameters and patterns a test sets by name and by drawing. It begins with the plain sound, and with
+    a walk up and down the held chord in the first slot.
+*/
 struct ProcessorFixture
 {
-    ProcessorFixture() { processor.setSeed (1); }
+    ProcessorFixture()
+    {
+        Tests::drawWalk (state.patterns);
+        processor.setSeed (1);
+    }
 
     void set (const juce::String& identifier, const juce::String& text)
     {
@@ -49,7 +56,7 @@ struct ProcessorFixture
 
     static constexpr int lowestHeld = 64; // the row of the lowest held key
 
-    Processor processor;
+    Processor processor { StartUp::empty };
     State& state = processor.getState();
 };
 

@@ -95,7 +95,7 @@ public:
     }
 
     juce::Random random;
-    Processor processor;
+    Processor processor { StartUp::empty };
     State& state = processor.getState();
     Test::TestHost host;
 

@@ -108,7 +108,7 @@ TEST (Processor, TakesOnlyStereoOutputWithAnOptionalStereoInput)
     EXPECT_FALSE (accepts ({ Set::stereo() }, { Set::create5point1() }));
 }
 
-TEST (Processor, PlaysTheHeldChordThroughTheDefaultPattern)
+TEST (Processor, PlaysTheHeldChordThroughItsPattern)
 {
     Fixture f;
     TestHost host (f.processor);

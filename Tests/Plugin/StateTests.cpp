@@ -3,6 +3,7 @@
 #include "Foundation/Events/SharedTimer.h"
 #include "Foundation/Events/ValueListener.h"
 #include "Foundation/Singleton.h"
+#include "Plugin/RandomState.h"
 #include "Plugin/Vornel/Processor.h"
 #include "Sequencer/Modifiers/NumParam.h"
 #include "Support/Documents.h"
@@ -19,16 +20,25 @@ namespace
 {
 using nlohmann::json;
 using Tests::asText;
-using Tests::load;
 using Tests::parsed;
 using Tests::saved;
+
+/** Loads what has no header of its own as a document of this version. */
+void load (State& state, json document, ReflectorContext context = ReflectorContext::forPresetFile())
+{
+    if (document.is_object() && ! document.empty())
+        document.emplace ("version", "0.8.0");
+
+    Tests::load (state, std::move (document), context);
+}
 
 struct StateTest : ::testing::Test
 {
     const Singleton::UserToken singletons;
     State state;
-    int rebuilds = 0;
+    int rebuilds = 0, edits = 0;
     Events::Listener listener { state.patterns.getAudioBroadcaster(), [this] { ++rebuilds; } };
+    Events::Listener editListener { state.projectChanged, [this] { ++edits; } };
 
     std::string notesOf (std::size_t slot) const
     {
@@ -137,7 +147,8 @@ TEST_F (StateTest, KeepsWhatADocumentOmits)
         EXPECT_EQ (saved (state, ReflectorContext::forHostChunk()), before) << text;
     }
 
-    load (state, saved (*std::make_unique<State>()));
+    const auto fresh = std::make_unique<State>();
+    load (state, saved (*fresh));
     EXPECT_NE (saved (state), before);
     EXPECT_EQ (performance(), played) << "a preset must not touch what is played";
 
@@ -152,7 +163,7 @@ TEST_F (StateTest, RebuildsOnceForALoadWithTheSwingOfItsPatterns)
         "Patterns": {
             "Patterns": [ { "Time": { "Bars": [ { "num": 2, "denum": 4 } ] },
                             "Pattern": { "Steps": [
-                                { "Time": { "start": 0.25, "length": 0.25 }, "Event": { "noteNum": 60 } } ] } } ],
+                                { "Time": { "start": 0.25, "length": 0.25 }, "Event": { "noteNum": 60 }, "enabled": true } ] } } ],
             "Sequencer": { "Transport": { "Swing": { "Value": "40%" }, "SwingRef": { "Value": "1/4" } } }
         }
     })"));
@@ -255,6 +266,74 @@ TEST_F (StateTest, AsksForASlotAndShowsItUntilItIsTaken)
     EXPECT_EQ (state.liveSlots->pending.load(), -1) << "nothing to ask for";
 }
 
+TEST_F (StateTest, IsMarkedAsEditedByWhateverAPresetWouldLose)
+{
+    struct Row
+    {
+        const char* name;
+        std::function<void()> act;
+        bool marksPatterns, marksSound, marksProject;
+    };
+
+    auto& params = state.params;
+    const auto chunk = saved (state, ReflectorContext::forHostChunk());
+    const auto sound = saved (state.synthPreset);
+    const auto tick = [] { Events::SharedTimer::getInstance().timerCallback(); };
+    const auto change = [] (auto& holder) {
+        auto& parameter = holder.getParameter();
+        parameter.setValueNotifyingHost (parameter.getValue() < 0.5f ? 0.75f : 0.25f);
+    };
+
+    const Row rows[] = {
+        { "a drawn pattern", [&] { state.patterns.rebuild(); }, true, false, true },
+        { "a parameter of the arpeggiator", [&] { change (params.transpose); }, true, false, false },
+        { "swing, which the patterns follow", [&] { change (params.swing); }, true, false, false },
+        { "a parameter of the sound", [&] { change (params.sound.master); }, true, true, false },
+        { "one that the host does not know",
+          [&] { change (params.sound.synth.oscillators.oscillators[1].type); },
+          true,
+          true,
+          true },
+        { "a performance control", [&] { change (params.key); }, false, false, false },
+        { "the slot", [&] { state.slotParam.setInt (4); }, false, false, true },
+        { "the octaves", [&] { state.lowestOctave.setInt (3); }, false, false, true },
+        { "a project",
+          [&] {
+              load (state, chunk, ReflectorContext::forHostChunk());
+              state.forgetChanges();
+          },
+          false,
+          false,
+          false },
+        { "a sound preset", [&] { state.synthPreset.applyDocument (sound, {}); }, true, false, true },
+    };
+
+    ManagedParameters managed;
+    HostParamList host (managed);
+    juce::AudioProcessorGraph processor; // any, to list parameters
+    params.forwardTo (host);
+    host.addTo (processor);
+    state.startFollowing();
+    const juce::ScopeGuard endsBeforeTheHost { [this] { state.stopFollowing(); } };
+
+    for (const auto& row : rows)
+    {
+        juce::Random random (3);
+        randomise (params, random);
+        state.forgetChanges();
+        state.followChanges();
+        state.setDirty (false);
+        state.synthPreset.setDirty (false);
+        edits = 0;
+
+        row.act();
+        tick();
+        EXPECT_EQ (state.isDirty(), row.marksPatterns) << row.name;
+        EXPECT_EQ (state.synthPreset.isDirty(), row.marksSound) << row.name;
+        EXPECT_EQ (edits > 0, row.marksProject) << row.name;
+    }
+}
+
 TEST_F (StateTest, TellsWhoShowsTheBrushWhenItIsAnother)
 {
     auto shown = Brush::pencil;
@@ -273,7 +352,7 @@ TEST (Processor, MayGoOnAnotherThreadWhileItsParametersAreFollowed)
 
     for (auto i = 0; i < 20; ++i)
     {
-        auto processor = std::make_unique<Processor>();
+        auto processor = std::make_unique<Processor> (StartUp::empty);
         std::atomic<bool> isGone { false };
 
         std::thread host ([&] {

@@ -3,6 +3,7 @@
 #include "Spectrum.h"
 
 #include "Plugin/Vornel/Processor.h"
+#include "Support/WalkPattern.h"
 
 #include <algorithm>
 #include <cmath>
@@ -68,7 +69,8 @@ juce::MidiBuffer eventsOf (const Scene& scene)
 juce::AudioBuffer<float> render (const Scene& scene, int blockSize)
 {
     Song song;
-    Processor processor;
+    Processor processor { Audio::Plugins::Vornel::StartUp::empty };
+    Tests::drawWalk (processor.getState().patterns);
     processor.setSeed (1);
     processor.setPlayHead (&song);
 

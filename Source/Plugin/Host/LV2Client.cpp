@@ -6,6 +6,7 @@
 #define JUCE_CORE_INCLUDE_NATIVE_HEADERS 1 // JUCE's client needs both ahead of any other header
 #define JUCE_GUI_BASICS_INCLUDE_XHEADERS 1
 
+#include "Plugin/Host/HostedProcessor.h"
 #include "Plugin/Transport/LV2Clock.h"
 
 #include <juce_audio_plugin_client/juce_audio_plugin_client.h>
@@ -14,6 +15,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 namespace Zn::Audio
 {
@@ -22,15 +24,25 @@ namespace
 /** The processor that this thread made last: JUCE's instance keeps its own to itself. */
 thread_local juce::AudioProcessor* newestProcessor = nullptr;
 
-std::unique_ptr<juce::AudioProcessor> rememberProcessor (std::unique_ptr<juce::AudioProcessor> processor)
+/** The build asks what the bundle shall say of the plug-in. That is no use of it, so the processor that answers leaves
+    the folders of whoever builds alone.
+*/
+thread_local bool isDescribing = false;
+
+template <typename Create>
+std::unique_ptr<juce::AudioProcessor> makeProcessor (Create&& create)
 {
+    using Plugins::Vornel::StartUp;
+
+    auto processor = isDescribing ? std::make_unique<HostedProcessor> (StartUp::empty) : create();
     newestProcessor = processor.get();
     return processor;
 }
 } // namespace
 } // namespace Zn::Audio
 
-#define createPluginFilterOfType(type) ::Zn::Audio::rememberProcessor (createPluginFilterOfType (type))
+#define createPluginFilterOfType(type)                                                                       \
+    ::Zn::Audio::makeProcessor ([] { return createPluginFilterOfType (type); })
 #define lv2_descriptor juce_lv2_descriptor
 #include <juce_audio_plugin_client/juce_audio_plugin_client_LV2.cpp>
 #undef lv2_descriptor
@@ -193,10 +205,31 @@ LV2Instance& instanceOf (LV2_Handle handle) noexcept
     return static_cast<LV2Instance&> (*static_cast<Client::LV2PluginInstance*> (handle));
 }
 
+/** Writes the bundle's descriptions beside the library. 0 if it could. */
+int describe (const char* libraryPath)
+{
+    const juce::ScopedValueSetter<bool> describing (isDescribing, true);
+    return Client::RecallFeature().doRecall (libraryPath);
+}
+
+const void* extensionData (const char* uri)
+{
+    static constexpr struct
+    {
+        int (*doRecall) (const char* libraryPath);
+    } description { describe };
+
+    if (std::string_view (uri) == JUCE_TURTLE_RECALL_URI)
+        return &description;
+
+    return Client::juce_lv2_descriptor (0)->extension_data (uri);
+}
+
 LV2_Descriptor makeDescriptor()
 {
     auto descriptor = *Client::juce_lv2_descriptor (0);
     descriptor.instantiate = instantiate;
+    descriptor.extension_data = extensionData;
     descriptor.connect_port = [] (LV2_Handle handle, std::uint32_t port, void* data) {
         instanceOf (handle).connectPort (port, data);
     };

@@ -31,6 +31,24 @@ void forwardSynth (HostParamList& host, WavetableSynth::Params& synth)
     host.forward ("Delay-Feedback", synth.delay.feedback);
     host.forward ("Delay-Mix", synth.delay.mix);
 }
+
+template <typename Predicate>
+std::vector<juce::AudioProcessorParameter*> select (const ParamList& list, Predicate&& isWanted)
+{
+    std::vector<juce::AudioProcessorParameter*> selected;
+
+    list.forEachParam ([&] (const ParamHolderBase& holder) {
+        if (isWanted (holder))
+            selected.push_back (&holder.getParameter());
+    });
+
+    return selected;
+}
+
+bool isInPreset (const ParamHolderBase& holder) noexcept
+{
+    return holder.isReflectedFor (ReflectorContext::forPresetFile());
+}
 } // namespace
 
 Params::Params()
@@ -56,5 +74,17 @@ void Params::forwardTo (HostParamList& host)
     host.forward ("Unison-Amount", sound.unisonAmount);
     forwardSynth (host, sound.synth);
     host.forward ("Arp-Active", arpActive);
+}
+
+std::vector<juce::AudioProcessorParameter*> parametersOfPreset (const ParamList& list)
+{
+    return select (list, isInPreset);
+}
+
+std::vector<juce::AudioProcessorParameter*> parametersUnknownToHost (const ParamList& list)
+{
+    return select (list, [] (const auto& holder) {
+        return isInPreset (holder) && holder.getHostSide() == nullptr;
+    });
 }
 } // namespace Zn::Audio::Plugins::Vornel

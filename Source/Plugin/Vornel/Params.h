@@ -40,4 +40,10 @@ struct Params : ParamList
     /** Lists them under the identifiers and in the order that the host knows them by. */
     void forwardTo (HostParamList& host);
 };
+
+/** The parameters of a list that its preset files hold. */
+std::vector<juce::AudioProcessorParameter*> parametersOfPreset (const ParamList& list);
+
+/** Those of them that the host does not know, once the others have been given to it. */
+std::vector<juce::AudioProcessorParameter*> parametersUnknownToHost (const ParamList& list);
 } // namespace Zn::Audio::Plugins::Vornel

@@ -5,23 +5,51 @@
 
 namespace Zn::Audio::Plugins::Vornel
 {
-Processor::Processor()
+namespace
+{
+/** A preset that cannot be loaded leaves what it has set so far, which is no reason to refuse the host. */
+void loadDefaultPresets (State& state) noexcept
+{
+    try
+    {
+        state.init();
+    }
+    catch (const std::exception&)
+    {}
+}
+} // namespace
+
+Processor::Processor (StartUp startUp)
     : midi (*state)
     , sound (*state)
     , patternListener (state->patterns.getAudioBroadcaster(), [this] { publishPatterns(); })
-    , learnListener (state->learnMap, [this] { publishLearnTable(); })
+    , learnListener (state->learnMap.getTableBroadcaster(),
+                     [this] {
+                         publishLearnTable();
+                         projectEdited();
+                     })
+    , projectListener ([this] { projectEdited(); })
 {
     state->learnMap.setParameters (hostParameters);
     publishLearnTable();
     publishPatterns();
     prepare (defaultSampleRate, defaultBlockSize);
+
+    if (startUp == StartUp::presets)
+        loadDefaultPresets (*state);
+
+    state->projectChanged.add (projectListener); // the presets above are no edit
+    startHostState();
+    state->startFollowing(); // last: from here on the message thread has its part in it
 }
 
 Processor::~Processor()
 {
-    state->stopFollowing(); // first, as hosts destroy processors on any thread
+    stopHostState();
+    state->stopFollowing(); // both first, as hosts destroy processors on any thread
     patternListener.detach();
     learnListener.detach();
+    projectListener.detach();
     learnWriter.replaceAll ({});
     patternWriter.replaceAll ({});
     Events::GarbageCollector::getInstance().collectNow();
@@ -49,7 +77,7 @@ void Processor::prepare (double sampleRate, int maxBlockSize)
 
 void Processor::process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept
 {
-    const auto& patterns = patternReader.newest();
+    const auto& patterns = newestPatterns();
     const auto block = advanceClock (audio.getNumSamples());
 
     midi.process (hostMidi, block, patterns, learnReader.newest());
@@ -60,11 +88,22 @@ void Processor::process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& host
 
 void Processor::processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept
 {
-    const auto& patterns = patternReader.newest();
+    const auto& patterns = newestPatterns();
     const auto block = advanceClock (audio.getNumSamples());
 
     sound.processBypassed (hostMidi);
     midi.processBypassed (hostMidi, block, patterns, learnReader.newest());
+}
+
+/** While a project waits to be taken in, the engine rests and ends its notes: neither the old patterns nor the default
+    ones may sound in the meantime.
+*/
+const Sequencer::PatternFrame& Processor::newestPatterns() noexcept
+{
+    const auto waits =
+        isLoadPending(); // asked first: once it is over, the newest patterns are those of the project
+    const auto& newest = patternReader.newest();
+    return waits ? noPatterns : newest;
 }
 
 Sequencer::ClockSlice Processor::advanceClock (int numSamples) noexcept

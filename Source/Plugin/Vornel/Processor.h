@@ -13,13 +13,20 @@
 
 namespace Zn::Audio::Plugins::Vornel
 {
+/** What a new processor begins with. */
+enum class StartUp
+{
+    presets, // the default preset of each library; the first processor of the process installs the factory presets
+    empty // no notes and the plain sound, without a look at any preset file
+};
+
 /** The one object that the host calls on its audio thread: each block it takes the newest pattern, moves the clock, and
     turns the host's MIDI into the pattern's notes.
 */
 class Processor : public Plugin::Processor<State>
 {
 public:
-    Processor();
+    explicit Processor (StartUp startUp = StartUp::presets);
     ~Processor() override;
 
     /** Makes the chance of steps repeatable, for renders that must agree. Thread: prepare. */
@@ -34,6 +41,7 @@ protected:
     void process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept override;
     void processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept override;
     void keepForNextBlock (juce::MidiBuffer& hostMidi) noexcept override { midi.keepForNextBlock (hostMidi); }
+    void hostStateLoaded() override { state->forgetChanges(); }
 
 private:
     using PatternRing = GUIToRealTime<Sequencer::PatternFrame, 5>;
@@ -41,11 +49,14 @@ private:
 
     void publishPatterns();
     void publishLearnTable();
+    const Sequencer::PatternFrame& newestPatterns() noexcept;
     Sequencer::ClockSlice advanceClock (int numSamples) noexcept;
 
     PatternRing patternRing;
     PatternRing::Writer patternWriter = patternRing.getWriter(); // thread: message
     PatternRing::Reader patternReader = patternRing.getReader();
+
+    const Sequencer::PatternFrame noPatterns {};
 
     LearnRing learnRing;
     LearnRing::Writer learnWriter = learnRing.getWriter(); // thread: message
@@ -56,6 +67,6 @@ private:
 
     MidiPipeline midi;
     AudioPipeline sound;
-    Events::Listener patternListener, learnListener;
+    Events::Listener patternListener, learnListener, projectListener;
 };
 } // namespace Zn::Audio::Plugins::Vornel

@@ -1,7 +1,7 @@
 #include "Plugin/Vornel/State.h"
 
 #include "Foundation/Events/RefCountedHolder.h"
-#include "Plugin/Vornel/DefaultPattern.h"
+#include "Plugin/Vornel/FactoryArchives.h"
 #include "Plugin/Vornel/MidiMetaSlot.h"
 
 #include <array>
@@ -29,7 +29,8 @@ struct Section
 template <typename Fields>
 Section (Fields) -> Section<Fields>;
 
-void addAtomic (Reflector& r, const std::string& name, std::atomic<bool>& value)
+template <typename T>
+void addAtomic (Reflector& r, const std::string& name, std::atomic<T>& value)
 {
     auto copy = value.load();
     r.add (name, copy);
@@ -37,37 +38,37 @@ void addAtomic (Reflector& r, const std::string& name, std::atomic<bool>& value)
     if (r.isLoading())
         value.store (copy);
 }
-
-ConnectedIntParam::Connection connectionTo (std::atomic<int>& value)
-{
-    return { [&value] { return value.load(); }, [&value] (int newValue) { value.store (newValue); } };
-}
-
-/** The audio side takes what is asked for; until then that is the slot to show. */
-ConnectedIntParam::Connection wantedSlot (Sequencer::LiveSlots& live)
-{
-    return { [&live] {
-                const auto asked = live.pending.load();
-                return asked >= 0 ? asked : live.index.load();
-            },
-             [&live] (int slot) { live.pending.store (slot); } };
-}
 } // namespace
 
 State::State()
     : playHead (Events::RefCountedHolder<Sequencer::PlayHead>::create())
     , liveSlots (Events::RefCountedHolder<Sequencer::LiveSlots>::create())
     , bpm (playHead->bpm)
-    , slotParam ("Slot", { 0, lastSlot }, 0, wantedSlot (*liveSlots))
+    , slotParam ("Slot", { 0, lastSlot }, 0, wantedSlot())
     , lowestOctave ("Min", { 0, OctaveRange::highest - 1 }, 0, connectionTo (octaveRange.low))
     , highestOctave (
           "Max", { 1, OctaveRange::highest }, OctaveRange::highest, connectionTo (octaveRange.high))
-    , swingWatcher (std::in_place,
-                    std::vector { &params.swing.getParameter(), &params.swingRef.getParameter() },
-                    [this] { followSwing(); })
+{}
+
+juce::File State::getDefaultPresetFile() const
 {
-    const Sequencer::PatternController::Edit edit (patterns);
-    drawDefaultPattern (patterns.getSlots().front());
+    return getContentFolder().getChildFile ("WELCOME.json");
+}
+
+const Binaries::Library& State::getArchives() const
+{
+    return factoryArchives();
+}
+
+void State::init()
+{
+    synthPreset.prepareFirstUse(); // keeps the sound as it is before any preset
+    StateBase::init();
+    synthPreset.init();
+
+    // The sound of the one gave way to that of the other, and nobody has edited anything.
+    forgetChanges();
+    setDirty (false);
 }
 
 MidiSettings State::readMidiSettings() const noexcept
@@ -106,30 +107,44 @@ ConnectedIntParam State::gridOf (std::size_t slotIndex)
                } } };
 }
 
-void State::reflect (Reflector& r)
+void State::reflectExtra (Reflector& r)
 {
-    if (! r.isLoading())
-    {
-        reflectParams (r);
-        reflectPatterns (r);
-        return;
-    }
+    StateBase::reflectExtra (r);
 
-    const Sequencer::PatternController::Edit edit (patterns);
-    const juce::ScopeGuard swingCounts { [this] { followSwing(); } }; // ahead of the edit's end
-
-    reflectParams (r);
-    reflectPatterns (r);
-}
-
-void State::reflectParams (Reflector& r)
-{
     const std::string key = "Params";
 
     if (! r.isLoading() && ! r.isForHostChunk() && ! savesParams)
         r.setValue (key, std::monostate());
     else
         r.addChild (key, params);
+}
+
+void State::reflectMembers (Reflector& r)
+{
+    if (! r.isLoading())
+        return reflectDocument (r);
+
+    const juce::ScopeGuard settles { [this, &r] { settleAfterLoad (r.getContext()); } };
+    const juce::ScopedValueSetter<bool> loadIsNoEdit (patternsChangeByHand, false);
+    const Sequencer::PatternController::Edit edit (patterns);
+    const juce::ScopeGuard swingCounts { [this] { followSwing(); } }; // ahead of the edit's end
+
+    reflectDocument (r);
+}
+
+void State::reflectDocument (Reflector& r)
+{
+    reflectPatterns (r);
+
+    if (! r.isForHostChunk())
+        return;
+
+    r.addChild ("Slots", Section { [this] (Reflector& s) { reflectSlots (s); } });
+    r.addChild ("MidiPlayer", player);
+    r.addChild ("Synth", synthPreset);
+    r.addChild ("Octave", Section { [this] (Reflector& o) { reflectOctaves (o); } });
+    r.addChild ("UI", Section { [this] (Reflector& u) { u.add ("snap", snap); } });
+    r.addChild ("MidiLearn", learnMap);
 }
 
 void State::reflectPatterns (Reflector& r)
@@ -168,22 +183,113 @@ void State::reflectSequencer (Reflector& r)
     addAtomic (r, "active", keyMode);
 }
 
+void State::reflectSlots (Reflector& r)
+{
+    const auto before = slotParam.getInt();
+    auto slot = before;
+
+    patterns.reflectPlayback (r);
+    r.add ("Slot", slot);
+
+    // Undoing something else leaves a switch alone that waits for its moment.
+    if (! r.isLoading() || (slot == before && r.getContext() == ReflectorContext::forUndo()))
+        return;
+
+    slot = std::clamp (slot, 0, lastSlot);
+    liveSlots->pending.store (-1);
+    liveSlots->index.store (slot);
+    liveSlots->heard.store (slot);
+}
+
+void State::reflectOctaves (Reflector& r)
+{
+    addAtomic (r, "Min", octaveRange.low);
+    addAtomic (r, "Max", octaveRange.high);
+}
+
+/** The audio side takes what is asked for; until then that is the slot to show. */
+ConnectedIntParam::Connection State::wantedSlot()
+{
+    return { [this] {
+                const auto asked = liveSlots->pending.load();
+                return asked >= 0 ? asked : liveSlots->index.load();
+            },
+             [this] (int slot) {
+                 liveSlots->pending.store (slot);
+                 projectChanged.callListeners();
+             } };
+}
+
+ConnectedIntParam::Connection State::connectionTo (std::atomic<int>& value)
+{
+    return { [&value] { return value.load(); },
+             [this, &value] (int newValue) {
+                 value.store (newValue);
+                 projectChanged.callListeners();
+             } };
+}
+
 void State::followChanges()
 {
-    if (swingWatcher && juce::MessageManager::existsAndIsCurrentThread())
-        swingWatcher->answer();
+    if (! juce::MessageManager::existsAndIsCurrentThread())
+        return;
+
+    for (auto* watcher : { &swingWatcher, &presetWatcher })
+        if (*watcher)
+            (*watcher)->answer();
+}
+
+void State::startFollowing()
+{
+    swingWatcher.emplace (std::vector { &params.swing.getParameter(), &params.swingRef.getParameter() },
+                          [this] { followSwing(); });
+    presetWatcher.emplace (parametersOfPreset (params), [this] { setDirty (true); });
+    projectWatcher.emplace (parametersUnknownToHost (params), [this] { projectChanged.callListeners(); });
+    synthPreset.startFollowing();
+}
+
+void State::forgetChanges() noexcept
+{
+    for (auto* watcher : { &presetWatcher, &projectWatcher })
+        if (*watcher)
+            (*watcher)->forget();
+
+    synthPreset.forgetChanges();
 }
 
 void State::stopFollowing() noexcept
 {
-    swingWatcher.reset();
+    for (auto* watcher : { &swingWatcher, &presetWatcher, &projectWatcher })
+        watcher->reset();
+
+    synthPreset.stopFollowing();
     learnMap.stopUpdating();
 }
 
 void State::followSwing()
 {
+    const juce::ScopedValueSetter<bool> parameterTellsItself (patternsChangeByHand, false);
+
     patterns.setSwing (
         Sequencer::SwingSettings::from (params.swing.getParameter().getValue(), params.swingRef.get()));
     patterns.rebuild();
+}
+
+void State::answerPatternChange()
+{
+    if (! patternsChangeByHand)
+        return;
+
+    setDirty (true);
+    projectChanged.callListeners();
+}
+
+void State::settleAfterLoad (const ReflectorContext& context)
+{
+    if (presetWatcher)
+        presetWatcher->forget();
+
+    if (context != ReflectorContext::forHostChunk())
+        projectChanged.callListeners();
 }
 } // namespace Zn::Audio::Plugins::Vornel

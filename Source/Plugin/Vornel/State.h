@@ -1,17 +1,22 @@
 #pragma once
 
+#include "Foundation/Events/Listener.h"
 #include "Midi/Inbox.h"
 #include "Midi/PitchTableRing.h"
 #include "Parameters/ChangeWatcher.h"
+#include "Plugin/Bases/StateBase.h"
 #include "Plugin/Vornel/BrushParam.h"
 #include "Plugin/Vornel/ConnectedIntParam.h"
 #include "Plugin/Vornel/LearnMap.h"
 #include "Plugin/Vornel/MidiSettings.h"
 #include "Plugin/Vornel/OctaveRange.h"
 #include "Plugin/Vornel/Params.h"
+#include "Plugin/Vornel/ScreenState.h"
 #include "Plugin/Vornel/SnapParam.h"
+#include "Plugin/Vornel/SynthPreset.h"
 #include "Sequencer/BPMParameter.h"
 #include "Sequencer/LiveSlots.h"
+#include "Sequencer/MidiPlayer/Settings.h"
 #include "Sequencer/PatternController.h"
 #include "Sequencer/PlayHead.h"
 
@@ -21,20 +26,24 @@
 
 namespace Zn::Audio::Plugins::Vornel
 {
-/** Everything that the plug-in remembers, and the places where the editor and the audio thread meet.
+/** Everything that the plug-in remembers, and the places where the editor and the audio thread meet. It is the library
+    of pattern presets, too.
 
     Made and changed on the message thread. The audio thread reads the parameters and the atomics, and owns the other
     end of the inbox, the learner and the pitch tables.
 */
-class State
+class State : public Plugin::StateBase
 {
 public:
     State();
 
-    /** What a preset file holds, and the host's project and undo with it: `Params`, then `Patterns`. Loading
-        rebuilds the patterns once, with the swing that was loaded, also when it throws.
-    */
-    void reflect (Reflector& r);
+    Version getMinimumVersion() const override { return { 0, 5, 3 }; }
+    juce::File getDefaultPresetFile() const override;
+
+    /** Makes both libraries ready and loads the default preset of each. */
+    void init() override;
+
+    Presets::Screen& getScreen() noexcept override { return screen; }
 
     /** The columns of a slot's drawing, for the editor. */
     ConnectedIntParam gridOf (std::size_t slotIndex);
@@ -44,8 +53,16 @@ public:
     */
     void followChanges();
 
-    /** Stops answering changes of parameters, so that nothing of the message thread's is under way in here. To be
-        called before the state or its listeners are destroyed. Thread: any.
+    /** Answers changes from now on, on the message thread: of the swing, of what is saved, of the project. Until then
+        the state is its maker's alone, on whatever thread. Called once, when the host knows its parameters.
+    */
+    void startFollowing();
+
+    /** What parameters have changed so far was done by a load, and is no edit. */
+    void forgetChanges() noexcept;
+
+    /** Stops answering changes, so that nothing of the message thread's is under way in here. To be called before the
+        state or its listeners are destroyed. Thread: any.
     */
     void stopFollowing() noexcept;
 
@@ -56,6 +73,7 @@ public:
     void panic() noexcept;
 
     Params params;
+    SynthPreset synthPreset { params.sound };
 
     const std::shared_ptr<Sequencer::PlayHead> playHead;
     const std::shared_ptr<Sequencer::LiveSlots> liveSlots;
@@ -71,6 +89,9 @@ public:
     LearnMap learnMap { *this };
     Midi::PitchTableRing pitchTables;
 
+    Sequencer::MidiPlayer::Settings player; // thread: message
+    ScreenState screen;
+
     std::atomic<float> meter { 0.0f };        // RMS of the left channel, a gain; written: audio, read: GUI
     std::atomic<int> numMeterListeners { 0 }; // the meter is worked out while there are any; written: GUI
 
@@ -80,18 +101,39 @@ public:
     /** A preset file saved without them leaves the sound alone when it is loaded. */
     bool savesParams = true; // thread: message
 
+    /** What the host's project holds of us is another than before, and not by a parameter that the host knows.
+        Thread: message.
+    */
+    Events::Broadcaster projectChanged;
+
     ConnectedIntParam slotParam;     // the slot that is wanted
     ConnectedIntParam lowestOctave;  // of the octave range
     ConnectedIntParam highestOctave; // of the octave range
     SnapParam snapParam { snap };
     BrushParam brushParam { brush };
 
+protected:
+    const Binaries::Library& getArchives() const override;
+
+    /** The key `Params`. */
+    void reflectExtra (Reflector& r) override;
+
+    /** The key `Patterns`, and what only the host's project and undo hold. Loading rebuilds the patterns once, with the
+        swing that was loaded, also when it throws.
+    */
+    void reflectMembers (Reflector& r) override;
+
 private:
-    void reflectParams (Reflector& r);
+    void reflectDocument (Reflector& r);
     void reflectPatterns (Reflector& r);
     void reflectSequencer (Reflector& r);
-    void reflectTransport (Reflector& r);
+    void reflectSlots (Reflector& r);
+    void reflectOctaves (Reflector& r);
     void followSwing();
+    void answerPatternChange();
+    void settleAfterLoad (const ReflectorContext& context);
+    ConnectedIntParam::Connection wantedSlot();
+    ConnectedIntParam::Connection connectionTo (std::atomic<int>& value);
 
     /** Kept from old files, which say more than patterns need; without effect. */
     struct Legacy
@@ -102,6 +144,9 @@ private:
 
     Legacy legacy;
 
-    std::optional<Parameters::ChangeWatcher> swingWatcher;
+    bool patternsChangeByHand = true; // false while they follow a load or the swing
+    Events::Listener patternListener { patterns.getAudioBroadcaster(), [this] { answerPatternChange(); } };
+
+    std::optional<Parameters::ChangeWatcher> swingWatcher, presetWatcher, projectWatcher;
 };
 } // namespace Zn::Audio::Plugins::Vornel

@@ -1,0 +1,329 @@
+#include "Plugin/ProcessorFixture.h"
+#include "Plugin/RandomState.h"
+
+#include "Foundation/Events/SharedTimer.h"
+#include "Plugin/Bases/StateChunk.h"
+#include "Support/Documents.h"
+#include "Support/MessageLoop.h"
+#include "Support/MidiText.h"
+
+#include <gmock/gmock.h>
+
+#include <atomic>
+#include <thread>
+
+namespace Zn::Audio::Plugins::Vornel
+{
+namespace
+{
+using nlohmann::json;
+using Test::events;
+using Test::runMessageLoopUntil;
+using Test::runPendingMessages;
+using Test::TestHost;
+using testing::IsEmpty;
+
+constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
+
+juce::MemoryBlock save (juce::AudioProcessor& processor)
+{
+    juce::MemoryBlock chunk;
+    processor.getStateInformation (chunk);
+    return chunk;
+}
+
+void restore (juce::AudioProcessor& processor, const juce::MemoryBlock& chunk)
+{
+    processor.setStateInformation (chunk.getData(), static_cast<int> (chunk.getSize()));
+}
+
+void restoreOnAWorker (juce::AudioProcessor& processor, const juce::MemoryBlock& chunk)
+{
+    std::thread ([&] { restore (processor, chunk); }).join();
+}
+
+std::string textIn (const juce::MemoryBlock& chunk)
+{
+    return std::string (
+        Plugin::StateChunk::read (chunk.getData(), static_cast<int> (chunk.getSize())).data());
+}
+
+json documentIn (const juce::MemoryBlock& chunk)
+{
+    return json::parse (textIn (chunk), nullptr, false);
+}
+
+std::vector<float> valuesOf (const juce::AudioProcessor& processor)
+{
+    std::vector<float> values;
+
+    for (const auto* parameter : processor.getParameters())
+        values.push_back (parameter->getValue());
+
+    return values;
+}
+
+/** The sound of a held chord. */
+std::vector<float> soundOf (Processor& processor)
+{
+    constexpr auto numSamples = 2 * quarter;
+    processor.setSeed (1);
+    processor.prepareToPlay (48000.0, numSamples);
+
+    juce::AudioBuffer<float> audio (2, numSamples);
+    auto midi = events ("on 48 @0, on 55 @10, on 64 @20");
+    processor.processBlock (audio, midi);
+    return { audio.getReadPointer (0), audio.getReadPointer (0) + numSamples };
+}
+
+/** Sets what a text cannot hold exactly and the host does not keep to what its text says. */
+void roundWhatTheHostDoesNotKeep (State& state)
+{
+    state.bpm.setInt (juce::roundToInt (state.bpm.getFloat()));
+
+    for (auto* parameter : parametersUnknownToHost (state.params))
+        parameter->setValueNotifyingHost (
+            parameter->getValueForText (parameter->getText (parameter->getValue(), 30)));
+}
+} // namespace
+
+TEST (Project, ComesBackInANewInstanceByteForByteAndSoundsTheSame)
+{
+    juce::Random random (1);
+
+    for (auto i = 0; i < 12; ++i)
+    {
+        ProcessorFixture original, copy;
+        randomise (original.state, random);
+        roundWhatTheHostDoesNotKeep (original.state);
+        original.set ("Enable-Synth", "On");
+        original.drawSteps (0, 8, i % 3);
+        original.state.liveSlots->index = 0;
+        original.state.liveSlots->heard = 0;
+
+        const auto chunk = save (original.processor);
+        restore (copy.processor, chunk);
+
+        EXPECT_EQ (textIn (save (copy.processor)), textIn (chunk)) << i;
+        EXPECT_EQ (valuesOf (copy.processor), valuesOf (original.processor)) << i;
+        EXPECT_TRUE (soundOf (copy.processor) == soundOf (original.processor)) << i;
+        EXPECT_EQ (copy.state.isDirty(), original.state.isDirty()) << i;
+    }
+}
+
+TEST (Project, BeginsWithThePresetsThatWelcome)
+{
+    const Processor processor;
+    auto& state = const_cast<Processor&> (processor).getState();
+
+    EXPECT_EQ (state.getName(), "WELCOME");
+    EXPECT_EQ (state.synthPreset.getName(), "Spacey Piano");
+    EXPECT_FALSE (state.isDirty() || state.synthPreset.isDirty());
+    EXPECT_FALSE (state.patterns.getPatternData()->slots[0].events.notes.empty());
+    EXPECT_TRUE (state.synthPreset.getDefaultPresetFile().existsAsFile());
+
+    state.loadInit();
+    EXPECT_EQ (state.getName(), "Init");
+    State fresh;
+    EXPECT_EQ (Tests::saved (state)["Patterns"], Tests::saved (fresh)["Patterns"]);
+    EXPECT_EQ (Tests::saved (state)["Params"], Tests::saved (fresh)["Params"]);
+}
+
+/** What sounds ends, nothing begins, and then the restored pattern is there: at once where the message thread can be
+    had, otherwise when it gets to it.
+*/
+TEST (Project, RestoredIsNeverAnsweredByThePatternBefore)
+{
+    ProcessorFixture original;
+    original.drawSteps (0, 16, 1);
+    const auto chunk = save (original.processor);
+
+    for (const auto onAWorker : { false, true })
+    {
+        ProcessorFixture f;
+        f.drawQuarters (0, 0, 0.9);
+        TestHost host (f.processor);
+        host.watchesRealTime = false;
+        host.send (events ("on 60 @0"));
+        host.run (quarter / 2);
+        EXPECT_EQ (host.noteOns(), "60@0");
+
+        if (onAWorker)
+        {
+            restoreOnAWorker (f.processor, chunk);
+            host.run (4 * quarter);
+            EXPECT_EQ (host.noteOns(), "60@0") << "neither pattern plays while the project waits";
+            EXPECT_THAT (host.getSounding(), IsEmpty());
+
+            EXPECT_TRUE (runMessageLoopUntil ([&] { return ! f.processor.isLoadPending(); }));
+        }
+        else
+        {
+            restore (f.processor, chunk);
+        }
+
+        host.run (2 * quarter);
+        EXPECT_EQ (startsOf (host, 60).size(), 1u);
+        EXPECT_GE (startsOf (host, 72).size(), 7u);
+        host.send (events ("off 60 @0"));
+        host.run (quarter);
+        EXPECT_EQ (host.unbalanced(), "");
+    }
+}
+
+TEST (Project, CutAnywhereLeavesTheOneThatIsThere)
+{
+    ProcessorFixture f;
+    const auto other = save (f.processor);
+    f.drawQuarters (2, 0);
+    f.set ("Transpose", "5");
+    const auto before = save (f.processor);
+
+    const auto whole = static_cast<int> (other.getSize());
+
+    for (auto size = 0; size < whole - 1; ++size) // the last byte is the NUL
+    {
+        f.processor.setStateInformation (other.getData(), size);
+
+        if (size % 512 == 0)
+        {
+            ASSERT_EQ (textIn (save (f.processor)), textIn (before)) << size;
+        }
+    }
+
+    EXPECT_EQ (textIn (save (f.processor)), textIn (before));
+    f.processor.setStateInformation (other.getData(), whole - 1);
+    EXPECT_EQ (textIn (save (f.processor)), textIn (other));
+}
+
+TEST (Project, TellsTheHostOfEditsButNotThatItWasLoaded)
+{
+    struct Host : juce::AudioProcessorListener
+    {
+        void audioProcessorParameterChanged (juce::AudioProcessor*, int, float) override {}
+        void audioProcessorChanged (juce::AudioProcessor*, const ChangeDetails& details) override
+        {
+            edits += details.nonParameterStateChanged ? 1 : 0;
+        }
+
+        int edits = 0;
+    };
+
+    ProcessorFixture f;
+    Host host;
+    f.processor.addListener (&host);
+    const auto later = [&host] {
+        runPendingMessages();
+        Events::SharedTimer::getInstance().timerCallback();
+        Events::SharedTimer::getInstance().timerCallback();
+        return std::exchange (host.edits, 0);
+    };
+
+    later();
+    juce::Random random (3);
+    f.drawQuarters (0, 1);
+    EXPECT_EQ (later(), 1);
+    const auto chunk = save (f.processor);
+    randomise (f.state, random);
+    EXPECT_GT (later(), 0);
+    restore (f.processor, chunk);
+    EXPECT_EQ (later(), 0);
+    f.state.applyDocument (Tests::saved (f.state), ReflectorContext::forPresetFile());
+    EXPECT_GT (later(), 0);
+    f.processor.removeListener (&host);
+}
+
+namespace
+{
+/** The row that all steps of a document are on; none if they are on several, as in a torn one. */
+std::optional<int> rowOf (const json& document)
+{
+    std::optional<int> row;
+
+    for (const auto& pattern : document.at ("Patterns").at ("Patterns"))
+        for (const auto& step : pattern.at ("Pattern").at ("Steps"))
+        {
+            const int noteNum = step.at ("Event").at ("noteNum");
+
+            if (row.value_or (noteNum) != noteNum)
+                return {};
+
+            row = noteNum;
+        }
+
+    return row;
+}
+
+/** Steps in all slots, on one row. */
+void drawRow (ProcessorFixture& f, int row)
+{
+    const Sequencer::PatternController::Edit edit (f.state.patterns);
+
+    for (std::size_t slot = 0; slot < Sequencer::numSlots; ++slot)
+        f.drawSteps (slot, 6, row);
+
+    f.state.setName (juce::String (row));
+}
+} // namespace
+
+TEST (Project, IsWholeHoweverManyThreadsSaveAndRestoreItWhileItPlays)
+{
+    ProcessorFixture f;
+    const auto folder = f.state.getUserFolder();
+    std::vector<juce::MemoryBlock> projects;
+
+    for (const auto row : { 1, 2 })
+    {
+        drawRow (f, row);
+        projects.push_back (save (f.processor));
+        ASSERT_TRUE (f.state.save (juce::URL (folder.getChildFile (juce::String (row) + ".json"))));
+    }
+
+    std::atomic<bool> ends { false };
+    std::atomic<int> numTorn { 0 }, numSaved { 0 }, numWorking { 2 };
+    std::vector<std::thread> threads;
+
+    threads.emplace_back ([&] {
+        juce::AudioBuffer<float> audio (2, 128);
+
+        while (! ends)
+        {
+            auto midi = events ("on 60 @0, off 60 @100");
+            f.processor.processBlock (audio, midi);
+        }
+    });
+
+    for (auto worker = 0; worker < 2; ++worker)
+        threads.emplace_back ([&, worker] {
+            for (auto i = 0; i < 40; ++i)
+            {
+                restore (f.processor, projects[static_cast<std::size_t> ((i + worker) % 2)]);
+                const auto document = documentIn (save (f.processor));
+                numTorn += rowOf (document).has_value() ? 0 : 1;
+                ++numSaved;
+            }
+
+            --numWorking;
+        });
+
+    EXPECT_TRUE (runMessageLoopUntil (
+        [&] {
+            f.state.step (1);
+            drawRow (f, 3);
+            f.state.step (-1);
+            return numWorking == 0;
+        },
+        std::chrono::seconds (60)));
+
+    ends = true;
+
+    for (auto& thread : threads)
+        thread.join();
+
+    EXPECT_EQ (numTorn, 0);
+    EXPECT_EQ (numSaved, 80);
+
+    restore (f.processor, projects.front());
+    EXPECT_EQ (rowOf (documentIn (save (f.processor))), ProcessorFixture::lowestHeld + 1);
+}
+} // namespace Zn::Audio::Plugins::Vornel
