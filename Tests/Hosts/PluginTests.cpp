@@ -1,8 +1,11 @@
 #include "Hosts/Song.h"
+
+#include "Plugin/Bases/StateChunk.h"
 #include "Support/NoteStreams.h"
 #include "Support/RealTimeGuard.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 namespace Zn::Test
 {
@@ -33,6 +36,12 @@ Performance onTheGrid (int firstStep, int numSamples)
         performance.onsets.push_back (stepAt (firstStep + step, step * samplesPerSixteenth));
 
     return performance;
+}
+
+nlohmann::json documentIn (const juce::MemoryBlock& chunk)
+{
+    return nlohmann::json::parse (
+        Audio::Plugin::StateChunk::read (chunk.getData(), static_cast<int> (chunk.getSize())));
 }
 
 class Plugin : public testing::Test
@@ -182,6 +191,41 @@ TEST_F (Plugin, SendsTheArpeggioAsMidiAndSoundsIt)
         for (const auto event : performance.events)
             EXPECT_EQ (event.getMessage().getChannel(), 1);
     }
+}
+
+TEST_F (Plugin, PlaysAProjectOfTheOtherFormat)
+{
+    const Song song { .numBlocks = 2 * blocksPerSecond };
+    VST3Host vst3 { VORNEL_VST3_BUNDLE, song.sampleRate, blockSize };
+    LV2Host lv2 { VORNEL_LV2_LIBRARY, song.sampleRate, blockSize };
+
+    // Something that neither plays by itself: every second step of the pattern, a fifth higher.
+    auto project = documentIn (vst3.save());
+    auto& steps = project["Patterns"]["Patterns"][0]["Pattern"]["Steps"];
+
+    for (std::size_t i = 1; i < steps.size(); i += 2)
+        steps[i]["enabled"] = false;
+
+    project["FlatParams"][0] = (7.0 + 12.0) / 24.0;
+    juce::MemoryBlock chunk;
+    Audio::Plugin::StateChunk::write (project.dump(), chunk);
+
+    vst3.restore (chunk);
+    lv2.restore (vst3.save());
+    EXPECT_EQ (documentIn (lv2.save()), documentIn (vst3.save()));
+
+    auto expected = onTheGrid (0, song.numBlocks * blockSize);
+
+    for (auto& onset : expected.onsets)
+        onset.pitch += 7;
+
+    std::erase_if (expected.onsets, [] (auto onset) { return onset.sample / samplesPerSixteenth % 2 == 1; });
+    EXPECT_TRUE (sameOnsets (play (vst3, song), expected));
+    EXPECT_TRUE (sameOnsets (play (lv2, song, Talk::changesInBars), expected));
+
+    VST3Host back { VORNEL_VST3_BUNDLE, song.sampleRate, blockSize };
+    back.restore (lv2.save());
+    EXPECT_EQ (documentIn (back.save()), documentIn (lv2.save()));
 }
 
 TEST_F (Plugin, AllocatesNothingWhileAnLV2HostRunsIt)

@@ -42,6 +42,18 @@ void VST3Host::restore (const juce::MemoryBlock& chunk)
     plugin->getStateInformation (wrapped); // what was loaded is taken in before it is saved
 }
 
+juce::MemoryBlock VST3Host::save()
+{
+    juce::MemoryBlock wrapped, chunk;
+    plugin->getStateInformation (wrapped);
+
+    if (const auto state =
+            juce::AudioProcessor::getXmlFromBinary (wrapped.getData(), static_cast<int> (wrapped.getSize())))
+        chunk.fromBase64Encoding (state->getChildElementAllSubText ("IComponent", {}).trim());
+
+    return chunk;
+}
+
 juce::MidiBuffer VST3Host::run (int numSamples, const juce::MidiBuffer& midi)
 {
     audio.setSize (audio.getNumChannels(), numSamples, false, false, true);

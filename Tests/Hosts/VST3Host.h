@@ -19,6 +19,9 @@ public:
     /** Loads a state chunk, and returns when the plug-in has taken it in. */
     void restore (const juce::MemoryBlock& chunk);
 
+    /** The state chunk as the plug-in saves it. */
+    juce::MemoryBlock save();
+
     juce::MidiBuffer run (int numSamples, const juce::MidiBuffer& midi);
 
     juce::AudioPluginInstance& getPlugin() { return *plugin; }
