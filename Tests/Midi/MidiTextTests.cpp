@@ -29,6 +29,7 @@ TEST (MidiText, WritesTheBytesOfAMessage)
 
 TEST (MidiText, RefusesWhatIsNoEvent)
 {
-    for (const auto* notation : { "on 60", "on @0", "on 60 loud @0", "note 60 @0" })
+    for (const auto* notation :
+         { "on 60", "on @0", "on loud @0", "on 60 loud @0", "note 60 @0", "cc 1 @0", "cc 1 v2 @0" })
         EXPECT_THROW (events (notation), std::invalid_argument) << notation;
 }

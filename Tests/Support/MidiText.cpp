@@ -1,6 +1,7 @@
 #include "Support/MidiText.h"
 
 #include <iomanip>
+#include <map>
 #include <sstream>
 #include <stdexcept>
 
@@ -9,126 +10,91 @@ namespace Zn::Test
 namespace
 {
 constexpr auto usualVelocity = 100;
+constexpr auto noteOff = 0x80, noteOn = 0x90, controller = 0xb0;
 
-using Words = std::istringstream;
-
-[[noreturn]] void refuse (const std::string& event)
-{
-    throw std::invalid_argument ("no MIDI event: \"" + event + "\"");
-}
-
-/** Reads the words behind the sample mark and those in front of it apart. */
-struct EventText
-{
-    explicit EventText (const std::string& event) : words (event.substr (0, event.find ('@')))
-    {
-        const auto mark = event.find ('@');
-
-        if (mark == std::string::npos)
-            refuse (event);
-
-        sample = std::stoi (event.substr (mark + 1));
-        words >> kind;
-    }
-
-    Words words;
-    std::string kind;
-    int sample = 0;
-};
-
-juce::MidiMessage noteFrom (EventText& event)
-{
-    const auto isOn = event.kind == "on";
-    auto note = -1, channel = 1, velocity = isOn ? usualVelocity : 0;
-    event.words >> note;
-
-    for (std::string word; event.words >> word;)
-    {
-        if (word.front() == 'v')
-            velocity = std::stoi (word.substr (1));
-        else if (word.starts_with ("ch"))
-            channel = std::stoi (word.substr (2));
-        else
-            refuse (word);
-    }
-
-    if (note < 0)
-        refuse ("note without a number");
-
-    return { (isOn ? 0x90 : 0x80) + channel - 1, note, velocity };
-}
-
-juce::MidiMessage controllerFrom (EventText& event)
-{
-    auto number = 0, value = 0, channel = 1;
-    event.words >> number >> value;
-
-    if (std::string word; event.words >> word)
-        channel = std::stoi (word.substr (2));
-
-    return juce::MidiMessage::controllerEvent (channel, number, value);
-}
-
-juce::MidiMessage bytesFrom (EventText& event)
+juce::MidiMessage bytesFrom (std::istream& words)
 {
     std::string bytes;
 
-    for (auto byte = 0; event.words >> std::hex >> byte;)
+    for (auto byte = 0; words >> std::hex >> byte;)
         bytes += static_cast<char> (byte);
 
     return { bytes.data(), static_cast<int> (bytes.size()) };
 }
 
-void addEvent (juce::MidiBuffer& buffer, const std::string& description)
+/** Reads the words in front of an event's sample mark. */
+juce::MidiMessage messageFrom (std::istream& words)
 {
-    EventText event (description);
+    static const std::map<std::string, int> statuses { { "off", noteOff },
+                                                       { "on", noteOn },
+                                                       { "cc", controller } };
+    std::string kind, word;
+    words >> kind;
 
-    if (event.kind == "on" || event.kind == "off")
-        buffer.addEvent (noteFrom (event), event.sample);
-    else if (event.kind == "cc")
-        buffer.addEvent (controllerFrom (event), event.sample);
-    else if (event.kind == "hex")
-        buffer.addEvent (bytesFrom (event), event.sample);
+    if (kind == "hex")
+        return bytesFrom (words);
+
+    const auto status = statuses.at (kind);
+    auto first = 0, second = status == noteOn ? usualVelocity : 0, channel = 1;
+
+    if (! (words >> first) || (status == controller && ! (words >> second)))
+        throw std::invalid_argument ("no number");
+
+    while (words >> word)
+    {
+        if (word.starts_with ("ch"))
+            channel = std::stoi (word.substr (2));
+        else if (word.front() == 'v' && status != controller)
+            second = std::stoi (word.substr (1));
+        else
+            throw std::invalid_argument (word);
+    }
+
+    return { status + channel - 1, first, second };
+}
+
+void addEvent (juce::MidiBuffer& buffer, const std::string& event)
+{
+    try
+    {
+        const auto mark = event.find ('@');
+        std::istringstream words (event.substr (0, mark));
+        buffer.addEvent (messageFrom (words), std::stoi (event.substr (mark + 1)));
+    }
+    catch (const std::logic_error&)
+    {
+        throw std::invalid_argument ("no MIDI event: \"" + event + "\"");
+    }
+}
+
+void writeEvent (std::ostream& out, const juce::MidiMessageMetadata& event)
+{
+    const auto* data = event.data;
+    const auto status = data[0] & 0xf0;
+
+    if (event.numBytes == 3 && (status == noteOff || status == noteOn || status == controller))
+    {
+        out << (status == noteOff ? "off " : status == noteOn ? "on " : "cc ") << int (data[1]);
+
+        if (status == controller)
+            out << ' ' << int (data[2]);
+        else if (data[2] != (status == noteOn ? usualVelocity : 0))
+            out << " v" << int (data[2]);
+
+        if (const auto channel = (data[0] & 0x0f) + 1; channel != 1)
+            out << " ch" << channel;
+    }
     else
-        refuse (description);
-}
+    {
+        out << "hex" << std::hex << std::uppercase << std::setfill ('0');
 
-void writeNote (std::ostream& out, const juce::MidiMessage& message)
-{
-    const auto isOn = message.isNoteOn (true);
-    const auto velocity = static_cast<int> (message.getVelocity());
+        for (auto i = 0; i < event.numBytes; ++i)
+            out << ' ' << std::setw (2) << int (data[i]);
 
-    out << (isOn ? "on " : "off ") << message.getNoteNumber();
+        out << std::dec;
+    }
 
-    if (velocity != (isOn ? usualVelocity : 0))
-        out << " v" << velocity;
-}
-
-void writeBytes (std::ostream& out, const juce::MidiMessage& message)
-{
-    out << "hex" << std::hex << std::uppercase << std::setfill ('0');
-
-    for (auto i = 0; i < message.getRawDataSize(); ++i)
-        out << ' ' << std::setw (2) << static_cast<int> (message.getRawData()[i]);
-
-    out << std::dec;
-}
-
-void writeEvent (std::ostream& out, const juce::MidiMessage& message, int sample)
-{
-    const auto isNote = message.isNoteOn (true) || message.isNoteOff (false);
-
-    if (isNote)
-        writeNote (out, message);
-    else if (message.isController())
-        out << "cc " << message.getControllerNumber() << ' ' << message.getControllerValue();
-    else
-        writeBytes (out, message);
-
-    if ((isNote || message.isController()) && message.getChannel() != 1)
-        out << " ch" << message.getChannel();
-
-    out << " @" << sample;
+    out << " @" << event.samplePosition;
 }
 } // namespace
 
@@ -150,10 +116,8 @@ std::string text (const juce::MidiBuffer& events)
 
     for (const auto event : events)
     {
-        if (out.tellp() > 0)
-            out << ", ";
-
-        writeEvent (out, event.getMessage(), event.samplePosition);
+        out << (out.tellp() > 0 ? ", " : "");
+        writeEvent (out, event);
     }
 
     return out.str();
