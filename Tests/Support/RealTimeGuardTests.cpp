@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <functional>
+#include <latch>
 #include <memory>
 #include <mutex>
 #include <shared_mutex>
@@ -122,22 +123,19 @@ TEST (RealTimeGuard, CountsLocksThatCouldWait)
 
 TEST (RealTimeGuard, WatchesItsOwnThreadWhileItLives)
 {
-    std::atomic<bool> start { false }, done { false };
+    std::latch start { 1 }, done { 1 };
     std::jthread other ([&] {
-        while (! start)
-            std::this_thread::yield();
+        start.wait();
 
         for (auto i = 0; i < 100; ++i)
             allocateOnce();
 
-        done = true;
+        done.count_down();
     });
 
     const auto counts = countDuring ([&] {
-        start = true;
-
-        while (! done)
-            std::this_thread::yield();
+        start.count_down();
+        done.wait();
     });
 
     EXPECT_EQ (counts.heap, 0);

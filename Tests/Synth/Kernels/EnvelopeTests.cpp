@@ -99,27 +99,5 @@ TEST (Envelope, HoldsAShortNoteInSustainBeforeItIsReleased)
     player.lift();
     EXPECT_THAT (player.levels (4), Pointwise (FloatNear (tolerance), { 0.5f, 0.5f, 0.0f, 0.0f }));
 }
-
-TEST (Envelope, IsTheSameHoweverItsRunIsCut)
-{
-    for (auto lift : { 1, 4, 9, 30 })
-        for (auto cut = 1; cut < 40; ++cut)
-        {
-            const auto play = [&] (bool isCut) {
-                Player player;
-                player.press();
-                auto levels = player.levels (lift);
-                player.lift();
-
-                for (auto length : isCut ? std::vector { cut, 40 - cut } : std::vector { 40 })
-                    for (auto level : player.levels (length))
-                        levels.push_back (level);
-
-                return levels;
-            };
-
-            EXPECT_EQ (play (true), play (false)) << "lifted after " << lift << ", cut at " << cut;
-        }
-}
 } // namespace
 } // namespace Zn::Audio::Kernels
