@@ -38,7 +38,7 @@ void FeedbackDelay::prepare (double newSampleRate)
 
 void FeedbackDelay::reset() noexcept
 {
-    Kernels::clearDelay (state, {}); // the line itself is cleared as it is read
+    Kernels::clearDelay (state); // the line itself is cleared as it is read
     numFramesKnown = 0;
     standsAtTargets = false;
 }

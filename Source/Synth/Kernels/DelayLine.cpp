@@ -81,9 +81,8 @@ void processRuns (std::span<float> left,
 }
 } // namespace
 
-void clearDelay (DelayState& state, std::span<Stereo> line) noexcept
+void clearDelay (DelayState& state) noexcept
 {
-    std::fill (line.begin(), line.end(), Stereo {});
     state.position = 0;
     state.feedback = {};
     state.filters = {};

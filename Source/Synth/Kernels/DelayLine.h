@@ -25,8 +25,8 @@ struct DelayState
     LinearRamp feedbackGain;
 };
 
-/** Forgets what is in the line, but not where the delay is going. Thread: prepare, or audio. */
-void clearDelay (DelayState&, std::span<Stereo> line) noexcept;
+/** Forgets what comes back, but not the line, nor where the delay is going. Thread: prepare, or audio. */
+void clearDelay (DelayState&) noexcept;
 
 /** Replaces both channels, of one length, by their echoes. Thread: audio. */
 void processDelay (std::span<float> left,
