@@ -3,6 +3,7 @@
 #include "Parameters/ParamKinds.h"
 #include "Plugin/Bases/Processor.h"
 #include "Plugin/Bases/StateChunk.h"
+#include "Presets/Base.h"
 
 #include "Support/MessageLoop.h"
 
@@ -16,7 +17,7 @@
 namespace Zn::Audio::Plugin
 {
 /** A small plug-in: three parameters, of which the documents round one, and something drawn. */
-struct ToyState
+struct ToyState : Presets::Base
 {
     struct Params : ParamList
     {
@@ -32,7 +33,7 @@ struct ToyState
         }
     };
 
-    void reflect (Reflector& r)
+    void reflectMembers (Reflector& r) override
     {
         if (duringReflect)
             duringReflect();

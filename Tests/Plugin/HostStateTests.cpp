@@ -92,10 +92,10 @@ TEST (HostState, TakesWhatItCanFromABrokenProject)
     }
 }
 
-TEST (HostState, LoadsAProjectOfFiftyMegabytes)
+TEST (HostState, IsLoadedUpToALimitOfItsSize)
 {
     ToyProcessor processor;
-    processor.restore (R"({"waste":")" + std::string (50'000'000, 'x') + R"(","pattern":"song"})");
+    processor.restore (R"({"waste":")" + std::string (12'000'000, 'x') + R"(","pattern":"song"})");
     EXPECT_EQ (processor.pattern(), "song");
 
     processor.restore (R"({"waste":")" + std::string (70'000'000, 'x') + R"(","pattern":"too long"})");
@@ -276,6 +276,29 @@ TEST (HostState, TellsTheHostOfEditsButNotOfItsOwnLoads)
     EXPECT_EQ (host.count, 1);
 
     processor.removeListener (&host);
+}
+
+TEST (HostState, IsTheFloorThatUndoCannotLeave)
+{
+    ToyProcessor processor;
+    auto& undo = processor.getUndo();
+
+    const auto draw = [&] (const char* pattern) {
+        undo.begin();
+        processor.getState().pattern = pattern;
+        undo.markChanged();
+        undo.end ("Draw");
+    };
+
+    draw ("before");
+    processor.restore (song);
+    Events::SharedTimer::getInstance().timerCallback();
+    EXPECT_FALSE (undo.canUndo());
+
+    draw ("after");
+    undo.undo();
+    EXPECT_EQ (processor.pattern(), "song");
+    EXPECT_FALSE (undo.canUndo());
 }
 
 TEST (HostState, GoesWithAProcessorThatDiesBeforeItIsLoaded)

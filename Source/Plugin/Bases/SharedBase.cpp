@@ -26,7 +26,7 @@ SharedBase::~SharedBase()
 void SharedBase::startHostState()
 {
     cacher = std::make_unique<PresetCacher> (*this, [this] { return fullDocument(); });
-    hostTeller.emplace ([this] { tellHost(); });
+    timer.emplace ([this] { tick(); });
     initialised.store (true);
 }
 
@@ -37,7 +37,7 @@ void SharedBase::stopHostState() noexcept
 
     PresetTask::getInstance().remove (this);
     lifeline.cut();
-    hostTeller.reset();
+    timer.reset();
     cacher.reset();
 }
 
@@ -132,13 +132,13 @@ void SharedBase::queueLoad (std::string_view text)
 
     pending->waits = ! Threads::isOnMessageThread();
 
+    cacher->expect (text.substr (0, text.find ('\0')));
+
     if (pending->waits)
     {
         waitedInVain.store (false);
         ++numPendingLoads;
     }
-
-    cacher->expect (text.substr (0, text.find ('\0')));
 
     auto& task = PresetTask::getInstance();
     task.add (this, [this, pending] { load (*pending); });
@@ -151,6 +151,7 @@ void SharedBase::load (PendingLoad& pending)
 {
     const juce::ScopeGuard ends { [this, &pending] {
         hostIsToBeTold.store (false);
+        loadIsFollowedUp.store (false);
         isLoading.store (false);
         cacher->expectationMet();
 
@@ -169,6 +170,7 @@ void SharedBase::load (PendingLoad& pending)
         {}
     };
 
+    quietly ([&] { hostStateAboutToLoad(); });
     quietly ([&] { applyDocument (std::move (pending.document)); });
 
     // Once more: the document's texts of the same parameters are rounded.
@@ -202,8 +204,11 @@ void SharedBase::projectEdited() noexcept
         hostIsToBeTold.store (true);
 }
 
-void SharedBase::tellHost()
+void SharedBase::tick()
 {
+    if (! loadIsFollowedUp.exchange (true))
+        followUpLoad();
+
     if (hostIsToBeTold.exchange (false))
         updateHostDisplay (ChangeDetails().withNonParameterStateChanged (true));
 }

@@ -62,8 +62,14 @@ protected:
     virtual nlohmann::json createDocument() = 0;
     virtual void applyDocument (nlohmann::json document) = 0;
 
-    /** A state from the project is complete, with its parameters; also when it broke off. Thread: message. */
+    /** A state from the project comes. Thread: message. */
+    virtual void hostStateAboutToLoad() {}
+
+    /** It is complete, with its parameters; also when it broke off. Thread: message. */
     virtual void hostStateLoaded() {}
+
+    /** The same with the next tick of the timer, for what need not keep the host waiting. Thread: message. */
+    virtual void followUpLoad() {}
 
     ManagedParameters managedParameters;
     HostParamList hostParameters { managedParameters };
@@ -78,16 +84,17 @@ private:
 
     void queueLoad (std::string_view text);
     void load (PendingLoad& pending);
-    void tellHost();
+    void tick();
 
     std::atomic<bool> initialised { false };
-    std::atomic<int> numPendingLoads { 0 };     // queued by a thread that could not load
-    std::atomic<bool> waitedInVain { false };   // for the load that is pending
-    std::atomic<bool> isLoading { false };      // written: message
-    std::atomic<bool> hostIsToBeTold { false }; // written: message
+    std::atomic<int> numPendingLoads { 0 };      // queued by a thread that could not load
+    std::atomic<bool> waitedInVain { false };    // for the load that is pending
+    std::atomic<bool> isLoading { false };       // written: message
+    std::atomic<bool> hostIsToBeTold { false };  // written: message
+    std::atomic<bool> loadIsFollowedUp { true }; // written: message
 
     Threads::Lifeline lifeline;
     std::unique_ptr<PresetCacher> cacher;
-    std::optional<Events::TimerCallback> hostTeller;
+    std::optional<Events::TimerCallback> timer;
 };
 } // namespace Zn::Audio::Plugin
