@@ -47,8 +47,8 @@ public:
 
     virtual juce::String getZipName() const { return "FactoryPresets.zip"; }
 
-    /** Whether a document's version and product are ours. Is given the header alone: of a file's top level what is
-        neither object nor array. Does not throw.
+    /** Whether a document's version and product are ours. Of a file it is given the keys of the header alone. Does not
+        throw.
     */
     virtual bool isValid (const nlohmann::json& header) const;
 

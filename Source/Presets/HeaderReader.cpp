@@ -1,9 +1,13 @@
 #include "Presets/HeaderReader.h"
 
+#include "Presets/DocumentHeader.h"
 #include "Presets/Reflection/JsonText.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <string>
+#include <utility>
 
 namespace Zn::Presets
 {
@@ -11,7 +15,10 @@ namespace
 {
 using nlohmann::json;
 
-/** Hears every value of a text and keeps those of the outermost object. */
+constexpr std::array headerKeys { "dirty", "id", "name", "product", "version" };
+constexpr std::size_t longestBytes = 4 * longestText; // as UTF-8
+
+/** Hears every value of a text and keeps the header of the outermost object. */
 class HeaderCollector : public json::json_sax_t
 {
 public:
@@ -22,7 +29,10 @@ public:
     bool number_integer (std::int64_t value) override { return keep (value); }
     bool number_unsigned (std::uint64_t value) override { return keep (value); }
     bool number_float (double value, const std::string&) override { return keep (value); }
-    bool string (std::string& value) override { return isOnTopLevel() ? keep (std::move (value)) : true; }
+    bool string (std::string& value) override
+    {
+        return ! isInHeader() || keep (value.substr (0, longestBytes));
+    }
     bool binary (json::binary_t&) override { return true; }
 
     bool start_object (std::size_t) override
@@ -35,7 +45,10 @@ public:
 
     bool key (std::string& name) override
     {
-        if (isOnTopLevel())
+        if (depth == 1)
+            inHeader = std::ranges::find (headerKeys, name) != headerKeys.end();
+
+        if (isInHeader())
             currentKey = std::move (name);
 
         return true;
@@ -48,12 +61,12 @@ public:
     bool parse_error (std::size_t, const std::string&, const json::exception&) override { return false; }
 
 private:
-    bool isOnTopLevel() const noexcept { return depth == 1 && header.is_object(); }
+    bool isInHeader() const noexcept { return depth == 1 && inHeader; }
 
     template <typename Value>
     bool keep (Value&& value)
     {
-        if (isOnTopLevel())
+        if (isInHeader())
             header[currentKey] = std::forward<Value> (value);
 
         return true;
@@ -61,7 +74,7 @@ private:
 
     bool enter()
     {
-        if (isOnTopLevel())
+        if (isInHeader())
             header.erase (currentKey); // the last of several values with one key holds
 
         return ++depth <= Json::deepestNesting;
@@ -74,6 +87,7 @@ private:
     }
 
     int depth = 0;
+    bool inHeader = false; // the value that comes next, if it is one of the outermost object
     std::string currentKey;
 };
 } // namespace

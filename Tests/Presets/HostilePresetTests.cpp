@@ -133,6 +133,24 @@ TEST_F (HostilePresets, OfAnyKindDoNotHoldUpTheList)
     EXPECT_TRUE (toy.load (user ("pipe.json")).is_null());
 }
 
+TEST_F (HostilePresets, AreRememberedByTheirHeadersAlone)
+{
+    const auto longId = juce::String::repeatedString (juce::CharPointer_UTF8 ("\xf0\x9f\x8e\xb9"), 5000);
+    juce::String members;
+
+    for (auto i = 0; i < 10'000; ++i)
+        members << "\"x" << i << "\":\"y\",";
+
+    const auto text = presetText (longId, members).toStdString();
+    EXPECT_LT (readHeader (text).dump().size(), 5000u);
+
+    write (user ("long.json"), text);
+    toy.load (user ("long.json"));
+    ASSERT_EQ (toy.getList().size(), 1u);
+    EXPECT_EQ (toy.getList()[0].id, toy.getId()) << "or nobody could step on from it";
+    EXPECT_EQ (toy.getId().length(), 1024);
+}
+
 TEST_F (HostilePresets, MayBeTenThousand)
 {
     constexpr auto number = 10'000;
