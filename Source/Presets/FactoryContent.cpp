@@ -4,7 +4,8 @@
 #include "Presets/FactoryArchive.h"
 #include "Presets/PresetFile.h"
 
-#include <vector>
+#include <string>
+#include <utility>
 
 namespace Zn::Presets
 {
@@ -27,15 +28,11 @@ bool holds (const juce::File& file, const std::string& content)
            && PresetFile::readBytes (file) == content;
 }
 
-struct MissingFile
+/** Writes what is missing, one file at a time, as all together may be more than fits into memory. */
+void writeMissing (FactoryArchive& archive, const juce::File& folder)
 {
-    juce::File file;
-    std::string content;
-};
-
-std::vector<MissingFile> findMissing (FactoryArchive& archive, const juce::File& folder)
-{
-    std::vector<MissingFile> missing;
+    juce::InterProcessLock lock ("VornelFactoryContent");
+    auto hasWaited = false;
 
     for (auto i = 0; i < archive.size(); ++i)
     {
@@ -45,23 +42,18 @@ std::vector<MissingFile> findMissing (FactoryArchive& archive, const juce::File&
             continue;
 
         const auto file = folder.getChildFile (path);
-        auto content = archive.read (i);
+        const auto content = archive.read (i);
 
-        if (content && ! holds (file, *content) && ! leadsThroughLink (file, folder))
-            missing.push_back ({ file, std::move (*content) });
+        if (! content || holds (file, *content) || leadsThroughLink (file, folder))
+            continue;
+
+        // Without the lock the same is written twice, which harms nobody.
+        if (! std::exchange (hasWaited, true))
+            lock.enter (longestWaitForOthers);
+
+        if (! holds (file, *content))
+            replaceFile (file, *content, Durability::canBeMadeAgain);
     }
-
-    return missing;
-}
-
-void writeMissing (const std::vector<MissingFile>& missing)
-{
-    juce::InterProcessLock lock ("VornelFactoryContent");
-    lock.enter (longestWaitForOthers); // without it the same is written twice, which harms nobody
-
-    for (const auto& [file, content] : missing)
-        if (! holds (file, content))
-            replaceFile (file, content, Durability::canBeMadeAgain);
 }
 
 void removeForeignFolders (const juce::File& folder)
@@ -78,10 +70,7 @@ void installFactoryContent (Binaries::Bytes zip, const juce::File& folder)
         return;
 
     FactoryArchive archive (zip);
-
-    if (const auto missing = findMissing (archive, folder); ! missing.empty())
-        writeMissing (missing);
-
+    writeMissing (archive, folder);
     removeForeignFolders (folder);
 }
 } // namespace Zn::Presets
