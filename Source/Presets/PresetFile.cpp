@@ -9,6 +9,29 @@
 
 namespace Zn::Presets::PresetFile
 {
+namespace
+{
+/** Asks no length: that of a path may be the length of a file that has just taken the open one's place. */
+std::optional<std::string> readToEnd (juce::InputStream& stream)
+{
+    constexpr std::size_t chunk = 64 * 1024;
+    std::string bytes;
+
+    while (bytes.size() <= Json::largestPresetText)
+    {
+        const auto numBefore = bytes.size();
+        bytes.resize (numBefore + chunk);
+        const auto numRead = stream.read (bytes.data() + numBefore, static_cast<int> (chunk));
+        bytes.resize (numBefore + static_cast<std::size_t> (std::max (numRead, 0)));
+
+        if (numRead <= 0)
+            return bytes;
+    }
+
+    return {};
+}
+} // namespace
+
 std::string toBytes (const nlohmann::json& document)
 {
     constexpr auto indent = 4;
@@ -36,10 +59,7 @@ std::optional<std::string> readBytes (const juce::File& file)
     if (stream.failedToOpen())
         return {};
 
-    std::string bytes (static_cast<std::size_t> (stream.getTotalLength()), '\0');
-    const auto numRead = stream.read (bytes.data(), static_cast<int> (bytes.size()));
-    bytes.resize (static_cast<std::size_t> (std::max (numRead, 0)));
-    return bytes;
+    return readToEnd (stream);
 }
 
 bool hasExtension (const juce::File& file, const juce::String& extension)
