@@ -13,9 +13,10 @@ const juce::String temporaryExtension { ".part" };
 const auto longestWrite =
     juce::RelativeTime::minutes (1.0); // an older temporary file belongs to nobody any more
 
+/** Short, so that a file whose name is as long as the disk allows can be saved. */
 juce::String temporaryPrefix (const juce::File& target)
 {
-    return "." + target.getFileName() + ".";
+    return "." + juce::String::toHexString (target.getFileName().hashCode64()) + ".";
 }
 
 /** Makes an empty file that was not there before, so that nobody else writes to it: not even a process that was
@@ -31,10 +32,11 @@ bool createExclusively (const juce::File& file)
 juce::File createTemporaryFor (const juce::File& target)
 {
     constexpr auto mostTries = 100;
+    juce::Random random; // JUCE's shared one is for a single thread
 
     for (auto i = 0; i < mostTries; ++i)
     {
-        const auto stamp = juce::String::toHexString (juce::Random::getSystemRandom().nextInt64());
+        const auto stamp = juce::String::toHexString (random.nextInt64());
         const auto file = target.getSiblingFile (temporaryPrefix (target) + stamp + temporaryExtension);
 
         if (createExclusively (file))

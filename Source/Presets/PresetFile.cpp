@@ -81,6 +81,6 @@ juce::File fileToSave (const juce::URL& destination, const juce::String& extensi
         return {};
 
     const auto file = chosen.getSiblingFile (hasOurs ? name : name + "." + extension);
-    return file.isDirectory() ? juce::File() : file;
+    return file.isDirectory() || ! file.hasWriteAccess() ? juce::File() : file;
 }
 } // namespace Zn::Presets::PresetFile

@@ -24,7 +24,8 @@ std::optional<std::string> readBytes (const juce::File& file);
 bool hasExtension (const juce::File& file, const juce::String& extension);
 
 /** The file that is meant by what a user has chosen to save to: its name made legal, with the extension. No file
-    if that is on no disk of this machine, has no name, or is a folder.
+    if that is on no disk of this machine, has no name, or is a folder or write-protected: a file put in its place
+    would not be.
 */
 juce::File fileToSave (const juce::URL& destination, const juce::String& extension);
 } // namespace PresetFile

@@ -5,6 +5,7 @@
 #include <sys/resource.h>
 
 #include <csignal>
+#include <filesystem>
 
 namespace Zn::Presets::Tests
 {
@@ -52,6 +53,13 @@ TEST_F (AtomicFile, HoldsOldOrNewWheneverItsWriterIsKilled)
     EXPECT_EQ (numFiles(), 1) << "what was left behind is cleared away";
 }
 
+TEST_F (AtomicFile, MayHaveANameAsLongAsTheDiskAllows)
+{
+    const auto longest = root.getChildFile (juce::String::repeatedString ("x", 250) + ".json");
+    EXPECT_TRUE (replaceFile (longest, one, Durability::canBeMadeAgain));
+    EXPECT_EQ (contentOf (longest), one);
+}
+
 TEST_F (AtomicFile, StaysAsItIsOnAFullDisk)
 {
     ASSERT_TRUE (replaceFile (file, one, Durability::canBeMadeAgain));
@@ -83,6 +91,22 @@ TEST_F (AtomicFile, StaysAsItIsInAFolderThatIsReadOnly)
     root.setReadOnly (false);
     EXPECT_EQ (contentOf (file), one);
     EXPECT_EQ (numFiles(), 1);
+}
+
+TEST_F (AtomicFile, IsNotSavedOverWhenItIsWriteProtected)
+{
+    ASSERT_TRUE (replaceFile (file, one, Durability::canBeMadeAgain));
+    file.setReadOnly (true);
+    std::filesystem::permissions (root.getFullPathName().toStdString(), std::filesystem::perms::all);
+
+    ChildProcess writer ([this] {
+        ChildProcess::becomeNobody();
+        Toy toy (root);
+        return toy.save (juce::URL (root.getChildFile ("other.json"))) && ! toy.save (juce::URL (file));
+    });
+
+    EXPECT_TRUE (writer.getResult());
+    EXPECT_EQ (contentOf (file), one);
 }
 } // namespace
 } // namespace Zn::Presets::Tests
