@@ -37,16 +37,14 @@ auto& initializers()
 
 /** For what a click or a start asks for: a preset that breaks off leaves what it has set so far. */
 template <typename Load>
-auto loadQuietly (Load&& load) -> decltype (load())
+void loadQuietly (Load&& load)
 {
     try
     {
-        return load();
+        load();
     }
     catch (const std::exception&)
-    {
-        return decltype (load())();
-    }
+    {}
 }
 } // namespace
 
@@ -239,9 +237,11 @@ void Base::step (int direction)
     for (auto numTried = 0; numTried < size; ++numTried)
     {
         position = steppedPosition (position, direction, size);
-        const auto file = entries[static_cast<std::size_t> (position)].file;
+        auto isRefused = false; // what breaks off is no less where the user is now: it shows its name
 
-        if (loadQuietly ([&] { return ! load (file).is_null(); }))
+        loadQuietly ([&] { isRefused = load (entries[static_cast<std::size_t> (position)].file).is_null(); });
+
+        if (! isRefused)
             return;
     }
 }
