@@ -10,8 +10,7 @@ namespace Zn::Presets
 namespace
 {
 const juce::String temporaryExtension { ".part" };
-const auto longestWrite =
-    juce::RelativeTime::minutes (1.0); // an older temporary file belongs to nobody any more
+const auto longestWrite = juce::RelativeTime::minutes (1.0); // a file left for longer is nobody's any more
 
 /** Short, so that a file whose name is as long as the disk allows can be saved. */
 juce::String temporaryPrefix (const juce::File& target)

@@ -107,17 +107,17 @@ public:
     void loadInit();    // the object's state at its first use
 
     const juce::String& getName() const noexcept { return header.name; }
-    const juce::String& getId() const noexcept
-    {
-        return header.id;
-    } // when it was saved; names a preset with its name
     bool isDirty() const noexcept { return header.dirty; }
+
+    /** When it was saved; together with its name it says which preset this is. */
+    const juce::String& getId() const noexcept { return header.id; }
 
     void setName (const juce::String& newName);
     void setDirty (bool shouldBeDirty); // after every edit by the user
 
-    Events::Broadcaster aboutToLoad,
-        loaded;                  // around everything that loads; every aboutToLoad is followed by one loaded
+    /** Around everything that loads: every aboutToLoad is followed by one loaded. */
+    Events::Broadcaster aboutToLoad, loaded;
+
     Events::Broadcaster changed; // name, id, dirty or list
 
 private:

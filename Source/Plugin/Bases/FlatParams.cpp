@@ -38,9 +38,9 @@ void set (const List& parameters, const json& values)
     for (auto i = 0; i < std::min (parameters.size(), static_cast<int> (values.size())); ++i)
     {
         const auto& entry = values[static_cast<std::size_t> (i)];
-        expectType (entry.is_number(),
-                    "number",
-                    entry); // asked for one, the library would take a boolean too
+
+        // Asked for a number, the library would take a boolean too.
+        expectType (entry.is_number(), "number", entry);
 
         const auto value = std::clamp (entry.get<float>(), 0.0f, 1.0f);
 
