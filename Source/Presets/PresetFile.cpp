@@ -14,7 +14,7 @@ namespace
 /** Asks no length: that of a path may be the length of a file that has just taken the open one's place. */
 std::optional<std::string> readToEnd (juce::InputStream& stream)
 {
-    constexpr std::size_t chunk = 64 * 1024;
+    constexpr std::size_t chunk = 16 * 1024; // most presets take one or two
     std::string bytes;
 
     while (bytes.size() <= Json::largestPresetText)
