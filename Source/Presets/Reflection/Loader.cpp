@@ -66,7 +66,7 @@ Loader* Loader::getChild (const std::string& name)
     if (entry == document.end())
         return nullptr;
 
-    return children.emplace_back (std::make_unique<Loader> (*entry, getContext())).get();
+    return &children.emplace_back (*entry, getContext());
 }
 
 Loader* Loader::getArrayItem (int index)

@@ -4,9 +4,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include <list>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace Zn::Json
 {
@@ -42,7 +42,7 @@ private:
     nlohmann::json& itemAt (int index);
 
     nlohmann::json& document;
-    std::vector<std::unique_ptr<Loader>> children;
+    std::list<Loader> children; // stay where they are as more come
     std::unique_ptr<Loader> item;
 };
 

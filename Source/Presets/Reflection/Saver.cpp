@@ -29,14 +29,17 @@ nlohmann::json Saver::takeDocument()
 {
     auto document = std::move (value);
 
-    for (const auto& child : children)
+    if (document.is_array())
+        document.get_ref<nlohmann::json::array_t&>().reserve (children.size());
+
+    for (auto& child : children)
     {
-        auto childDocument = child->takeDocument();
+        auto childDocument = child.takeDocument();
 
         if (document.is_array())
             document.push_back (std::move (childDocument));
         else
-            document[child->name] = std::move (childDocument);
+            document[child.name] = std::move (childDocument);
     }
 
     return document;
@@ -44,12 +47,14 @@ nlohmann::json Saver::takeDocument()
 
 Saver* Saver::getChild (const std::string& childName)
 {
-    return children.emplace_back (std::make_unique<Saver> (getContext(), childName)).get();
+    return &children.emplace_back (getContext(), childName);
 }
 
 Saver* Saver::addArrayItem()
 {
-    value = nlohmann::json::array();
+    if (! value.is_array())
+        value = nlohmann::json::array();
+
     return getChild ({});
 }
 

@@ -4,9 +4,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include <memory>
+#include <list>
 #include <string>
-#include <vector>
 
 namespace Zn::Json
 {
@@ -31,7 +30,7 @@ public:
 private:
     std::string name;
     nlohmann::json value;
-    std::vector<std::unique_ptr<Saver>> children;
+    std::list<Saver> children; // stay where they are as more come
 };
 
 /** The document of a model. */
