@@ -6,7 +6,6 @@
 #include "Presets/Undo/Manager.h"
 
 #include <memory>
-#include <optional>
 
 namespace Zn::Audio::Plugin
 {
@@ -27,34 +26,12 @@ public:
 
     StateType& getState() noexcept { return *state; }
 
-    /** Made when it is first asked for, as that keeps the state for the first time; begins anew with each state from the
-        project, and outlives every editor. Thread: message.
-    */
-    Undo::Manager& getUndo()
-    {
-        if (! undo.has_value())
-            undo.emplace (*state);
-        else if (undoIsBehind)
-            undo->restart();
-
-        undoIsBehind = false;
-        return *undo;
-    }
+    /** Begins anew with each state from the project, and outlives every editor. Thread: message. */
+    Undo::Manager& getUndo() noexcept { return undo; }
 
 protected:
-    void hostStateAboutToLoad() override
-    {
-        undoIsBehind = undo.has_value();
-
-        if (undoIsBehind)
-            undo->awaitRestart();
-    }
-
-    void followUpLoad() override
-    {
-        if (undoIsBehind)
-            getUndo();
-    }
+    void hostStateAboutToLoad() override { undo.awaitRestart(); }
+    void hostStateLoaded() override { undo.restart(); }
 
     nlohmann::json createDocument() override { return Json::save (*state, ReflectorContext::forHostChunk()); }
 
@@ -66,7 +43,6 @@ protected:
     const std::unique_ptr<StateType> state;
 
 private:
-    std::optional<Undo::Manager> undo;
-    bool undoIsBehind = false; // of a state that came from the project
+    Undo::Manager undo { *state };
 };
 } // namespace Zn::Audio::Plugin

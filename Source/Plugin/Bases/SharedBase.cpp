@@ -151,7 +151,6 @@ void SharedBase::load (PendingLoad& pending)
 {
     const juce::ScopeGuard ends { [this, &pending] {
         hostIsToBeTold.store (false);
-        loadIsFollowedUp.store (false);
         isLoading.store (false);
         cacher->expectationMet();
 
@@ -206,9 +205,6 @@ void SharedBase::projectEdited() noexcept
 
 void SharedBase::tick()
 {
-    if (! loadIsFollowedUp.exchange (true))
-        followUpLoad();
-
     if (hostIsToBeTold.exchange (false))
         updateHostDisplay (ChangeDetails().withNonParameterStateChanged (true));
 }

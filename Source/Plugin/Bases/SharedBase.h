@@ -68,9 +68,6 @@ protected:
     /** It is complete, with its parameters; also when it broke off. Thread: message. */
     virtual void hostStateLoaded() {}
 
-    /** The same with the next tick of the timer, for what need not keep the host waiting. Thread: message. */
-    virtual void followUpLoad() {}
-
     ManagedParameters managedParameters;
     HostParamList hostParameters { managedParameters };
 
@@ -87,11 +84,10 @@ private:
     void tick();
 
     std::atomic<bool> initialised { false };
-    std::atomic<int> numPendingLoads { 0 };      // queued by a thread that could not load
-    std::atomic<bool> waitedInVain { false };    // for the load that is pending
-    std::atomic<bool> isLoading { false };       // written: message
-    std::atomic<bool> hostIsToBeTold { false };  // written: message
-    std::atomic<bool> loadIsFollowedUp { true }; // written: message
+    std::atomic<int> numPendingLoads { 0 };     // queued by a thread that could not load
+    std::atomic<bool> waitedInVain { false };   // for the load that is pending
+    std::atomic<bool> isLoading { false };      // written: message
+    std::atomic<bool> hostIsToBeTold { false }; // written: message
 
     Threads::Lifeline lifeline;
     std::unique_ptr<PresetCacher> cacher;

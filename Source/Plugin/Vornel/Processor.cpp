@@ -39,6 +39,8 @@ Processor::Processor (StartUp startUp)
         loadDefaultPresets (*state);
 
     state->projectChanged.add (projectListener); // the presets above are no edit
+    patternLoads.emplace (getUndo(), *state);
+    soundLoads.emplace (getUndo(), state->synthPreset);
     startHostState();
     state->startFollowing(); // last: from here on the message thread has its part in it
 }
@@ -53,6 +55,12 @@ Processor::~Processor()
     learnWriter.replaceAll ({});
     patternWriter.replaceAll ({});
     Events::GarbageCollector::getInstance().collectNow();
+}
+
+void Processor::hostStateLoaded()
+{
+    state->forgetChanges();
+    Plugin::Processor<State>::hostStateLoaded();
 }
 
 void Processor::setStartSlot (int slot) noexcept

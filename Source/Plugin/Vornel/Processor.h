@@ -7,9 +7,11 @@
 #include "Plugin/Vornel/AudioPipeline.h"
 #include "Plugin/Vornel/MidiPipeline.h"
 #include "Plugin/Vornel/State.h"
+#include "Presets/Undo/PresetLoads.h"
 #include "Sequencer/PatternFrame.h"
 
 #include <array>
+#include <optional>
 
 namespace Zn::Audio::Plugins::Vornel
 {
@@ -41,7 +43,7 @@ protected:
     void process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept override;
     void processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept override;
     void keepForNextBlock (juce::MidiBuffer& hostMidi) noexcept override { midi.keepForNextBlock (hostMidi); }
-    void hostStateLoaded() override { state->forgetChanges(); }
+    void hostStateLoaded() override;
 
 private:
     using PatternRing = GUIToRealTime<Sequencer::PatternFrame, 5>;
@@ -68,5 +70,6 @@ private:
     MidiPipeline midi;
     AudioPipeline sound;
     Events::Listener patternListener, learnListener, projectListener;
+    std::optional<Undo::PresetLoads> patternLoads, soundLoads;
 };
 } // namespace Zn::Audio::Plugins::Vornel

@@ -7,9 +7,9 @@
 
 namespace Zn::Undo
 {
-Manager::Manager (Presets::Base& stateToKeep) : state (stateToKeep)
+namespace
 {
-    keep ("Initial");
+constexpr auto floorName = "Initial";
 }
 
 void Manager::restart()
@@ -17,21 +17,27 @@ void Manager::restart()
     snapshots.clear();
     index = 0;
     depth = 0;
+    changed = false;
     ignoresEdits = false;
-    keep ("Initial");
     callListeners();
 }
 
 void Manager::begin()
 {
-    if (! ignoresEdits)
-        ++depth;
+    if (ignoresEdits)
+        return;
+
+    keepFloor();
+    ++depth;
 }
 
 void Manager::markChanged()
 {
-    if (! ignoresEdits)
-        changed = true;
+    if (ignoresEdits)
+        return;
+
+    keepFloor(); // for an edit that was under way when a project came
+    changed = true;
 }
 
 void Manager::end (const juce::String& name)
@@ -81,9 +87,9 @@ bool Manager::canRedo() const
     return index < static_cast<std::int32_t> (snapshots.size()) - 1;
 }
 
-const juce::String& Manager::getCurrentName() const
+juce::String Manager::getCurrentName() const
 {
-    return snapshots[static_cast<std::size_t> (index)].getName();
+    return snapshots.empty() ? floorName : snapshots[static_cast<std::size_t> (index)].getName();
 }
 
 std::size_t Manager::getNumBytes() const noexcept
@@ -92,6 +98,12 @@ std::size_t Manager::getNumBytes() const noexcept
                             snapshots.end(),
                             std::size_t {},
                             [] (auto sum, const auto& snapshot) { return sum + snapshot.getNumBytes(); });
+}
+
+void Manager::keepFloor()
+{
+    if (snapshots.empty())
+        keep (floorName);
 }
 
 void Manager::keep (const juce::String& name)

@@ -23,8 +23,8 @@ namespace Zn::Undo
 class Manager : public Interface, public Events::HasBroadcaster
 {
 public:
-    /** Keeps the state as it is now. The state must outlive the manager. */
-    explicit Manager (Presets::Base& stateToKeep);
+    /** The state as it is when the first edit begins is the floor. It must outlive the manager. */
+    explicit Manager (Presets::Base& stateToKeep) noexcept : state (stateToKeep) {}
 
     Manager (const Manager&) = delete;
     Manager& operator= (const Manager&) = delete;
@@ -32,7 +32,7 @@ public:
     /** Nothing is an edit from now on until restart(), for a host that loads another project. */
     void awaitRestart() noexcept { ignoresEdits = true; }
 
-    /** Forgets everything and keeps the state as it is now. */
+    /** Forgets everything: the state as it is when the next edit begins is the floor. */
     void restart();
 
     void begin() override;
@@ -52,13 +52,14 @@ public:
     bool canUndo() const override;
     bool canRedo() const override;
 
-    /** Of the snapshot that the state is at. */
-    const juce::String& getCurrentName() const;
+    /** Of the edit that the state is at, "Initial" before the first. */
+    juce::String getCurrentName() const;
 
     /** What all snapshots take. */
     std::size_t getNumBytes() const noexcept;
 
 private:
+    void keepFloor();
     void keep (const juce::String& name);
     void goTo (std::int32_t newIndex);
     void apply (const Snapshot& snapshot);
@@ -67,7 +68,8 @@ private:
     std::int32_t depth = 0; // open edits
     bool changed = false;
     bool ignoresEdits = false; // while something is loaded
-    std::vector<Snapshot> snapshots;
+    std::vector<Snapshot>
+        snapshots; // the floor is kept when it is needed: most projects are loaded to be played
     Presets::Base& state;
 };
 } // namespace Zn::Undo
