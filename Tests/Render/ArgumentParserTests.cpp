@@ -26,7 +26,8 @@ TEST (ArgumentParser, ReadsEveryOption)
 {
     const auto options = parsed (
         "--out-wav=a.wav|--wav-bits|16|--out-midi|b.mid|--out-events|c|--set|Gain=-3 dB|--set|Name=a=b|"
-        "--learn|note 36=slot 2|--learn| cc 64  = Filter-Cutoff |--slot|7|--seed|-5|--bpm|99.5|"
+        "--learn|note 36=slot 2|--learn| cc 64  = Filter-Cutoff |--preset|p.json|--sound|s.json|"
+        "--state-in|old|--state-out|new|--slot|7|--seed|-5|--bpm|99.5|"
         "--sample-rate|44100|--block|random:9:300|--tail|0|--clock|stopped|--loop|0.5:8|--|-in.mid");
 
     EXPECT_EQ (options.wavFile->getFileName(), "a.wav");
@@ -41,6 +42,10 @@ TEST (ArgumentParser, ReadsEveryOption)
     EXPECT_EQ (options.learned[1].number, 64);
     EXPECT_EQ (options.learned[1].slot, std::nullopt);
     EXPECT_EQ (options.learned[1].parameter, "Filter-Cutoff");
+    EXPECT_EQ (options.presetFile->getFileName(), "p.json");
+    EXPECT_EQ (options.soundFile->getFileName(), "s.json");
+    EXPECT_EQ (options.stateFile->getFileName(), "old");
+    EXPECT_EQ (options.newStateFile->getFileName(), "new");
     EXPECT_EQ (options.slot, 7);
     EXPECT_EQ (options.seed, -5);
     EXPECT_EQ (options.bpm, 99.5);
@@ -56,10 +61,10 @@ TEST (ArgumentParser, ReadsEveryOption)
 TEST (ArgumentParser, RefusesWhatMakesNoSense)
 {
     const std::pair<const char*, std::vector<const char*>> rows[] {
-        { "which MIDI file", { "" } },
+        { "which MIDI file", { "", "--out-wav|x|--state-out|y" } },
         { "nothing to write", { "in.mid" } },
         { "one input", { "in.mid|other.mid" } },
-        { "no option '--preset'", { "--preset|x" } },
+        { "no option '--frobnicate'", { "--frobnicate|x" } },
         { "no option '-x'", { "-x" } },
         { "--out-wav needs a value: FILE", { "--out-wav" } },
         { "--out-wav needs a value", { "--out-wav|--out-midi|x" } },
@@ -86,7 +91,8 @@ TEST (ArgumentParser, RefusesWhatMakesNoSense)
         { "A:B", { "--loop|4", "--loop|:" } },
         { "A before B", { "--loop|4:4" } },
         { "from 0 on", { "--loop|-1:4" } },
-        { "given twice", { "in.mid|--out-midi|./in.mid", "in.mid|--out-midi|x|--out-wav|x" } }
+        { "given twice",
+          { "in.mid|--out-midi|./in.mid", "in.mid|--out-midi|x|--out-wav|x", "--state-in|x|--state-out|x" } }
     };
 
     for (const auto& [message, lines] : rows)

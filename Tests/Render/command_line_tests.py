@@ -142,6 +142,35 @@ class CommandLine(unittest.TestCase):
         self.assertIn(first_change("--block", 33), range(20000, 22000))
         self.assertIsNone(first_change("--set", "Quantize=4/4"))
 
+    def preset(self, product, contents):
+        path = self.folder / f"{product}.json"
+        path.write_text(json.dumps({"version": "0.8.0", "product": product, **contents}))
+        return path
+
+    def test_plays_presets_and_states(self):
+        step = {"enabled": True, "Event": {"noteNum": 64}, "Time": {"start": 0.5, "length": 0.25}}
+        pattern = self.preset("Vornel", {"Patterns": {"Patterns": [{"Pattern": {"Steps": [step], "grid": 4}}]}})
+        sound = self.preset("Vornel Sounds", {"Params": {"Master": "-3.19 dB"}})
+        state = self.folder / "state"
+
+        def events(*options):
+            out = self.folder / "out.jsonl"
+            self.assertEqual(self.call(CHORALE, "--out-events", out, *QUICK, *options).returncode, 0)
+            return out.read_text()
+
+        played = events("--preset", pattern)
+        self.assertNotEqual(played, events())
+        self.assertEqual(self.call("--preset", pattern, "--sound", sound, "--state-out", state).stderr, "")
+        self.assertEqual(played, events("--state-in", state))
+        self.assertIn("-3.19 dB", self.call("--state-in", state, "--list-params").stdout)
+        self.assertNotIn("-3.19 dB", self.call("--state-in", state, "--set", "Synth-Volume=1", "--list-params").stdout)
+
+        for option, file, message in (("--preset", sound, "is no pattern preset"), ("--sound", pattern, "is no sound"),
+                                      ("--state-in", CHORALE, "is no state"), ("--state-in", self.folder, "directory"),
+                                      ("--preset", self.folder / "missing.json", "does not exist")):
+            with self.subTest(option=option, message=message):
+                self.expect_failure(1, message, option, file, "--state-out", self.folder / "new")
+
     def test_repeats_a_render_with_the_same_seed(self):
         renders = []
 

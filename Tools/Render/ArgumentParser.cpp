@@ -38,6 +38,19 @@ constexpr std::array rows {
           "FILE",
           "write the same as JSON Lines: {\"sample\": 1234, \"bytes\": [144, 60, 100]}",
           [] (auto& o, auto& v) { o.eventsFile = fileFrom (v); } },
+    Row { "--preset",
+          "FILE",
+          "load a pattern preset; vornel-presets list --paths shows those that there are",
+          [] (auto& o, auto& v) { o.presetFile = fileFrom (v); } },
+    Row { "--sound", "FILE", "load a sound preset", [] (auto& o, auto& v) { o.soundFile = fileFrom (v); } },
+    Row { "--state-in",
+          "FILE",
+          "begin with a state as a host keeps it in its project",
+          [] (auto& o, auto& v) { o.stateFile = fileFrom (v); } },
+    Row { "--state-out",
+          "FILE",
+          "write the state that is played, for a host or --state-in; needs no input",
+          [] (auto& o, auto& v) { o.newStateFile = fileFrom (v); } },
     Row { "--set",
           "ID=TEXT",
           "set a host parameter to a display text; may be given often",
@@ -122,12 +135,19 @@ void setInput (Options& options, const std::string& text)
     options.input = fileFrom (text);
 }
 
-/** Outputs must not fall on each other or on the input. */
+/** Outputs must not fall on each other or on an input. */
 void checkFilesDiffer (const Options& options)
 {
     std::vector<juce::File> files;
 
-    for (const auto& file : { options.input, options.wavFile, options.midiFile, options.eventsFile })
+    for (const auto& file : { options.input,
+                              options.stateFile,
+                              options.presetFile,
+                              options.soundFile,
+                              options.wavFile,
+                              options.midiFile,
+                              options.eventsFile,
+                              options.newStateFile })
     {
         if (! file)
             continue;
@@ -144,12 +164,15 @@ void checkComplete (const Options& options)
     if (options.showsHelp || options.showsVersion)
         return;
 
-    if (! options.input && ! options.listsParameters)
+    if (! options.input && ! options.listsParameters && ! options.newStateFile)
         throw ArgumentError ("which MIDI file? --help shows how to call this");
 
     if (options.input && ! options.listsParameters && ! options.wavFile && ! options.midiFile
-        && ! options.eventsFile)
+        && ! options.eventsFile && ! options.newStateFile)
         throw ArgumentError ("nothing to write: give --out-wav, --out-midi or --out-events");
+
+    if (! options.input && (options.wavFile || options.midiFile || options.eventsFile))
+        throw ArgumentError ("which MIDI file? --help shows how to call this");
 
     checkFilesDiffer (options);
 }

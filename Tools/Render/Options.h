@@ -27,7 +27,8 @@ struct Options
     };
 
     std::optional<juce::File> input;
-    std::optional<juce::File> wavFile, midiFile, eventsFile;
+    std::optional<juce::File> wavFile, midiFile, eventsFile, newStateFile;
+    std::optional<juce::File> stateFile, presetFile, soundFile; // loaded in this order, before the settings
     int wavBits = 24;
     std::vector<Setting> settings;
     std::vector<Learned> learned;

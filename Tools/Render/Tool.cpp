@@ -6,6 +6,7 @@
 #include "JsonLinesWriter.h"
 #include "MidiFileWriter.h"
 #include "ProgressBar.h"
+#include "StateFiles.h"
 #include "WavFileWriter.h"
 
 #include <cmath>
@@ -69,6 +70,7 @@ SongTimeline makeTimeline (const Options& options, const MidiFileSource& source)
 std::unique_ptr<juce::AudioProcessor> makeProcessor (const Options& options, const ProcessorAccess& access)
 {
     auto processor = access.create();
+    loadStateFiles (*processor, options, access);
 
     for (const auto& setting : options.settings)
         setParameter (*processor, setting.identifier, setting.text);
@@ -90,16 +92,15 @@ std::unique_ptr<juce::AudioProcessor> makeProcessor (const Options& options, con
     return processor;
 }
 
-void render (const Options& options, const ProcessorAccess& access, const std::atomic<bool>& interrupted)
+void render (juce::AudioProcessor& processor, const Options& options, const std::atomic<bool>& interrupted)
 {
     const MidiFileSource source (*options.input);
     const auto timeline = makeTimeline (options, source);
-    const auto processor = makeProcessor (options, access);
-    const Writers writers (options, timeline, processor->getTotalNumOutputChannels());
+    const Writers writers (options, timeline, processor.getTotalNumOutputChannels());
 
     auto setup = options.setup;
     setup.tailSamples = std::llround (options.tailSeconds * options.sampleRate);
-    Renderer renderer (*processor, source, timeline, setup);
+    Renderer renderer (processor, source, timeline, setup);
 
     {
         ProgressBar bar;
@@ -119,16 +120,26 @@ void render (const Options& options, const ProcessorAccess& access, const std::a
                   << " samples were beyond full scale and are clipped; --wav-bits 32 keeps them\n";
 }
 
+void run (const Options& options, const ProcessorAccess& access, const std::atomic<bool>& interrupted)
+{
+    const auto processor = makeProcessor (options, access);
+
+    if (options.listsParameters)
+        std::cout << listParameters (*processor);
+    else if (options.input)
+        render (*processor, options, interrupted);
+
+    writeStateFile (*processor, options);
+}
+
 void runOptions (const Options& options, const ProcessorAccess& access, const std::atomic<bool>& interrupted)
 {
     if (options.showsHelp)
         std::cout << helpText();
     else if (options.showsVersion)
         std::cout << "vornel-render " << ZN_RENDER_VERSION << '\n';
-    else if (options.listsParameters)
-        std::cout << listParameters (*makeProcessor (options, access));
     else
-        render (options, access, interrupted);
+        run (options, access, interrupted);
 }
 
 int report (const std::string& message, int status)

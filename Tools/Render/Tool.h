@@ -19,6 +19,10 @@ struct ProcessorAccess
     std::function<void (juce::AudioProcessor&, int slot)> selectSlot;
     std::function<void (juce::AudioProcessor&, const Options::Learned&)> learn; // of a parameter that exists
     std::function<void (juce::AudioProcessor&, juce::int64 seed)> setSeed;
+
+    // Each loads a file and is false if the file is none of its kind; what breaks off is thrown.
+    std::function<bool (juce::AudioProcessor&, const juce::File&)> loadPreset, loadSound;
+    std::function<bool (juce::AudioProcessor&, const juce::MemoryBlock&)> loadState;
 };
 
 /** The whole program, from the arguments behind its name to its exit status: 0, 1 for files, 2 for arguments.

@@ -1,5 +1,6 @@
 #include "Tool.h"
 
+#include "Plugin/Bases/StateChunk.h"
 #include "Plugin/Vornel/Processor.h"
 
 #include <juce_events/juce_events.h>
@@ -21,11 +22,27 @@ void interrupt (int)
     interrupted = true;
 }
 
+auto& stateOf (juce::AudioProcessor& processor)
+{
+    return dynamic_cast<Vornel&> (processor).getState();
+}
+
+bool loadState (juce::AudioProcessor& processor, const juce::MemoryBlock& chunk)
+{
+    const auto size = static_cast<int> (chunk.getSize());
+
+    if (Zn::Audio::Plugin::StateChunk::read (chunk.getData(), size).empty())
+        return false;
+
+    processor.setStateInformation (chunk.getData(), size);
+    return true;
+}
+
 void learn (juce::AudioProcessor& processor, const Zn::Render::Options::Learned& learned)
 {
     using Target = Zn::Midi::Learn::Target;
     const auto target = learned.slot ? Target::forSlot (*learned.slot) : Target::forParam (learned.parameter);
-    dynamic_cast<Vornel&> (processor).getState().learnMap.bind ({ target, learned.number });
+    stateOf (processor).learnMap.bind ({ target, learned.number });
 }
 
 Zn::Render::ProcessorAccess accessToVornel()
@@ -36,6 +53,13 @@ Zn::Render::ProcessorAccess accessToVornel()
                           int slot) { dynamic_cast<Vornel&> (processor).setStartSlot (slot); },
         .learn = learn,
         .setSeed = [] (auto& processor, auto seed) { dynamic_cast<Vornel&> (processor).setSeed (seed); },
+        .loadPreset = [] (auto& processor,
+                          const auto& file) { return ! stateOf (processor).load (file).is_null(); },
+        .loadSound =
+            [] (auto& processor, const auto& file) {
+                return ! stateOf (processor).synthPreset.load (file).is_null();
+            },
+        .loadState = loadState,
     };
 }
 } // namespace
