@@ -1,0 +1,74 @@
+#include "Listing.h"
+
+#include "Plugin/Vornel/State.h"
+
+#include <algorithm>
+#include <array>
+
+namespace Zn::PresetTool
+{
+namespace
+{
+/** The folders between a library's own and the preset. */
+juce::String categoryOf (const juce::File& file, const juce::File& folder)
+{
+    const auto parent = file.getParentDirectory();
+    return parent == folder ? juce::String() : parent.getRelativePathFrom (folder);
+}
+
+void addPresetsOf (std::vector<Listed>& presets, Presets::Base& library, const juce::String& kind)
+{
+    library.prepareFirstUse();
+
+    for (const auto& entry : library.getList())
+    {
+        const auto isUsers = entry.file.isAChildOf (library.getUserFolder());
+        const auto folder = isUsers ? library.getUserFolder() : library.getContentFolder();
+
+        presets.push_back ({ kind,
+                             isUsers ? "user" : "factory",
+                             categoryOf (entry.file, folder),
+                             entry.file.getFileNameWithoutExtension(),
+                             entry.file });
+    }
+}
+} // namespace
+
+std::vector<Listed> listPresets()
+{
+    Audio::Plugins::Vornel::State state;
+    std::vector<Listed> presets;
+    addPresetsOf (presets, state, "pattern");
+    addPresetsOf (presets, state.synthPreset, "sound");
+    return presets;
+}
+
+juce::String tableOf (const std::vector<Listed>& presets)
+{
+    using Row = std::array<juce::String, 4>;
+    std::vector<Row> rows { { "Kind", "Origin", "Category", "Name" } };
+
+    for (const auto& preset : presets)
+        rows.push_back ({ preset.kind, preset.origin, preset.category, preset.name });
+
+    std::array<int, std::tuple_size_v<Row>> widths {};
+
+    for (const auto& row : rows)
+        for (std::size_t i = 0; i < row.size(); ++i)
+            widths[i] = std::max (widths[i], row[i].length());
+
+    juce::String table;
+
+    for (const auto& row : rows)
+    {
+        juce::String line;
+
+        for (std::size_t i = 0; i < row.size(); ++i)
+            line << row[i].paddedRight (' ', widths[i] + 2);
+
+        table << line.trimEnd() << '\n';
+    }
+
+    return table;
+}
+} // namespace Zn::PresetTool
