@@ -270,8 +270,8 @@ void State::followSwing()
 {
     const juce::ScopedValueSetter<bool> parameterTellsItself (patternsChangeByHand, false);
 
-    patterns.setSwing (
-        Sequencer::SwingSettings::from (params.swing.getParameter().getValue(), params.swingRef.get()));
+    patterns.setSwing (Sequencer::SwingSettings::from (double (params.swing.getParameter().getValue()),
+                                                       params.swingRef.get()));
     patterns.rebuild();
 }
 
