@@ -5,21 +5,24 @@
 
 #include <juce_events/juce_events.h>
 
+#include <memory>
+
 namespace Zn::Fuzz
 {
 namespace
 {
-/** In this order, as the folders are asked for when they are first used. */
-struct Environment
+struct Running
 {
-    Tests::TemporaryHome home;
-    juce::ScopedJuceInitialiser_GUI juceIsRunning;
+    juce::ScopedJuceInitialiser_GUI juce;
     Singleton::UserToken singletons;
 };
 } // namespace
 
 void startJuce()
 {
-    static const Environment environment;
+    static const Tests::TemporaryHome home;
+
+    // Never stopped: libFuzzer leaves by exit(), which ends JUCE's own statics first.
+    [[maybe_unused]] static const auto* const running = std::make_unique<Running>().release();
 }
 } // namespace Zn::Fuzz
