@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
 #include <thread>
 #include <vector>
 
@@ -38,6 +39,26 @@ TEST (PresetCacher, MakesADocumentTwiceASecondAtMostAndOnlyAfterAChange)
     runTimerFor (2000);
     EXPECT_EQ (made, 2);
     EXPECT_EQ (cacher.getNewest().at ("made"), 2);
+}
+
+TEST (PresetCacher, TriesAgainWhenADocumentCannotBeMade)
+{
+    const Singleton::UserToken user;
+    ToyProcessor processor;
+    auto made = 0;
+    PresetCacher cacher (processor, [&] {
+        if (++made == 2)
+            throw std::bad_alloc();
+
+        return nlohmann::json { { "made", made } };
+    });
+
+    cacher.expect ("{}");
+    cacher.expectationMet();
+    runTimerFor (500);
+    EXPECT_EQ (cacher.getNewest().at ("made"), 1);
+    runTimerFor (500);
+    EXPECT_EQ (cacher.getNewest().at ("made"), 3);
 }
 
 TEST (PresetCacher, LaysWhatIsToBeLoadedOverItsDocumentUntilThereIsOneThatHasIt)

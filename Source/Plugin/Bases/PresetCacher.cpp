@@ -58,7 +58,7 @@ void PresetCacher::expect (std::string_view text)
     ++numUnmet;
 }
 
-void PresetCacher::expectationMet()
+void PresetCacher::expectationMet() noexcept
 {
     markOutOfDate();
 
@@ -86,9 +86,18 @@ void PresetCacher::publish (nlohmann::json document)
         expected.clear();
 }
 
-void PresetCacher::update()
+void PresetCacher::update() noexcept
 {
-    if (outOfDate.load())
+    if (! outOfDate.load())
+        return;
+
+    try
+    {
         publish (makeNew());
+    }
+    catch (...) // what is here stays until the next try
+    {
+        markOutOfDate();
+    }
 }
 } // namespace Zn::Audio::Plugin

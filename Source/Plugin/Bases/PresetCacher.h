@@ -48,7 +48,7 @@ public:
     void expect (std::string_view text);
 
     /** Such a text has been loaded. Thread: message. */
-    void expectationMet();
+    void expectationMet() noexcept;
 
     static constexpr int intervalMilliseconds = 500;
 
@@ -61,7 +61,7 @@ private:
     std::pair<nlohmann::json, std::vector<std::string>> copyAll();
     nlohmann::json makeNew();
     void publish (nlohmann::json document);
-    void update();
+    void update() noexcept;
 
     juce::AudioProcessor& processor;
     const MakeDocument makeDocument;
