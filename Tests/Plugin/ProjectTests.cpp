@@ -3,6 +3,7 @@
 
 #include "Foundation/Events/SharedTimer.h"
 #include "Plugin/Bases/StateChunk.h"
+#include "Presets/Undo/Transaction.h"
 #include "Support/Documents.h"
 #include "Support/MessageLoop.h"
 #include "Support/MidiText.h"
@@ -279,6 +280,7 @@ TEST (Project, IsWholeHoweverManyThreadsSaveAndRestoreItWhileItPlays)
         ASSERT_TRUE (f.state.save (juce::URL (folder.getChildFile (juce::String (row) + ".json"))));
     }
 
+    auto& undo = f.processor.getUndo();
     std::atomic<bool> ends { false };
     std::atomic<int> numTorn { 0 }, numSaved { 0 }, numWorking { 2 };
     std::vector<std::thread> threads;
@@ -309,7 +311,13 @@ TEST (Project, IsWholeHoweverManyThreadsSaveAndRestoreItWhileItPlays)
     EXPECT_TRUE (runMessageLoopUntil (
         [&] {
             f.state.step (1);
-            drawRow (f, 3);
+            {
+                Undo::Transaction drawing (undo, "Draw");
+                drawRow (f, 3);
+                drawing.markChanged();
+            }
+            undo.undo();
+            undo.redo();
             f.state.step (-1);
             return numWorking == 0;
         },
