@@ -7,8 +7,7 @@
 
 namespace Zn::Midi
 {
-/** Carries messages from the editor's keyboard into the next block: room for a panic of 128 note-offs and
-    more.
+/** Carries messages from the editor's keyboard into the next block: room for every key to go down and up.
 
     The two sides share a spin flag that each holds for a copy only. The editor waits for it; the audio thread
     gives up soon, and the messages then come with a later block.

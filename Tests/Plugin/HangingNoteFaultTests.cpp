@@ -352,4 +352,26 @@ TEST (HangingNotes, AreNotMadeByAPedalThatIsNeverLifted)
     EXPECT_EQ (s.host.unbalanced(), "");
     EXPECT_THAT (s.host.getSounding(), IsEmpty());
 }
+
+TEST (HangingNotes, AreEndedByAPanicThatMovesNothing)
+{
+    using Midi::Learn::Target;
+    SoundingStep s { true };
+    s.sound();
+    s.set ("Transpose", "5");
+    s.state.learnMap.bind ({ Target::forParam ("Transpose"), 64 });
+    s.state.learnMap.learn (Target::forParam ("Filter-Cutoff"));
+
+    for (const auto isLearning : { true, false })
+    {
+        s.state.panic();
+        s.host.run (bar);
+        EXPECT_THAT (s.host.getSounding(), IsEmpty());
+
+        s.state.learnMap.update();
+        EXPECT_EQ (s.state.learnMap.getLearning().has_value(), isLearning);
+        EXPECT_EQ (s.state.params.transpose.get(), 5);
+        s.state.learnMap.cancel();
+    }
+}
 } // namespace Zn::Audio::Plugins::Vornel

@@ -14,6 +14,14 @@ void append (juce::MidiBuffer& target, const juce::MidiBuffer& source, int sampl
     for (const auto event : source)
         writer.add (event, event.samplePosition + sampleOffset);
 }
+
+void releaseEverything (Midi::EventWriter& input) noexcept
+{
+    input.add (Midi::ShortMessage { { 0xB0, Midi::sustainController, 0 } }, 0);
+
+    for (auto note = 0; note < 128; ++note)
+        input.add (Midi::ShortMessage::noteOff (1, note), 0);
+}
 } // namespace
 
 MidiPipeline::MidiPipeline (State& stateToUse) : state (stateToUse), midiProcessor (stateToUse.pitchTables)
@@ -90,6 +98,9 @@ void MidiPipeline::runSegments (const Sequencer::ClockSlice& clock,
     auto start = 0;
     segmentInput.clear();
     Midi::EventWriter input (segmentInput);
+
+    if (state.takePanic()) // past the handlers, or the pedal's lift would move what it has been learned for
+        releaseEverything (input);
 
     for (const auto event : notes)
     {

@@ -85,14 +85,6 @@ MidiSettings State::readMidiSettings() const noexcept
              .arpActive = params.arpActive.get() >= 1 };
 }
 
-void State::panic() noexcept
-{
-    inbox.push (juce::MidiMessage::controllerEvent (1, Midi::sustainController, 0));
-
-    for (auto note = 0; note < 128; ++note)
-        inbox.push (juce::MidiMessage::noteOff (1, note));
-}
-
 ConnectedIntParam State::gridOf (std::size_t slotIndex)
 {
     auto& grid = patterns.getSlots()[slotIndex].pattern.grid;

@@ -69,8 +69,13 @@ public:
     /** Reads what steers a segment. Thread: audio. */
     MidiSettings readMidiSettings() const noexcept;
 
-    /** Ends all that sounds: lets go of every key and of the pedal. Thread: message. */
-    void panic() noexcept;
+    /** Ends all that sounds: lets go of every key and of the pedal, whatever they have been learned for.
+        Thread: message.
+    */
+    void panic() noexcept { panicAsked.store (true); }
+
+    /** Whether there was a panic since the last call. Thread: audio. */
+    bool takePanic() noexcept { return panicAsked.exchange (false); }
 
     Params params;
     SynthPreset synthPreset { params.sound };
@@ -143,6 +148,8 @@ private:
     };
 
     Legacy legacy;
+
+    std::atomic<bool> panicAsked { false }; // set: GUI, cleared: audio
 
     bool patternsChangeByHand = true; // false while they follow a load or the swing
     Events::Listener patternListener { patterns.getAudioBroadcaster(), [this] { answerPatternChange(); } };
