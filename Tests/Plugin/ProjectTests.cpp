@@ -197,6 +197,23 @@ TEST (Project, CutAnywhereLeavesTheOneThatIsThere)
     EXPECT_EQ (textIn (save (f.processor)), textIn (other));
 }
 
+TEST (Project, IsNotOverwrittenByAMoveOfAParameterThatCameBeforeIt)
+{
+    ProcessorFixture f;
+    f.set ("Transpose", "5");
+    const auto chunk = save (f.processor);
+
+    f.state.learnMap.bind ({ Midi::Learn::Target::forParam ("Transpose"), 64 });
+    TestHost host (f.processor);
+    host.send (events ("cc 64 127 @0"));
+    host.run (512);
+    EXPECT_EQ (f.state.params.transpose.get(), 12);
+
+    restore (f.processor, chunk);
+    f.state.learnMap.update();
+    EXPECT_EQ (f.state.params.transpose.get(), 5);
+}
+
 TEST (Project, TellsTheHostOfEditsButNotThatItWasLoaded)
 {
     struct Host : juce::AudioProcessorListener

@@ -116,7 +116,11 @@ void LearnMap::reflect (Reflector& r)
 void LearnMap::update()
 {
     learner.updateFlag();
+    tellOfMoves();
+}
 
+void LearnMap::tellOfMoves()
+{
     for (auto& [identifier, param] : learnedParams)
         param.tellListeners();
 }

@@ -69,6 +69,9 @@ public:
     /** The timer does nothing from now on, and is not in here. Thread: any. */
     void stopUpdating() noexcept { timer.reset(); }
 
+    /** Tells the host and the editor of the parameters that learned messages have moved, if they do not know yet. */
+    void tellOfMoves();
+
 private:
     void tableChanged();
     bool exists (const Target& target) const;

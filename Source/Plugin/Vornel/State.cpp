@@ -101,6 +101,10 @@ ConnectedIntParam State::gridOf (std::size_t slotIndex)
 
 void State::reflectExtra (Reflector& r)
 {
+    // Later, on the timer's tick, their values would be put over those that are loaded.
+    if (r.isLoading())
+        learnMap.tellOfMoves();
+
     StateBase::reflectExtra (r);
 
     const std::string key = "Params";
