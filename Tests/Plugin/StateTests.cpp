@@ -297,6 +297,7 @@ TEST_F (StateTest, IsMarkedAsEditedByWhateverAPresetWouldLose)
         { "a performance control", [&] { change (params.key); }, false, false, false },
         { "the slot", [&] { state.slotParam.setInt (4); }, false, false, true },
         { "the octaves", [&] { state.lowestOctave.setInt (3); }, false, false, true },
+        { "the grid's hold", [&] { state.snapParam.setBool (! state.snap); }, false, false, true },
         { "a project",
           [&] {
               load (state, chunk, ReflectorContext::forHostChunk());

@@ -114,7 +114,7 @@ public:
     ConnectedIntParam slotParam;     // the slot that is wanted
     ConnectedIntParam lowestOctave;  // of the octave range
     ConnectedIntParam highestOctave; // of the octave range
-    SnapParam snapParam { snap };
+    SnapParam snapParam { snap, [this] { projectChanged.callListeners(); } };
     BrushParam brushParam { brush };
 
 protected:
