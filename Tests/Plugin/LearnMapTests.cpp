@@ -375,7 +375,7 @@ TEST_F (LearnMapTest, ChangesWhileAudioRuns)
         }
     });
 
-    for (auto i = 0; i < 300; ++i)
+    for (auto i = 0; i < 100; ++i)
     {
         map.bindKeySwitches (30 + i % 9);
         map.bind ({ i % 2 == 0 ? cutoff : transpose, 64 });

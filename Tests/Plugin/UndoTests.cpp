@@ -149,4 +149,34 @@ TEST_F (PluginUndo, TakesBackAPresetAndNoProject)
     EXPECT_FALSE (undo.canUndo() || undo.canRedo());
     EXPECT_TRUE (document() == before);
 }
+
+TEST_F (PluginUndo, TakesBackWhatWasLearnedChangeByChange)
+{
+    using Midi::Learn::Target;
+    auto& map = state.learnMap;
+
+    const auto listed = [&map] {
+        std::string numbers;
+
+        for (const auto& binding : map.getBindings())
+            numbers += std::to_string (binding.number) + " ";
+
+        return numbers;
+    };
+
+    map.learn (Target::forSlot (2));
+    state.learner.offer ({ juce::MidiMessage (0x90, 36, 100).getRawData(), 3, 0 });
+    map.update();
+    map.bindKeySwitches (120);
+    EXPECT_FALSE (map.bind ({ Target::forSlot (8), 36 }));
+    map.clearAll();
+    map.clearAll();
+
+    std::vector<std::string> tables;
+
+    for (; undo.canUndo(); tables.push_back (listed()))
+        undo.undo();
+
+    EXPECT_EQ (tables, (std::vector<std::string> { "120 121 122 123 124 125 126 127 ", "36 ", "" }));
+}
 } // namespace Zn::Audio::Plugins::Vornel

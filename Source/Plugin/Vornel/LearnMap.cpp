@@ -30,6 +30,14 @@ std::optional<int> numberFor (const Midi::Learn::Target& target, const juce::Mid
 }
 } // namespace
 
+struct LearnMap::Edit
+{
+    explicit Edit (LearnMap& mapToEdit) : map (mapToEdit) { map.editBegins.callListeners(); }
+    ~Edit() { map.editEnds.callListeners(); }
+
+    LearnMap& map;
+};
+
 LearnMap::LearnMap (State& stateToUse)
     : state (stateToUse), learner (stateToUse.learner), timer (std::in_place, [this] { update(); })
 {}
@@ -56,6 +64,7 @@ void LearnMap::cancel()
 
 bool LearnMap::bind (const Binding& binding)
 {
+    const Edit edit (*this);
     const auto isBound = add (binding);
 
     if (isBound)
@@ -66,6 +75,7 @@ bool LearnMap::bind (const Binding& binding)
 
 void LearnMap::bindKeySwitches (int lowestNote)
 {
+    const Edit edit (*this);
     const auto first = juce::jlimit (0, highestNumber + 1 - Sequencer::numSlots, lowestNote);
 
     for (auto slot = 0; slot < Sequencer::numSlots; ++slot)
@@ -76,12 +86,16 @@ void LearnMap::bindKeySwitches (int lowestNote)
 
 void LearnMap::clear (const Target& target)
 {
+    const Edit edit (*this);
+
     if (std::erase_if (handlers, [&] (const auto& h) { return h->getBinding().target == target; }) > 0)
         tableChanged();
 }
 
 void LearnMap::clearAll()
 {
+    const Edit edit (*this);
+
     if (! std::exchange (handlers, {}).empty())
         tableChanged();
 }
@@ -159,6 +173,7 @@ bool LearnMap::take (const juce::MidiMessage& message)
     if (! number.has_value())
         return false;
 
+    const Edit edit (*this);
     learning.reset();
     add ({ target, *number });
     tableChanged();

@@ -60,19 +60,24 @@ public:
     /** Hands a new table to the audio thread and to the host's project. */
     Events::Broadcaster& getTableBroadcaster() noexcept { return tableBroadcaster; }
 
+    /** Around each change of the table that a user makes; a load is none. */
+    Events::Broadcaster editBegins, editEnds;
+
     /** An array. Loading replaces the table by what can be bound of the first 128 entries. */
     void reflect (Reflector& r);
 
     /** Does what the timer does, for whoever cannot wait for it. */
     void update();
 
-    /** The timer does nothing from now on, and is not in here. Thread: any. */
-    void stopUpdating() noexcept { timer.reset(); }
-
     /** Tells the host and the editor of the parameters that learned messages have moved, if they do not know yet. */
     void tellOfMoves();
 
+    /** The timer does nothing from now on, and is not in here. Thread: any. */
+    void stopUpdating() noexcept { timer.reset(); }
+
 private:
+    struct Edit;
+
     void tableChanged();
     bool exists (const Target& target) const;
     bool add (const Binding& binding);

@@ -27,7 +27,10 @@ Processor::Processor (StartUp startUp)
                      [this] {
                          publishLearnTable();
                          projectEdited();
+                         getUndo().markChanged();
                      })
+    , learnBegins (state->learnMap.editBegins, [this] { getUndo().begin(); })
+    , learnEnds (state->learnMap.editEnds, [this] { getUndo().end ("Learn"); })
     , projectListener ([this] { projectEdited(); })
 {
     state->learnMap.setParameters (hostParameters);

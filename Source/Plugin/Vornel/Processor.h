@@ -69,7 +69,7 @@ private:
 
     MidiPipeline midi;
     AudioPipeline sound;
-    Events::Listener patternListener, learnListener, projectListener;
+    Events::Listener patternListener, learnListener, learnBegins, learnEnds, projectListener;
     std::optional<Undo::PresetLoads> patternLoads, soundLoads;
 };
 } // namespace Zn::Audio::Plugins::Vornel
