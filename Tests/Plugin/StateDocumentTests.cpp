@@ -224,9 +224,23 @@ bool isToldElsewhere (std::string_view key)
            || (contains ("Synth/") && ! contains ("name") && ! contains ("id"));
 }
 
+/** Of several things alike the first stands for the others. */
+bool isLikeTheFirst (const std::string& path)
+{
+    for (const std::string list : { "/Patterns/Patterns/", "/Slots/Slots/", "/OSC " })
+        if (const auto found = path.find (list);
+            found != std::string::npos && path[found + list.size()] != '0')
+            return true;
+
+    return false;
+}
+
 std::vector<std::string> placesIn (const json& node, const std::string& path = {})
 {
     std::vector<std::string> places;
+
+    if (isLikeTheFirst (path))
+        return places;
 
     if (! path.empty())
         places.push_back (path);
