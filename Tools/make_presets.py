@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the presets of Resources/Factory/ and their list, Docs/factory-presets.md, from the scores in presets/.
+"""Writes the presets of Resources/Factory/ and their list, Docs/factory-presets.md, from what scores/ holds.
 
     make_presets.py            write the files
     make_presets.py --check    fail if a file differs from what would be written, or should not be there
@@ -8,10 +8,10 @@
 import sys
 from pathlib import Path
 
-from presets.document import file_bytes, pattern_document, sound_document
-from presets.listing import listing
-from presets.patterns import PATTERNS
-from presets.sounds import SOUNDS
+from scores.document import file_bytes, pattern_document, sound_document
+from scores.listing import listing
+from scores.patterns import PATTERNS
+from scores.sounds import SOUNDS
 
 ROOT = Path(__file__).resolve().parent.parent
 FACTORY = ROOT / "Resources" / "Factory"

@@ -4,7 +4,7 @@ HEAD = """\
 # Factory presets
 
 What comes with the plug-in. `Tools/make_presets.py` writes the files in `Resources/Factory` and this list from the
-scores in `Tools/presets`; the build packs them into the program. A pattern preset holds eight patterns. Those marked
+scores in `Tools/scores`; the build packs them into the program. A pattern preset holds eight patterns. Those marked
 with a sound bring it along, the others leave yours as it is.
 """
 
