@@ -13,7 +13,11 @@ json parse (std::string_view text, std::size_t largestText)
 
     constexpr auto allowExceptions = false;
     auto document = json::parse (text.begin(), text.end(), nullptr, allowExceptions);
-    return document.is_discarded() ? json() : document;
+
+    if (document.is_discarded())
+        return nullptr;
+
+    return document; // moved: a document is dear to copy
 }
 
 std::string toText (const json& document, int indent)
