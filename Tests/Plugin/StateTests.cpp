@@ -368,4 +368,47 @@ TEST (Processor, MayGoOnAnotherThreadWhileItsParametersAreFollowed)
         host.join();
     }
 }
+
+TEST (Processor, ComesAndGoesInCrowdsOnManyThreads)
+{
+    const Singleton::UserToken timerStays;
+    std::atomic<int> numEnded { 0 }, numSilent { 0 };
+    std::vector<std::thread> hosts;
+
+    for (auto seed = 0; seed < 4; ++seed)
+        hosts.emplace_back ([&, seed] {
+            std::vector<std::unique_ptr<Processor>> crowd;
+            juce::Random random (seed);
+
+            const auto oneLeaves = [&] {
+                crowd.erase (crowd.begin() + random.nextInt (static_cast<int> (crowd.size())));
+            };
+
+            for (auto i = 0; i < 16; ++i)
+            {
+                crowd.push_back (std::make_unique<Processor>());
+                juce::AudioBuffer<float> audio (2, 512);
+                juce::MidiBuffer midi;
+                midi.addEvent (juce::MidiMessage::noteOn (1, 60, juce::uint8 (100)), 0);
+                crowd.back()->processBlock (audio, midi);
+                numSilent += audio.getMagnitude (0, 512) > 0.0f ? 0 : 1;
+
+                if (random.nextBool())
+                    oneLeaves();
+            }
+
+            while (! crowd.empty())
+                oneLeaves();
+
+            ++numEnded;
+        });
+
+    while (numEnded < 4)
+        Events::SharedTimer::getInstance().timerCallback();
+
+    for (auto& host : hosts)
+        host.join();
+
+    EXPECT_EQ (numSilent, 0);
+}
 } // namespace Zn::Audio::Plugins::Vornel
