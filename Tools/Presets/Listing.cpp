@@ -1,8 +1,8 @@
 #include "Listing.h"
 
 #include "Plugin/Vornel/State.h"
+#include "Support/TextTable.h"
 
-#include <algorithm>
 #include <array>
 
 namespace Zn::PresetTool
@@ -51,24 +51,6 @@ juce::String tableOf (const std::vector<Listed>& presets)
     for (const auto& preset : presets)
         rows.push_back ({ preset.kind, preset.origin, preset.category, preset.name });
 
-    std::array<int, std::tuple_size_v<Row>> widths {};
-
-    for (const auto& row : rows)
-        for (std::size_t i = 0; i < row.size(); ++i)
-            widths[i] = std::max (widths[i], row[i].length());
-
-    juce::String table;
-
-    for (const auto& row : rows)
-    {
-        juce::String line;
-
-        for (std::size_t i = 0; i < row.size(); ++i)
-            line << row[i].paddedRight (' ', widths[i] + 2);
-
-        table << line.trimEnd() << '\n';
-    }
-
-    return table;
+    return Tools::textTable (rows);
 }
 } // namespace Zn::PresetTool

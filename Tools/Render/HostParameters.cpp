@@ -2,6 +2,8 @@
 
 #include "Errors.h"
 
+#include "Support/TextTable.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -94,24 +96,6 @@ juce::String listParameters (const juce::AudioProcessor& processor)
                           parameter->getText (parameter->getValue(), longestText),
                           textsOf (*parameter) });
 
-    std::array<int, 4> widths {};
-
-    for (const auto& row : rows)
-        for (std::size_t i = 0; i < row.size(); ++i)
-            widths[i] = std::max (widths[i], row[i].length());
-
-    juce::String table;
-
-    for (const auto& row : rows)
-    {
-        juce::String line;
-
-        for (std::size_t i = 0; i < row.size(); ++i)
-            line << row[i].paddedRight (' ', widths[i] + 2);
-
-        table << line.trimEnd() << '\n';
-    }
-
-    return table;
+    return Tools::textTable (rows);
 }
 } // namespace Zn::Render
