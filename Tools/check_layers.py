@@ -39,7 +39,8 @@ MODELS = (*FOUNDATIONS, "Parameters")
 ENGINES = (*MODELS, "Midi", "Sequencer", "Synth/Kernels", "Synth", "Presets")
 BASES = (*ENGINES, "Plugin/Transport", "Plugin/Bases")
 PLUGIN = (*BASES, "Plugin/Vornel")
-EVERYTHING = (*PLUGIN, "GUI/Framework", "GUI")
+EDITOR = (*PLUGIN, "GUI/Framework", "GUI/Widgets", "GUI/Pattern")
+EVERYTHING = (*EDITOR, "GUI")
 
 FLOORS = (
     Floor("Foundation", (), EVENTS),
@@ -54,7 +55,9 @@ FLOORS = (
     Floor("Plugin/Bases", (*ENGINES, "Plugin/Transport"), HOSTED, ("nlohmann",)),
     Floor("Plugin/Vornel", BASES, (*HOSTED, "dsp"), ("nlohmann",)),
     Floor("GUI/Framework", FOUNDATIONS, WINDOWS, ("nlohmann",)),
-    Floor("GUI", (*PLUGIN, "GUI/Framework"), (*WINDOWS, *HOSTED)),
+    Floor("GUI/Widgets", (*PLUGIN, "GUI/Framework"), (*WINDOWS, *HOSTED), ("nlohmann",)),
+    Floor("GUI/Pattern", (*PLUGIN, "GUI/Framework", "GUI/Widgets"), (*WINDOWS, *HOSTED)),
+    Floor("GUI", EDITOR, (*WINDOWS, *HOSTED), ("nlohmann",)),
     Floor("Plugin/Host", EVERYTHING, (*WINDOWS, *HOSTED, "audio_utils"), ("lv2", "juce_audio_plugin_client")),
 )
 

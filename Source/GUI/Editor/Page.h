@@ -1,0 +1,54 @@
+#pragma once
+
+#include "GUI/Arp/ArpHeader.h"
+#include "GUI/Arp/ArpParams.h"
+#include "GUI/Arp/BrushBand.h"
+#include "GUI/Editor/OverlayLayer.h"
+#include "GUI/Header/HeaderBand.h"
+#include "GUI/Pattern/PatternArea.h"
+#include "GUI/Player/PlayerBand.h"
+#include "GUI/Sound/SoundBand.h"
+
+namespace Zn::GUI
+{
+/** The whole editor, one page: the pattern in the middle, above it what shapes it, below it what sounds it.
+
+    Its size is the editor's; the scheme places everything in it. Thread: message.
+*/
+class Page : public juce::Component
+{
+public:
+    explicit Page (Audio::Plugins::Vornel::Processor& processor);
+    ~Page() override;
+
+    /** Gives a window the smallest and the largest size and the proportions of the page. */
+    static void limit (juce::ComponentBoundsConstrainer& constrainer)
+    {
+        AssetScheme::Canvas::limit (constrainer);
+    }
+    static Dimensions<int> defaultSize() { return AssetScheme::Canvas::defaultSize(); }
+
+    EditorContext& getContext() noexcept { return context; }
+
+    void paint (juce::Graphics& g) override;
+
+private:
+    AssetScheme::Canvas canvas { *this };
+    UserSettings settings;
+    Edits edits;
+    Learning learning;
+    Events::Broadcaster polls;
+    OverlayLayer overlay;
+    EditorContext context;
+
+    HeaderBand header { context };
+    ArpHeader arpHeader { context };
+    ArpParams arpParams { context };
+    BrushBand brushes { context };
+    PatternArea pattern { context };
+    SoundBand sound { context };
+    PlayerBand player { context };
+
+    Events::UpdateTimer timer;
+};
+} // namespace Zn::GUI

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "GUI/Framework/AssetScheme/Canvas.h"
+#include "GUI/Widgets/Edits.h"
+#include "GUI/Widgets/Learning.h"
+#include "GUI/Widgets/Overlay.h"
+#include "GUI/Widgets/UserSettings.h"
+#include "Plugin/Vornel/Processor.h"
+
+namespace Zn::GUI
+{
+/** What the parts of one open editor share. The editor makes it first and destroys it last. Thread: message. */
+struct EditorContext
+{
+    Audio::Plugins::Vornel::Processor& processor;
+    AssetScheme::Canvas& canvas;
+    UserSettings& settings;
+    Edits& edits;
+    Overlay& overlay;
+    Learning& learning;
+
+    /** Called every Events::UpdateTimer::screenInterval: the time to look whether what is shown has changed. */
+    Events::Broadcaster& polls;
+
+    Audio::Plugins::Vornel::State& state() const noexcept { return processor.getState(); }
+};
+} // namespace Zn::GUI

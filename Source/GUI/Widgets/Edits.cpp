@@ -1,0 +1,73 @@
+#include "GUI/Widgets/Edits.h"
+
+#include <juce_events/juce_events.h>
+
+#include <utility>
+
+namespace Zn::GUI
+{
+namespace
+{
+constexpr auto joinMilliseconds = 600u;
+}
+
+Edits::Edits (Undo::Interface& undoToUse, CallbackFunc finishPendingLoadToUse)
+    : history (undoToUse)
+    , finishPendingLoad (std::move (finishPendingLoadToUse))
+    , timer (100, [this] { closeWhenOld(); })
+{}
+
+void Edits::perform (const juce::String& name, const std::function<bool()>& change)
+{
+    const auto transaction = begin (name);
+
+    if (change())
+        transaction->markChanged();
+}
+
+std::unique_ptr<Undo::Transaction> Edits::begin (const juce::String& name)
+{
+    finish();
+    finishPendingLoad();
+    return std::make_unique<Undo::Transaction> (history, name);
+}
+
+void Edits::join (const void* target, const juce::String& name, const std::function<bool()>& change)
+{
+    const auto now = juce::Time::getMillisecondCounter();
+
+    if (! joined || joined->target != target || now - joined->lastTime > joinMilliseconds)
+        joined = Joined { .target = target, .transaction = begin (name), .lastTime = now };
+
+    joined->lastTime = now;
+    auto& transaction = *joined->transaction;
+
+    if (change())
+        transaction.markChanged();
+}
+
+void Edits::finish()
+{
+    joined.reset();
+}
+
+void Edits::undo()
+{
+    finish();
+    finishPendingLoad();
+    history.undo();
+}
+
+void Edits::redo()
+{
+    finish();
+    finishPendingLoad();
+    history.redo();
+}
+
+void Edits::closeWhenOld()
+{
+    if (joined && juce::Time::getMillisecondCounter() - joined->lastTime > joinMilliseconds)
+        finish();
+}
+} // namespace Zn::GUI

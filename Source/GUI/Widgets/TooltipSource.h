@@ -1,0 +1,22 @@
+#pragma once
+
+#include <juce_core/juce_core.h>
+
+namespace Zn::GUI
+{
+/** What the tooltip of a component says: its name and value in bold, then a line of help, and the key that does the
+    same.
+*/
+struct TooltipText
+{
+    juce::String title, value, help, shortcut;
+};
+
+/** A component that has a tooltip. The overlay asks the one under the pointer. Thread: message. */
+class TooltipSource
+{
+public:
+    virtual ~TooltipSource() = default;
+    virtual TooltipText getTooltipText() const = 0;
+};
+} // namespace Zn::GUI

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Foundation/Events/HasBroadcaster.h"
+
+#include <juce_core/juce_core.h>
+
+namespace Zn::GUI
+{
+/** What a user wants of every editor, kept in a file of theirs. Tells its listeners of changes, and writes them
+    at once. A file that is not there or cannot be read means the defaults. Thread: message.
+*/
+class UserSettings : public Events::HasBroadcaster
+{
+public:
+    struct Values
+    {
+        int middleC = 3; // the octave that note 60 stands in: 3 or 4
+        bool tooltips = true;
+        bool reducedMotion = false; // no fades, pulses and trails
+        int playHeadHertz = 60;     // 60 or 30
+        bool followsPlayingSlot = true;
+        bool wheelTurnsKnobs = true;
+        bool ownColours = false;         // those of the user's Colors.json
+        int chordsPlayed = 0;            // up to ten: then the hint in the roll stays away
+        juce::StringArray favourites {}; // presets, as "product/name"
+
+        bool operator== (const Values&) const = default;
+    };
+
+    /** Reads the file; a file that does not exist is made by the first change. */
+    explicit UserSettings (const juce::File& fileToUse = defaultFile());
+
+    /** In the folder where the program keeps its own things for each user. */
+    static juce::File defaultFile();
+
+    const Values& get() const noexcept { return values; }
+    void set (const Values& newValues);
+
+private:
+    const juce::File file;
+    Values values;
+};
+} // namespace Zn::GUI
