@@ -7,6 +7,7 @@ namespace Zn::GUI
 Page::Page (Audio::Plugins::Vornel::Processor& processor)
     : edits (processor.getUndo(), [&processor] { processor.finishPendingLoad(); })
     , learning (processor.getState().learnMap)
+    , shownSlot (processor.getState().slotParam.getInt())
     , overlay (*this, canvas, settings)
     , context { .processor = processor,
                 .canvas = canvas,
@@ -14,7 +15,8 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
                 .edits = edits,
                 .overlay = overlay,
                 .learning = learning,
-                .polls = polls }
+                .polls = polls,
+                .shownSlot = shownSlot }
     , timer (Events::UpdateTimer::screenInterval, [this] { polls.callListeners(); })
 {
     setOpaque (true);

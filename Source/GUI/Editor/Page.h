@@ -38,6 +38,7 @@ private:
     Edits edits;
     Learning learning;
     Events::Broadcaster polls;
+    Events::Value<int> shownSlot;
     OverlayLayer overlay;
     EditorContext context;
 

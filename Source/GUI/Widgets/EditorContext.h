@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Foundation/Events/Value.h"
 #include "GUI/Framework/AssetScheme/Canvas.h"
 #include "GUI/Widgets/Edits.h"
 #include "GUI/Widgets/Learning.h"
@@ -21,6 +22,9 @@ struct EditorContext
 
     /** Called every Events::UpdateTimer::screenInterval: the time to look whether what is shown has changed. */
     Events::Broadcaster& polls;
+
+    /** The slot that is open for editing, 0..7; another one may be playing. */
+    Events::Value<int>& shownSlot;
 
     Audio::Plugins::Vornel::State& state() const noexcept { return processor.getState(); }
 };
