@@ -57,8 +57,8 @@ FLOORS = (
     Floor("GUI/Framework", FOUNDATIONS, WINDOWS, ("nlohmann",)),
     Floor("GUI/Widgets", (*PLUGIN, "GUI/Framework"), (*WINDOWS, *HOSTED), ("nlohmann",)),
     Floor("GUI/Pattern", (*PLUGIN, "GUI/Framework", "GUI/Widgets"), (*WINDOWS, *HOSTED)),
-    Floor("GUI", EDITOR, (*WINDOWS, *HOSTED), ("nlohmann",)),
-    Floor("Plugin/Host", EVERYTHING, (*WINDOWS, *HOSTED, "audio_utils"), ("lv2", "juce_audio_plugin_client")),
+    Floor("GUI", EDITOR, (*WINDOWS, *HOSTED, "audio_utils"), ("nlohmann",)),
+    Floor("Plugin/Host", EVERYTHING, (*WINDOWS, *HOSTED, "audio_devices", "audio_utils"), ("lv2", "juce_audio_plugin_client")),
 )
 
 MACHINE_PATH = re.compile(r"(?<![\w.$}/-])/(root|home|tmp)/\w")

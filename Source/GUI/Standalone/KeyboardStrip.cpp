@@ -1,0 +1,180 @@
+#include "GUI/Standalone/KeyboardStrip.h"
+
+#include "GUI/Framework/AssetScheme/Base.h"
+
+#include <utility>
+
+namespace Zn::GUI
+{
+namespace
+{
+constexpr int semitonesPerOctave = 12;
+constexpr int lowestKey = 24, highestKey = 108; // of the piano: seven octaves
+constexpr float pianoWhiteKeys = 50.0f;         // on it
+
+juce::Colour colourOf (const char* name)
+{
+    return AssetScheme::Base::get().colourOf (name);
+}
+} // namespace
+
+void KeyboardStrip::Piano::drawWhiteNote (int note,
+                                          juce::Graphics& g,
+                                          juce::Rectangle<float> area,
+                                          bool isDown,
+                                          bool isOver,
+                                          juce::Colour,
+                                          juce::Colour textColour)
+{
+    paintKey (g, area.withTrimmedRight (1.0f), colourOf ("TextSecondary"), isDown, isOver);
+
+    if (const auto name = getWhiteNoteText (note); name.isNotEmpty())
+    {
+        constexpr auto textHeight = 0.7f; // of the key's width
+        g.setColour (textColour);
+        g.setFont (g.getCurrentFont().withHeight (textHeight * area.getWidth()));
+        g.drawText (name, area.withTrimmedBottom (3.0f), juce::Justification::centredBottom, false);
+    }
+}
+
+void KeyboardStrip::Piano::drawBlackNote (
+    int, juce::Graphics& g, juce::Rectangle<float> area, bool isDown, bool isOver, juce::Colour colour)
+{
+    paintKey (g, area, colour, isDown, isOver);
+}
+
+void KeyboardStrip::Piano::paintKey (
+    juce::Graphics& g, juce::Rectangle<float> key, juce::Colour colour, bool isDown, bool isOver)
+{
+    constexpr auto corner = 3.0f;
+    juce::Path shape;
+    shape.addRoundedRectangle (key.getX(),
+                               key.getY(),
+                               key.getWidth(),
+                               key.getHeight(),
+                               corner,
+                               corner,
+                               false,
+                               false,
+                               true,
+                               true);
+
+    g.setColour (isDown ? findColour (keyDownOverlayColourId) : colour);
+    g.fillPath (shape);
+
+    if (isOver && ! isDown)
+    {
+        g.setColour (findColour (mouseOverKeyOverlayColourId));
+        g.fillPath (shape);
+    }
+}
+
+KeyboardStrip::KeyboardStrip (EditorContext& contextToUse, juce::Component& window, CallbackFunc showDevices)
+    : context (contextToUse), typedKeys (window, keys)
+{
+    setTitle ("Keyboard");
+    setFocusContainerType (FocusContainerType::focusContainer);
+
+    devices.onClick = std::move (showDevices);
+    devices.setTooltip ("Choose what Vornel is heard through, and which MIDI devices play it.");
+
+    typing.setClickingTogglesState (true);
+    typing.setToggleState (true, juce::dontSendNotification);
+    typing.onClick = [this] { typedKeys.setActive (typing.getToggleState()); };
+    typing.setTooltip ("The row from A plays notes, Z and X move it by an octave.");
+
+    down.setTitle ("Octave down");
+    up.setTitle ("Octave up");
+    down.onClick = [this] { typedKeys.setLowestNote (typedKeys.getLowestNote() - semitonesPerOctave); };
+    up.onClick = [this] { typedKeys.setLowestNote (typedKeys.getLowestNote() + semitonesPerOctave); };
+    typedKeys.octaveChanged = [this] { showOctave(); };
+
+    octave.setJustificationType (juce::Justification::centred);
+    octave.setBorderSize ({});
+    piano.setAvailableRange (lowestKey, highestKey);
+    piano.setScrollButtonsVisible (false);
+    piano.clearKeyMappings(); // the typed keys are ours
+    piano.setWantsKeyboardFocus (false);
+
+    for (auto* child :
+         std::initializer_list<juce::Component*> { &devices, &typing, &down, &octave, &up, &piano })
+        addAndMakeVisible (child);
+
+    keys.addListener (this);
+    takeColours();
+    showOctave();
+}
+
+KeyboardStrip::~KeyboardStrip()
+{
+    keys.removeListener (this);
+
+    for (auto note = 0; note < 128; ++note) // whoever closes the window while a key is down
+        if (keys.isNoteOn (1, note))
+            context.state().inbox.push (juce::MidiMessage::noteOff (1, note));
+}
+
+void KeyboardStrip::paint (juce::Graphics& g)
+{
+    g.fillAll (colourOf ("Band"));
+}
+
+void KeyboardStrip::resized()
+{
+    constexpr auto gapParts = 16; // of the strip's height
+    const auto gap = getHeight() / gapParts;
+    auto area = getLocalBounds().reduced (2 * gap, 2 * gap);
+    auto controls = area.removeFromLeft (juce::roundToInt (2.4 * getHeight()));
+    area.removeFromLeft (2 * gap);
+    piano.setBounds (area);
+    piano.setKeyWidth (static_cast<float> (area.getWidth()) / pianoWhiteKeys);
+
+    devices.setBounds (controls.removeFromTop ((controls.getHeight() - gap) / 2));
+    controls.removeFromTop (gap);
+    typing.setBounds (controls.removeFromLeft (controls.getWidth() / 2));
+    controls.removeFromLeft (gap);
+    down.setBounds (controls.removeFromLeft (controls.getHeight()));
+    up.setBounds (controls.removeFromRight (controls.getHeight()));
+    octave.setBounds (controls);
+    octave.setFont (context.canvas.fontOf ("FontBody"));
+}
+
+void KeyboardStrip::handleNoteOn (juce::MidiKeyboardState*, int channel, int note, float velocity)
+{
+    context.state().inbox.push (juce::MidiMessage::noteOn (channel, note, velocity));
+}
+
+void KeyboardStrip::handleNoteOff (juce::MidiKeyboardState*, int channel, int note, float velocity)
+{
+    context.state().inbox.push (juce::MidiMessage::noteOff (channel, note, velocity));
+}
+
+void KeyboardStrip::takeColours()
+{
+    piano.setColour (Piano::whiteNoteColourId, colourOf ("TextSecondary"));
+    piano.setColour (Piano::blackNoteColourId, colourOf ("Roll"));
+    piano.setColour (Piano::keySeparatorLineColourId, colourOf ("Window"));
+    piano.setColour (Piano::mouseOverKeyOverlayColourId, colourOf ("MidiWash"));
+    piano.setColour (Piano::keyDownOverlayColourId, colourOf ("Midi"));
+    piano.setColour (Piano::textLabelColourId, colourOf ("Window"));
+    piano.setColour (Piano::shadowColourId, juce::Colours::transparentBlack);
+
+    for (auto* button : { &devices, &typing, &down, &up })
+    {
+        button->setColour (juce::TextButton::buttonColourId, colourOf ("Control"));
+        button->setColour (juce::TextButton::buttonOnColourId, colourOf ("MidiDeep"));
+        button->setColour (juce::TextButton::textColourOffId, colourOf ("Text"));
+        button->setColour (juce::TextButton::textColourOnId, colourOf ("Text"));
+        button->setColour (juce::ComboBox::outlineColourId, juce::Colours::transparentBlack);
+    }
+
+    octave.setColour (juce::Label::textColourId, colourOf ("Text"));
+}
+
+void KeyboardStrip::showOctave()
+{
+    const auto middleC = context.settings.get().middleC;
+    octave.setText (juce::MidiMessage::getMidiNoteName (typedKeys.getLowestNote(), true, true, middleC),
+                    juce::dontSendNotification);
+}
+} // namespace Zn::GUI

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "GUI/Editor/Page.h"
+#include "GUI/Standalone/KeyboardStrip.h"
+
+#include <juce_audio_processors/juce_audio_processors.h>
+
+namespace Zn::GUI
+{
+/** What the window of the program shows: the editor, and below it the keyboard strip. The space bar starts and stops
+    the clock, as there is no host to do it. Thread: message.
+*/
+class StandaloneView : public juce::Component
+{
+public:
+    /** The page lies in the editor. */
+    StandaloneView (std::unique_ptr<juce::AudioProcessorEditor> editorToShow,
+                    Page& pageOfEditor,
+                    CallbackFunc showDevices);
+    ~StandaloneView() override;
+
+    /** As the editor's, with the strip. */
+    static void limit (juce::ComponentBoundsConstrainer& constrainer);
+
+    KeyboardStrip& getStrip() noexcept { return strip; }
+
+    void resized() override;
+    void paint (juce::Graphics& g) override;
+    bool keyPressed (const juce::KeyPress& key) override;
+    void childBoundsChanged (juce::Component* child) override;
+
+private:
+    Page& page;
+    std::unique_ptr<juce::AudioProcessorEditor> editor;
+    KeyboardStrip strip;
+    bool isLayingOut = false;
+};
+} // namespace Zn::GUI

@@ -1,0 +1,145 @@
+// The program that needs no host: a window with the editor and a keyboard. JUCE's holder owns the devices and the
+// processor, and keeps the settings of both.
+
+#include "Plugin/Host/HostedProcessor.h"
+
+#include "GUI/Standalone/StandaloneView.h"
+
+#include <juce_audio_devices/juce_audio_devices.h>
+#include <juce_audio_utils/juce_audio_utils.h>
+#include <juce_gui_extra/juce_gui_extra.h>
+
+#include <juce_audio_plugin_client/Standalone/juce_StandaloneFilterWindow.h>
+
+#include <memory>
+
+namespace Zn::Audio
+{
+namespace
+{
+using Editor = Plugin::StateEditor<Plugins::Vornel::Processor, GUI::Page>;
+
+/** The song that never stops: with it the internal clock is started and stopped by the editor, as in a host. */
+class FreeTransport : public juce::AudioPlayHead
+{
+    juce::Optional<PositionInfo> getPosition() const override
+    {
+        PositionInfo position;
+        position.setIsPlaying (true);
+        return position;
+    }
+};
+
+class MainWindow : public juce::DocumentWindow
+{
+public:
+    MainWindow (const juce::String& name, juce::PropertySet* settings)
+        : DocumentWindow (name, juce::Colours::black, allButtons), holder (makeHolder (settings))
+    {
+        auto& processor = static_cast<HostedProcessor&> (*holder->processor);
+        processor.getState().playHead->internalClock = true;
+        processor.setPlayHead (&transport);
+
+        setUsingNativeTitleBar (true);
+        setContentOwned (makeView().release(), true);
+        GUI::StandaloneView::limit (limits);
+        setConstrainer (&limits);
+        setResizable (true, false);
+        place (settings);
+        setVisible (true);
+    }
+
+    ~MainWindow() override
+    {
+        if (auto* settings = holder->settings.get())
+            settings->setValue (placeKey, getWindowStateAsString());
+
+        holder->stopPlaying();
+        clearContentComponent();
+        holder->processor->setPlayHead (nullptr);
+    }
+
+    void closeButtonPressed() override { juce::JUCEApplicationBase::getInstance()->systemRequestedQuit(); }
+
+    void save() { holder->savePluginState(); }
+
+private:
+    static constexpr auto placeKey = "window";
+
+    static std::unique_ptr<juce::StandalonePluginHolder> makeHolder (juce::PropertySet* settings)
+    {
+        constexpr auto opensAllMidiInputs = true;
+        const juce::Array<juce::StandalonePluginHolder::PluginInOuts> channels {
+            { 0, 2 }
+        }; // nothing is recorded
+        return std::make_unique<juce::StandalonePluginHolder> (settings,
+                                                               false,
+                                                               juce::String(),
+                                                               nullptr,
+                                                               channels,
+                                                               opensAllMidiInputs);
+    }
+
+    std::unique_ptr<GUI::StandaloneView> makeView()
+    {
+        std::unique_ptr<juce::AudioProcessorEditor> editor (holder->processor->createEditorIfNeeded());
+        auto& page = dynamic_cast<Editor&> (*editor).getPage();
+        return std::make_unique<GUI::StandaloneView> (std::move (editor), page, [this] {
+            holder->showAudioSettingsDialog();
+        });
+    }
+
+    void place (juce::PropertySet* settings)
+    {
+        if (settings == nullptr || ! restoreWindowStateFromString (settings->getValue (placeKey)))
+            centreWithSize (getWidth(), getHeight());
+    }
+
+    FreeTransport transport;
+    juce::ComponentBoundsConstrainer limits;
+    const std::unique_ptr<juce::StandalonePluginHolder> holder;
+};
+
+class StandaloneApp : public juce::JUCEApplication
+{
+public:
+    const juce::String getApplicationName() override { return JucePlugin_Name; }
+    const juce::String getApplicationVersion() override { return JucePlugin_VersionString; }
+
+    void initialise (const juce::String&) override
+    {
+        juce::PropertiesFile::Options options;
+        options.applicationName = getApplicationName();
+        options.folderName = juce::File::getSpecialLocation (juce::File::userApplicationDataDirectory)
+                                 .getChildFile (JucePlugin_Manufacturer)
+                                 .getChildFile (JucePlugin_Name)
+                                 .getFullPathName();
+        options.filenameSuffix = ".settings";
+        properties.setStorageParameters (options);
+        window = std::make_unique<MainWindow> (getApplicationName(), properties.getUserSettings());
+    }
+
+    void shutdown() override
+    {
+        window.reset();
+        properties.saveIfNeeded();
+    }
+
+    void systemRequestedQuit() override
+    {
+        window->save();
+        quit();
+    }
+
+private:
+    juce::ApplicationProperties properties;
+    std::unique_ptr<MainWindow> window;
+};
+} // namespace
+} // namespace Zn::Audio
+
+/** What JUCE's main function runs, and then deletes. */
+juce::JUCEApplicationBase* juce_CreateApplication()
+{
+    return new Zn::Audio::StandaloneApp();
+}
