@@ -56,7 +56,7 @@ FLOORS = (
     Floor("Plugin/Vornel", BASES, (*HOSTED, "dsp"), ("nlohmann",)),
     Floor("GUI/Framework", FOUNDATIONS, WINDOWS, ("nlohmann",)),
     Floor("GUI/Widgets", (*PLUGIN, "GUI/Framework"), (*WINDOWS, *HOSTED), ("nlohmann",)),
-    Floor("GUI/Pattern", (*PLUGIN, "GUI/Framework", "GUI/Widgets"), (*WINDOWS, *HOSTED)),
+    Floor("GUI/Pattern", (*PLUGIN, "GUI/Framework", "GUI/Widgets"), (*WINDOWS, *HOSTED), ("nlohmann",)),
     Floor("GUI", EDITOR, (*WINDOWS, *HOSTED, "audio_utils"), ("nlohmann",)),
     Floor("Plugin/Host", EVERYTHING, (*WINDOWS, *HOSTED, "audio_devices", "audio_utils"), ("lv2", "juce_audio_plugin_client")),
 )

@@ -1,0 +1,220 @@
+#include "GUI/Pattern/PatternEditor.h"
+
+#include "GUI/Pattern/NoteMatch.h"
+
+#include <utility>
+
+namespace Zn::GUI
+{
+namespace
+{
+constexpr auto publishMilliseconds = 20u; // at least, between two frames of a drag
+}
+
+struct PatternEditor::Press
+{
+    std::unique_ptr<Undo::Transaction> transaction;
+    Drawing drawing;         // as it was
+    bool isDisowned = false; // others have changed the slot since, so it no longer belongs to the drag
+};
+
+PatternEditor::PatternEditor (EditorContext& contextToUse)
+    : context (contextToUse)
+    , slotIndex (static_cast<std::size_t> (contextToUse.shownSlot.get()))
+    , shown (Drawing::of (slot()))
+    , written (shown)
+    , modelListener (contextToUse.state().patterns.getEditorBroadcaster(), [this] { followModel(); })
+    , slotListener (contextToUse.shownSlot, [this] { followSlot(); })
+    , pollListener (contextToUse.polls, [this] { publishWhenDue(); })
+{}
+
+PatternEditor::~PatternEditor()
+{
+    endDrag();
+}
+
+NoteGrid PatternEditor::getGrid (bool oppositeOfSnap) const noexcept
+{
+    return { .columns = shown.grid, .snaps = context.state().snap != oppositeOfSnap };
+}
+
+void PatternEditor::setHoveredNote (int note)
+{
+    if (std::exchange (hovered, note) != note)
+        hoverChanged.callListeners();
+}
+
+void PatternEditor::select (NoteSelection selection)
+{
+    if (shown.selection == selection)
+        return;
+
+    context.edits.finish();
+    shown.selection = std::move (selection);
+    selectionChanged.callListeners();
+}
+
+void PatternEditor::setLasso (std::optional<RollArea> newLasso)
+{
+    if (lasso == newLasso)
+        return;
+
+    lasso = newLasso;
+    lassoChanged.callListeners();
+}
+
+bool PatternEditor::perform (const juce::String& name, const Change& change)
+{
+    endDrag();
+
+    auto hasChanged = false;
+    context.edits.perform (name, [&] {
+        auto drawing = shown;
+        change (drawing);
+        show (std::move (drawing));
+        hasChanged = ! shown.playsAs (written);
+        publish();
+        return hasChanged;
+    });
+
+    return hasChanged;
+}
+
+bool PatternEditor::nudge (Nudge kind, const juce::String& name, const Change& change)
+{
+    endDrag();
+
+    auto hasChanged = false;
+    context.edits.join (&nudgeTargets[static_cast<std::size_t> (kind)], name, [&] {
+        auto drawing = shown;
+        change (drawing);
+        show (std::move (drawing));
+        hasChanged = ! shown.playsAs (written);
+        publish();
+        return hasChanged;
+    });
+
+    return hasChanged;
+}
+
+void PatternEditor::beginDrag (const juce::String& name)
+{
+    endDrag();
+
+    auto transaction = context.edits.begin (name); // may load the project, and so change what is shown
+    press = std::make_unique<Press> (Press { .transaction = std::move (transaction), .drawing = shown });
+}
+
+void PatternEditor::updateDrag (const Change& change)
+{
+    if (press == nullptr || press->isDisowned)
+        return;
+
+    auto drawing = press->drawing;
+    change (drawing);
+    show (std::move (drawing));
+    publishWhenDue();
+}
+
+void PatternEditor::endDrag()
+{
+    if (press == nullptr)
+        return;
+
+    publish();
+    const auto ended = std::move (press);
+
+    if (! ended->isDisowned && ! shown.playsAs (ended->drawing))
+        ended->transaction->markChanged();
+}
+
+void PatternEditor::cancelDrag()
+{
+    if (press == nullptr)
+        return;
+
+    if (! press->isDisowned)
+        show (press->drawing);
+
+    endDrag();
+}
+
+const Drawing& PatternEditor::getDrawingAtPress() const noexcept
+{
+    return press != nullptr ? press->drawing : shown;
+}
+
+Sequencer::PatternSlot& PatternEditor::slot() const
+{
+    return context.state().patterns.getSlots()[slotIndex];
+}
+
+void PatternEditor::show (Drawing newDrawing)
+{
+    const auto playsAnew = ! newDrawing.playsAs (shown);
+    const auto selectsAnew = newDrawing.selection != shown.selection;
+    shown = std::move (newDrawing);
+
+    if (! shown.hasNote (hovered))
+        setHoveredNote (-1);
+
+    if (playsAnew)
+        drawingChanged.callListeners();
+
+    if (selectsAnew)
+        selectionChanged.callListeners();
+}
+
+void PatternEditor::publish()
+{
+    if (shown.playsAs (written))
+        return;
+
+    const juce::ScopedValueSetter<bool> byOurselves (isPublishing, true);
+    const Sequencer::PatternController::Edit edit (context.state().patterns);
+    shown.writeTo (slot());
+    written = shown;
+    lastPublished = juce::Time::getMillisecondCounter();
+}
+
+void PatternEditor::publishWhenDue()
+{
+    if (juce::Time::getMillisecondCounter() - lastPublished >= publishMilliseconds)
+        publish();
+}
+
+void PatternEditor::followModel()
+{
+    if (isPublishing)
+        return;
+
+    auto drawing = Drawing::of (slot());
+
+    if (drawing.playsAs (written))
+        return; // another slot, or the swing
+
+    if (press != nullptr)
+        press->isDisowned = true;
+
+    setLasso ({});
+    drawing.selection = selectionAfterChange (shown, drawing.notes);
+    written = drawing;
+    show (std::move (drawing));
+}
+
+void PatternEditor::followSlot()
+{
+    const auto newIndex = static_cast<std::size_t> (context.shownSlot.get());
+
+    if (slotIndex == newIndex)
+        return;
+
+    endDrag();
+    setLasso ({});
+    setHoveredNote (-1);
+
+    slotIndex = newIndex;
+    written = Drawing::of (slot());
+    show (written);
+}
+} // namespace Zn::GUI

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "GUI/Pattern/RollPointer.h"
+
+namespace Zn::GUI
+{
+/** What one brush does with the pointer. A press is followed by any number of drags and one release, unless the edit is
+    cancelled: then the tool hears of neither. Thread: message.
+*/
+class RollTool
+{
+public:
+    virtual ~RollTool() = default;
+
+    virtual void down (const RollPointer& pointer) = 0;
+    virtual void drag (const RollPointer& pointer) = 0;
+    virtual void up (const RollPointer& pointer) = 0;
+
+    /** Comes after the release of the second press, unless the pointer has moved. */
+    virtual void doubleClick (const RollPointer&) {}
+
+    virtual RollCursor cursorAt (const RollPointer& pointer) const = 0;
+    virtual RollReadout getReadout() const { return {}; }
+};
+
+/** Pixels that the pointer may move before a click becomes a drag. */
+constexpr auto dragThreshold = 3.0f;
+
+inline bool hasMoved (const RollPointer& pointer) noexcept
+{
+    return pointer.moved.getDistanceFromOrigin() >= dragThreshold;
+}
+} // namespace Zn::GUI
