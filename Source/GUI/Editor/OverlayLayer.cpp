@@ -1,37 +1,318 @@
 #include "GUI/Editor/OverlayLayer.h"
 
+#include "GUI/Editor/Menus.h"
+#include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Widgets/Popup.h"
+
 #include <utility>
 
 namespace Zn::GUI
 {
-OverlayLayer::OverlayLayer (juce::Component& pageToCover,
-                            AssetScheme::Canvas& canvasToUse,
-                            UserSettings& settingsToUse)
-    : page (pageToCover), canvas (canvasToUse), settings (settingsToUse)
+namespace
 {
-    setInterceptsMouseClicks (false, true);
+int milliseconds (std::string_view secondsConstant)
+{
+    return juce::roundToInt (1000.0f * AssetScheme::Base::get().constantOf (secondsConstant));
 }
 
+template <typename Card>
+Card& addedTo (juce::Component& parent, Card& card)
+{
+    parent.addChildComponent (card);
+    return card;
+}
+} // namespace
+
+OverlayLayer::Backdrop::Backdrop (OverlayLayer& overlayToTell) : overlay (overlayToTell)
+{
+    setAccessible (false);
+}
+
+void OverlayLayer::Backdrop::paint (juce::Graphics& g)
+{
+    const auto* const opened = dynamic_cast<const Popup*> (overlay.getPopup());
+
+    if (opened != nullptr && opened->dimsPage())
+        g.fillAll (AssetScheme::Base::get().colourOf ("LearnDim"));
+}
+
+OverlayLayer::OverlayLayer (juce::Component& pageToCover,
+                            AssetScheme::Canvas& canvasToUse,
+                            UserSettings& settingsToUse,
+                            Events::Broadcaster& polls)
+    : page (pageToCover)
+    , canvas (canvasToUse)
+    , settings (settingsToUse)
+    , readoutShadow (addedTo (*this, readout), canvas)
+    , messageShadow (addedTo (*this, message), canvas)
+    , tooltipShadow (addedTo (*this, tooltip), canvas)
+    , pollListener (polls, [this] { poll(); })
+{
+    setInterceptsMouseClicks (false, true);
+    addChildComponent (backdrop, 0);
+}
+
+OverlayLayer::~OverlayLayer()
+{
+    closeAll();
+}
+
+void OverlayLayer::resized()
+{
+    backdrop.setBounds (getLocalBounds());
+    message.place();
+    tooltip.setVisible (false);
+    closeEntry (ValueEntry::End::cancelled, {});
+}
+
+void OverlayLayer::closeAll()
+{
+    closePopup();
+    closeEntry (ValueEntry::End::cancelled, {});
+    closedPopup.reset();
+    closedEntry.reset();
+    message.setVisible (false);
+    readout.setVisible (false);
+    tooltip.setVisible (false);
+
+    if (std::exchange (menuIsOpen, false))
+        juce::PopupMenu::dismissAllActiveMenus();
+}
+
+void OverlayLayer::poll()
+{
+    closedPopup.reset();
+    closedEntry.reset();
+    pollTooltip();
+
+    if (message.isVisible() && juce::Time::getMillisecondCounter() > messageEnd && ! message.isBusy())
+        message.setVisible (false);
+}
+
+void OverlayLayer::appear (juce::Component& card) const
+{
+    if (card.isShowing() && mayMove())
+    {
+        card.setAlpha (0.0f);
+        juce::Desktop::getInstance().getAnimator().animateComponent (&card,
+                                                                     card.getBounds(),
+                                                                     1.0f,
+                                                                     milliseconds ("PopupFadeSeconds"),
+                                                                     false,
+                                                                     1.0,
+                                                                     1.0);
+    }
+}
+
+//======================================================================================================================
 void OverlayLayer::openPopup (std::unique_ptr<juce::Component> newPopup)
 {
-    popup = std::move (newPopup);
+    auto* const focused = juce::Component::getCurrentlyFocusedComponent();
+    const auto isReplaced = popup != nullptr;
+
+    if (! isReplaced)
+        focusBefore = page.isParentOf (focused) ? focused : &page;
+
+    closedPopup = std::exchange (popup, std::move (newPopup));
+
+    if (closedPopup != nullptr)
+        removeChildComponent (closedPopup.get());
+
+    tooltip.setVisible (false);
     addAndMakeVisible (*popup);
+    popupShadow = std::make_unique<CardShadow> (*popup, canvas);
+    backdrop.setVisible (true);
+    backdrop.repaint();
+    popupShadow->toFront (false);
+    popup->toFront (false);
+    message.toFront (false);
+
+    if (! isReplaced)
+        appear (*popup);
+
+    focusPopup();
+}
+
+void OverlayLayer::focusPopup()
+{
+    const auto traverser = popup->createKeyboardFocusTraverser();
+    auto* first = traverser != nullptr ? traverser->getDefaultComponent (popup.get()) : nullptr;
+
+    if (first == nullptr || ! popup->isParentOf (first))
+    {
+        popup->setWantsKeyboardFocus (true);
+        first = popup.get();
+    }
+
+    if (isShowing() && ! popup->hasKeyboardFocus (true))
+        first->grabKeyboardFocus();
 }
 
 void OverlayLayer::closePopup()
 {
-    popup.reset();
+    if (popup == nullptr)
+        return;
+
+    if (popup->isShowing() && mayMove())
+        juce::Desktop::getInstance().getAnimator().fadeOut (popup.get(), milliseconds ("PopupFadeSeconds"));
+
+    const auto hadFocus = popup->hasKeyboardFocus (true);
+    popupShadow.reset();
+    closedPopup = std::move (popup);
+    removeChildComponent (closedPopup.get());
+    backdrop.setVisible (false);
+
+    if (auto* const before = focusBefore.getComponent(); before != nullptr && hadFocus)
+        before->grabKeyboardFocus();
 }
 
-void OverlayLayer::showMenu (const Parameters::MenuItems::Item&, juce::Component*) {}
-void OverlayLayer::showMenu (const juce::PopupMenu&, juce::Component*, std::function<void (int)>) {}
-void OverlayLayer::showReadout (const juce::String&, const juce::String&, juce::Point<int>) {}
-void OverlayLayer::hideReadout() {}
-void OverlayLayer::showMessage (const juce::String&, const juce::String&, CallbackFunc) {}
+//======================================================================================================================
+void OverlayLayer::showMenu (const Parameters::MenuItems::Item& menu, juce::Component* beside)
+{
+    showMenu (popupMenuOf (menu, *this), beside, {});
+}
 
-void OverlayLayer::enterValue (juce::Component&,
-                               const juce::String&,
-                               std::function<bool (const juce::String&)>,
-                               CallbackFunc)
-{}
+void OverlayLayer::showMenu (const juce::PopupMenu& menu,
+                             juce::Component* beside,
+                             std::function<void (int)> chosen)
+{
+    hideReadout();
+    tooltip.setVisible (false);
+    menuIsOpen = true;
+
+    const auto options = menuOptions (menu, page, beside, canvas.boundsOf ("ControlMenu").getWidth());
+    auto shown = menu;
+    shown.showMenuAsync (options, [safe = SafePointer (this), chosenFunc = std::move (chosen)] (int result) {
+        if (safe == nullptr)
+            return;
+
+        safe->menuIsOpen = false;
+
+        if (chosenFunc != nullptr)
+            chosenFunc (result);
+    });
+}
+
+//======================================================================================================================
+void OverlayLayer::showReadout (const juce::String& name,
+                                const juce::String& value,
+                                juce::Point<int> onScreen)
+{
+    tooltip.setVisible (false);
+    readout.show (name, value, getLocalPoint (nullptr, onScreen));
+    readout.setVisible (true);
+    readout.toFront (false);
+}
+
+void OverlayLayer::hideReadout()
+{
+    readout.setVisible (false);
+}
+
+void OverlayLayer::showMessage (const juce::String& text, const juce::String& actionText, CallbackFunc action)
+{
+    message.show (text, actionText, std::move (action), [this] { message.setVisible (false); });
+    message.setVisible (true);
+    message.toFront (false);
+    appear (message);
+
+    messageEnd = juce::Time::getMillisecondCounter() + juce::uint32 (milliseconds ("MessageSeconds"));
+    juce::AccessibilityHandler::postAnnouncement (text,
+                                                  juce::AccessibilityHandler::AnnouncementPriority::medium);
+}
+
+//======================================================================================================================
+void OverlayLayer::enterValue (juce::Component& over,
+                               const juce::String& text,
+                               std::function<bool (const juce::String&)> accept,
+                               CallbackFunc next)
+{
+    closeEntry (ValueEntry::End::cancelled, {});
+    tooltip.setVisible (false);
+
+    ValueEntry::Asked asked { .text = text,
+                              .accept = std::move (accept),
+                              .finished = [this, nextFunc = std::move (next)] (ValueEntry::End end) {
+                                  closeEntry (end, nextFunc);
+                              } };
+
+    entry = std::make_unique<ValueEntry> (canvas, over, mayMove(), std::move (asked));
+    addAndMakeVisible (*entry);
+
+    if (isShowing())
+        entry->grabKeyboardFocus();
+}
+
+void OverlayLayer::closeEntry (ValueEntry::End end, const CallbackFunc& next)
+{
+    if (entry == nullptr)
+        return;
+
+    const auto nextFunc = next; // the entry holds the one it was given
+    auto* const control = entry->getControl();
+    const auto hadFocus = entry->hasKeyboardFocus (true);
+    closedEntry = std::move (entry);
+    removeChildComponent (closedEntry.get());
+
+    if (control != nullptr && hadFocus)
+        control->grabKeyboardFocus();
+
+    if (end == ValueEntry::End::keptForNext && nextFunc != nullptr)
+        nextFunc();
+}
+
+//======================================================================================================================
+void OverlayLayer::pollTooltip()
+{
+    const auto mouse = juce::Desktop::getInstance().getMainMouseSource();
+    auto* const under = mouse.getComponentUnderMouse();
+    const auto pointer = getLocalPoint (nullptr, mouse.getScreenPosition()).roundToInt();
+    const auto now = juce::Time::getMillisecondCounter();
+
+    if (mouse.isDragging())
+        pressed = under; // what has been clicked needs no explanation
+    else if (under != pressed)
+        pressed = nullptr;
+
+    if (std::exchange (lastPointer, pointer) != pointer)
+        restsSince = now;
+
+    const auto isAsked = under != nullptr && pressed == nullptr && page.isParentOf (under);
+    look (isAsked ? under : nullptr, pointer, int (now - restsSince));
+}
+
+void OverlayLayer::look (juce::Component* underPointer, juce::Point<int> pointer, int restedMilliseconds)
+{
+    auto* owner = settings.get().tooltips ? underPointer : nullptr;
+
+    while (owner != nullptr && dynamic_cast<const TooltipSource*> (owner) == nullptr)
+        owner = owner->getParentComponent();
+
+    const auto isShown = tooltip.isVisible() && owner == tooltipOwner;
+
+    if (owner == nullptr || (! isShown && restedMilliseconds < milliseconds ("TooltipDelaySeconds")))
+        return tooltip.setVisible (false);
+
+    const auto text = dynamic_cast<const TooltipSource&> (*owner).getTooltipText();
+
+    if (text.title.isEmpty() && text.help.isEmpty())
+        return tooltip.setVisible (false);
+
+    if (isShown && text == tooltipText)
+        return;
+
+    const auto staysThere = isShown && text.title == tooltipText.title;
+    tooltipOwner = owner;
+    tooltipText = text;
+    tooltip.setText (text);
+
+    if (! staysThere)
+        tooltip.place (getLocalArea (owner, owner->getLocalBounds()), pointer, getLocalBounds());
+
+    tooltip.setVisible (true);
+    tooltip.toFront (false);
+
+    if (! isShown)
+        appear (tooltip);
+}
 } // namespace Zn::GUI

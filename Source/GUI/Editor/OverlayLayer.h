@@ -1,6 +1,9 @@
 #pragma once
 
-#include "GUI/Framework/AssetScheme/Canvas.h"
+#include "Foundation/Events/Listener.h"
+#include "GUI/Editor/Cards.h"
+#include "GUI/Editor/ValueEntry.h"
+#include "GUI/Widgets/Card.h"
 #include "GUI/Widgets/Overlay.h"
 #include "GUI/Widgets/UserSettings.h"
 
@@ -12,7 +15,9 @@ class OverlayLayer : public juce::Component, public Overlay
 public:
     OverlayLayer (juce::Component& pageToCover,
                   AssetScheme::Canvas& canvasToUse,
-                  UserSettings& settingsToUse);
+                  UserSettings& settingsToUse,
+                  Events::Broadcaster& polls);
+    ~OverlayLayer() override;
 
     void openPopup (std::unique_ptr<juce::Component> newPopup) override;
     void closePopup() override;
@@ -30,10 +35,59 @@ public:
                      std::function<bool (const juce::String&)> accept,
                      CallbackFunc next) override;
 
+    /** Closes everything at once, menus too. */
+    void closeAll();
+
+    /** What the pointer is on, and how long it has rested: shows the tooltip of it, or takes that away. */
+    void look (juce::Component* underPointer, juce::Point<int> pointer, int restedMilliseconds);
+
+    /** The line of the message that is shown, and the tooltip's heading; empty while there is none. */
+    juce::String getMessage() const { return message.isVisible() ? message.getTitle() : juce::String(); }
+    juce::String getTooltip() const { return tooltip.isVisible() ? tooltip.getTitle() : juce::String(); }
+    ValueEntry* getValueEntry() const noexcept { return entry.get(); }
+
+    void resized() override;
+
 private:
+    /** Behind a pop-up: takes the clicks that are meant for what is under it. */
+    struct Backdrop : juce::Component
+    {
+        explicit Backdrop (OverlayLayer& overlayToTell);
+        void paint (juce::Graphics& g) override;
+        void mouseDown (const juce::MouseEvent&) override { overlay.closePopup(); }
+
+        OverlayLayer& overlay;
+    };
+
+    void poll();
+    void pollTooltip();
+    void appear (juce::Component& card) const;
+    void focusPopup();
+    void closeEntry (ValueEntry::End end, const CallbackFunc& next);
+    bool mayMove() const { return ! settings.get().reducedMotion; }
+
     juce::Component& page;
     AssetScheme::Canvas& canvas;
     UserSettings& settings;
-    std::unique_ptr<juce::Component> popup;
+
+    Backdrop backdrop { *this };
+    std::unique_ptr<juce::Component> popup, closedPopup; // a closed one goes when none of its functions runs
+    std::unique_ptr<CardShadow> popupShadow;
+    juce::Component::SafePointer<juce::Component> focusBefore;
+
+    std::unique_ptr<ValueEntry> entry, closedEntry;
+
+    ReadoutCard readout { canvas };
+    MessageCard message { canvas };
+    TooltipCard tooltip { canvas };
+    CardShadow readoutShadow, messageShadow, tooltipShadow;
+    juce::uint32 messageEnd = 0; // milliseconds
+    TooltipText tooltipText;
+    juce::Component::SafePointer<juce::Component> tooltipOwner, pressed;
+    juce::Point<int> lastPointer;
+    juce::uint32 restsSince = 0; // milliseconds
+
+    bool menuIsOpen = false;
+    Events::Listener pollListener;
 };
 } // namespace Zn::GUI

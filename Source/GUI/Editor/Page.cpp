@@ -8,7 +8,7 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
     : edits (processor.getUndo(), [&processor] { processor.finishPendingLoad(); })
     , learning (processor.getState().learnMap)
     , shownSlot (processor.getState().slotParam.getInt())
-    , overlay (*this, canvas, settings)
+    , overlay (*this, canvas, settings, polls)
     , context { .processor = processor,
                 .canvas = canvas,
                 .settings = settings,
@@ -16,11 +16,13 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
                 .overlay = overlay,
                 .learning = learning,
                 .polls = polls,
-                .shownSlot = shownSlot }
+                .shownSlot = shownSlot,
+                .actions = actions }
     , timer (Events::UpdateTimer::screenInterval, [this] { polls.callListeners(); })
 {
     setOpaque (true);
     setWantsKeyboardFocus (true);
+    setLookAndFeel (&look);
 
     for (auto* band : std::initializer_list<juce::Component*> { &header,
                                                                 &arpHeader,
@@ -36,7 +38,13 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
 Page::~Page()
 {
     timer.setActive (false);
-    overlay.closePopup();
+    overlay.closeAll();
+    setLookAndFeel (nullptr);
+}
+
+void Page::resized()
+{
+    overlay.setBounds (getLocalBounds());
 }
 
 void Page::paint (juce::Graphics& g)

@@ -8,6 +8,7 @@
 #include "GUI/Pattern/PatternArea.h"
 #include "GUI/Player/PlayerBand.h"
 #include "GUI/Sound/SoundBand.h"
+#include "GUI/Widgets/EditorLook.h"
 
 namespace Zn::GUI
 {
@@ -31,14 +32,17 @@ public:
     EditorContext& getContext() noexcept { return context; }
 
     void paint (juce::Graphics& g) override;
+    void resized() override;
 
 private:
     AssetScheme::Canvas canvas { *this };
+    EditorLook look { canvas };
     UserSettings settings;
     Edits edits;
     Learning learning;
     Events::Broadcaster polls;
     Events::Value<int> shownSlot;
+    PageActions actions;
     OverlayLayer overlay;
     EditorContext context;
 

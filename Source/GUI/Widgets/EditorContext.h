@@ -5,6 +5,7 @@
 #include "GUI/Widgets/Edits.h"
 #include "GUI/Widgets/Learning.h"
 #include "GUI/Widgets/Overlay.h"
+#include "GUI/Widgets/PageActions.h"
 #include "GUI/Widgets/UserSettings.h"
 #include "Plugin/Vornel/Processor.h"
 
@@ -25,6 +26,8 @@ struct EditorContext
 
     /** The slot that is open for editing, 0..7; another one may be playing. */
     Events::Value<int>& shownSlot;
+
+    PageActions& actions;
 
     Audio::Plugins::Vornel::State& state() const noexcept { return processor.getState(); }
 };

@@ -10,6 +10,8 @@ namespace Zn::GUI
 struct TooltipText
 {
     juce::String title, value, help, shortcut;
+
+    bool operator== (const TooltipText&) const = default;
 };
 
 /** A component that has a tooltip. The overlay asks the one under the pointer. Thread: message. */
