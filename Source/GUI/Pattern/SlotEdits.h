@@ -3,6 +3,7 @@
 #include "GUI/Widgets/EditorContext.h"
 
 #include <cstdint>
+#include <functional>
 
 namespace Zn::GUI
 {
@@ -34,7 +35,8 @@ public:
     void pasteAsVariation (int slot);
 
 private:
-    void perform (const juce::String& name, int slot, const std::function<void()>& change);
+    Sequencer::PatternSlot& slot (int index) const;
+    void perform (const juce::String& name, const std::function<void()>& change);
 
     EditorContext& context;
 };
