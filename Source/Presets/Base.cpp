@@ -228,6 +228,12 @@ const std::vector<Base::Entry>& Base::getList()
     });
 }
 
+void Base::rescan()
+{
+    list.forget();
+    changed.callListeners();
+}
+
 void Base::step (int direction)
 {
     const auto entries = getList(); // a copy: listeners may save

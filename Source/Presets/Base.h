@@ -98,6 +98,9 @@ public:
     /** Factory presets, then the user's. Built when first asked for, and again after each save. */
     const std::vector<Entry>& getList();
 
+    /** The list is searched for anew: files have come or gone. */
+    void rescan();
+
     /** Loads the preset after (+1) or before (-1) this one, round the ends of the list; files that have gone since are
         passed over.
     */

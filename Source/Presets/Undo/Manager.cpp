@@ -55,6 +55,15 @@ void Manager::end (const juce::String& name)
     callListeners();
 }
 
+void Manager::keepSaved()
+{
+    if (auto isBetweenEdits = depth == 0 && ! ignoresEdits; isBetweenEdits && ! snapshots.empty())
+    {
+        auto& current = snapshots[static_cast<std::size_t> (index)];
+        current = { current.getName(), state.createDocument (ReflectorContext::forUndo()) };
+    }
+}
+
 void Manager::undo()
 {
     if (canUndo())

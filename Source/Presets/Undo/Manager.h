@@ -43,6 +43,9 @@ public:
     */
     void end (const juce::String& name) override;
 
+    /** The state got another name and is saved, which is no edit: undoing the next one leads back to it as it is now. */
+    void keepSaved();
+
     void undo() override;
     void redo() override;
 

@@ -1,0 +1,133 @@
+#include "GUI/Presets/PresetCatalogue.h"
+
+#include <algorithm>
+#include <set>
+
+namespace Zn::GUI
+{
+namespace
+{
+struct NaturalOrder
+{
+    bool operator() (const juce::String& a, const juce::String& b) const
+    {
+        const auto order = a.compareNatural (b);
+        return order != 0 ? order < 0 : a < b;
+    }
+};
+
+bool comesBefore (const CataloguedPreset& a, const CataloguedPreset& b)
+{
+    if (a.name != b.name)
+        return NaturalOrder {}(a.name, b.name);
+
+    return a.isOwn != b.isOwn ? b.isOwn : NaturalOrder {}(a.category, b.category);
+}
+
+bool hasWords (const CataloguedPreset& preset, const juce::StringArray& words)
+{
+    return std::all_of (words.begin(), words.end(), [&preset] (const juce::String& word) {
+        return preset.name.containsIgnoreCase (word) || preset.category.containsIgnoreCase (word);
+    });
+}
+
+juce::StringArray wordsIn (const juce::String& text)
+{
+    auto words = juce::StringArray::fromTokens (text, true);
+    words.removeEmptyStrings();
+    return words;
+}
+} // namespace
+
+bool PresetGroup::contains (const CataloguedPreset& preset) const
+{
+    switch (kind)
+    {
+    case Kind::favourites:
+        return preset.isFavourite;
+    case Kind::own:
+        return preset.isOwn;
+    case Kind::category:
+        return preset.category == category;
+    case Kind::all:
+        break;
+    }
+
+    return true;
+}
+
+PresetCatalogue::PresetCatalogue (std::vector<CataloguedPreset> presetsToSort)
+    : presets (std::move (presetsToSort))
+    , groups { { PresetGroup::Kind::all }, { PresetGroup::Kind::favourites }, { PresetGroup::Kind::own } }
+{
+    std::stable_sort (presets.begin(), presets.end(), comesBefore);
+
+    std::set<juce::String, NaturalOrder> categories;
+
+    for (const auto& preset : presets)
+        if (preset.category.isNotEmpty())
+            categories.insert (preset.category);
+
+    for (const auto& category : categories)
+        groups.push_back ({ PresetGroup::Kind::category, category });
+}
+
+std::vector<int> PresetCatalogue::find (const PresetGroup& group, const juce::String& words) const
+{
+    const auto wanted = wordsIn (words);
+    std::vector<int> found;
+
+    for (auto index = 0; const auto& preset : presets)
+    {
+        if (group.contains (preset) && hasWords (preset, wanted))
+            found.push_back (index);
+
+        ++index;
+    }
+
+    return found;
+}
+
+int PresetCatalogue::count (const PresetGroup& group, const juce::String& words) const
+{
+    return static_cast<int> (find (group, words).size());
+}
+
+juce::String categoryOf (const Presets::Base& library, const juce::File& file)
+{
+    for (const auto& folder : { library.getUserFolder(), library.getContentFolder() })
+        if (const auto parent = file.getParentDirectory(); parent.isAChildOf (folder))
+            return parent.getRelativePathFrom (folder).replaceCharacter ('\\', '/');
+
+    return {};
+}
+
+bool isOwnFile (const Presets::Base& library, const juce::File& file)
+{
+    return file.isAChildOf (library.getUserFolder());
+}
+
+PresetCatalogue catalogueOf (Presets::Base& library, const juce::StringArray& favourites)
+{
+    std::vector<CataloguedPreset> presets;
+    std::set<juce::String> keys (favourites.begin(), favourites.end());
+
+    for (const auto& [file, id] : library.getList())
+    {
+        const auto name = file.getFileNameWithoutExtension();
+        presets.push_back ({ .file = file,
+                             .id = id,
+                             .name = name,
+                             .category = categoryOf (library, file),
+                             .isOwn = isOwnFile (library, file),
+                             .isFavourite = keys.count (favouriteKey (library, name)) > 0 });
+    }
+
+    return PresetCatalogue (std::move (presets));
+}
+
+juce::String favouriteKey (const Presets::Base& library, const juce::String& name)
+{
+    return library.getProduct() + "/" + name;
+}
+} // namespace Zn::GUI
