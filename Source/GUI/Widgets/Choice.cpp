@@ -1,0 +1,81 @@
+#include "GUI/Widgets/Choice.h"
+
+#include "GUI/Widgets/Chevron.h"
+
+namespace Zn::GUI
+{
+Choice::Choice (EditorContext& contextToUse,
+                std::string element,
+                std::shared_ptr<Parameters::Parameter> parameterToShow,
+                Look lookToHave)
+    : ValueControl (contextToUse, std::move (element), std::move (parameterToShow)), look (lookToHave)
+{}
+
+void Choice::openMenu()
+{
+    auto menu = getParameter()->getMenuChoices();
+    Parameters::MenuItems::holdWeakly (menu, getParameter());
+    context.overlay.showMenu (menu, this);
+}
+
+void Choice::schemeChanged()
+{
+    font = context.canvas.fontOf ("FontBody");
+    textArea = area();
+
+    if (look == Look::field)
+    {
+        textArea.removeFromLeft (pixels ("ControlInset"));
+        chevronArea = chevronAreaOf (context.canvas, textArea);
+    }
+    else if (look == Look::browser)
+    {
+        const auto size = pixels ("IconSizeSmall");
+        textArea.reduce (pixels ("CaptionGap") / 2.0f, 0.0f);
+        previousArea = textArea.removeFromLeft (size).withSizeKeepingCentre (size, size);
+        nextArea = textArea.removeFromRight (size).withSizeKeepingCentre (size, size);
+    }
+}
+
+void Choice::paintControl (juce::Graphics& g)
+{
+    paintField (g, area(), surface ("Control"));
+    paintText (g,
+               shownText(),
+               font,
+               textArea,
+               look == Look::field ? juce::Justification::centredLeft : juce::Justification::centred,
+               colour ("Text"));
+
+    if (look == Look::field)
+    {
+        chevron.paint (g, chevronArea, colour ("TextSecondary"));
+    }
+    else if (look == Look::browser)
+    {
+        previous.paint (g, previousArea, colour ("TextSecondary"));
+        next.paint (g, nextArea, colour ("TextSecondary"));
+    }
+}
+
+void Choice::pressed (const juce::MouseEvent& event)
+{
+    if (look == Look::browser && ! textArea.contains (event.position))
+        stepBy (event.position.x < area().getCentreX() ? -1 : 1);
+    else
+        openMenu();
+}
+
+bool Choice::keyPressed (const juce::KeyPress& key)
+{
+    if (isEnabled() && key == juce::KeyPress (juce::KeyPress::returnKey))
+        return openMenu(), true;
+
+    return ValueControl::keyPressed (key);
+}
+
+std::unique_ptr<juce::AccessibilityHandler> Choice::createAccessibilityHandler()
+{
+    return ValueControl::createAccessibilityHandler();
+}
+} // namespace Zn::GUI

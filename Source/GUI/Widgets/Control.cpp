@@ -1,0 +1,163 @@
+#include "GUI/Widgets/Control.h"
+
+#include "GUI/Framework/AssetScheme/Base.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Zn::GUI
+{
+namespace
+{
+constexpr auto wheelDelay = 150u;        // milliseconds
+constexpr auto narrowestSqueeze = 0.85f; // of a text's width, before it is cut
+
+juce::Colour schemeColour (std::string_view name)
+{
+    return AssetScheme::Base::get().colourOf (name);
+}
+
+juce::uint8 channel (int value)
+{
+    return static_cast<juce::uint8> (juce::jlimit (0, 255, value));
+}
+
+/** A colour as far from another as the scheme's colour of a state is from that of the control at rest. */
+juce::Colour stepped (juce::Colour from, juce::Colour state, juce::Colour rest)
+{
+    return { channel (from.getRed() + state.getRed() - rest.getRed()),
+             channel (from.getGreen() + state.getGreen() - rest.getGreen()),
+             channel (from.getBlue() + state.getBlue() - rest.getBlue()),
+             from.getAlpha() };
+}
+} // namespace
+
+Control::Control (EditorContext& contextToUse, std::string element)
+    : Element (contextToUse.canvas, std::move (element))
+    , context (contextToUse)
+    , ring (*this, contextToUse.canvas)
+    , written (controlText (getElement()))
+    , pollListener (contextToUse.polls, [this] { update(); })
+{
+    setTitle (written.title);
+    setDescription (written.help);
+    setWantsKeyboardFocus (true);
+}
+
+void Control::setEnabledWhen (std::function<bool()> predicate)
+{
+    enabledWhen = std::move (predicate);
+    setEnabled (enabledWhen());
+}
+
+void Control::setHelp (const juce::String& newHelp)
+{
+    written.help = newHelp;
+    setDescription (newHelp);
+}
+
+TooltipText Control::getTooltipText() const
+{
+    return { .title = written.title, .value = {}, .help = written.help, .shortcut = written.shortcut };
+}
+
+void Control::paint (juce::Graphics& g)
+{
+    paintControl (g);
+    paintOver (g);
+}
+
+void Control::mouseEnter (const juce::MouseEvent&)
+{
+    enteredAt = juce::Time::getMillisecondCounter();
+}
+
+void Control::mouseExit (const juce::MouseEvent&)
+{
+    enteredAt = 0;
+}
+
+std::unique_ptr<juce::AccessibilityHandler> Control::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::button);
+}
+
+void Control::setPressed (bool shouldBePressed)
+{
+    if (std::exchange (pressed, shouldBePressed) != shouldBePressed)
+        repaint();
+}
+
+juce::Colour Control::colour (std::string_view name) const
+{
+    const auto opaque = schemeColour (name);
+    return isEnabled() ? opaque
+                       : opaque.withMultipliedAlpha (AssetScheme::Base::get().constantOf ("DisabledOpacity"));
+}
+
+juce::Colour Control::surface (std::string_view name) const
+{
+    const auto rest = colour (name);
+
+    if (! isEnabled())
+        return rest;
+
+    if (pressed)
+        return stepped (rest, schemeColour ("ControlPressed"), schemeColour ("Control"));
+
+    return rest.interpolatedWith (stepped (rest, schemeColour ("ControlHover"), schemeColour ("Control")),
+                                  hover);
+}
+
+void Control::paintField (juce::Graphics& g, juce::Rectangle<float> field, juce::Colour fill) const
+{
+    g.setColour (fill);
+    g.fillRoundedRectangle (field, context.canvas.cornerOf ("ControlCorner", field));
+}
+
+void Control::paintHover (juce::Graphics& g) const
+{
+    if (isEnabled() && (hover > 0.0f || pressed))
+        paintField (g, area(), surface ("Control").withMultipliedAlpha (pressed ? 1.0f : hover));
+}
+
+void Control::paintText (juce::Graphics& g,
+                         const juce::String& line,
+                         const juce::Font& font,
+                         juce::Rectangle<float> textArea,
+                         juce::Justification justification,
+                         juce::Colour fill) const
+{
+    g.setFont (font);
+    g.setColour (fill);
+    g.drawFittedText (line, textArea.getSmallestIntegerContainer(), justification, 1, narrowestSqueeze);
+}
+
+bool Control::isWheelMeant() const
+{
+    return juce::Time::getMillisecondCounter() - enteredAt >= wheelDelay;
+}
+
+void Control::update()
+{
+    if (enabledWhen != nullptr)
+        setEnabled (enabledWhen());
+
+    fade();
+    poll();
+}
+
+void Control::fade()
+{
+    const auto target = isEnabled() && isMouseOver (true) ? 1.0f : 0.0f;
+
+    if (hover == target)
+        return;
+
+    constexpr auto pollsPerSecond = 30.0f;
+    const auto fadeSeconds = AssetScheme::Base::get().constantOf ("HoverFadeSeconds");
+    const auto step = context.settings.get().reducedMotion ? 1.0f : 1.0f / (fadeSeconds * pollsPerSecond);
+    hover = target > hover ? std::min (target, hover + step) : std::max (target, hover - step);
+    repaint();
+}
+} // namespace Zn::GUI

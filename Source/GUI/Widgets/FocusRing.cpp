@@ -1,0 +1,50 @@
+#include "GUI/Widgets/FocusRing.h"
+
+#include "GUI/Framework/AssetScheme/Base.h"
+
+namespace Zn::GUI
+{
+namespace
+{
+struct Ring : juce::FocusOutline::OutlineWindowProperties
+{
+    explicit Ring (const AssetScheme::Canvas& canvasToUse) : canvas (canvasToUse) {}
+
+    juce::Rectangle<int> getOutlineBounds (juce::Component& component) override
+    {
+        const auto distance = canvas.pixelsOf ("FocusDistance") + canvas.pixelsOf ("ThinStroke");
+        return component.getScreenBounds().expanded (juce::roundToInt (distance));
+    }
+
+    void drawOutline (juce::Graphics& g, int width, int height) override
+    {
+        const auto stroke = canvas.pixelsOf ("ThinStroke");
+        const auto area = juce::Rectangle<int> (width, height).toFloat().reduced (stroke / 2.0f);
+
+        g.setColour (AssetScheme::Base::get().colourOf ("Focus"));
+        g.drawRoundedRectangle (area, canvas.cornerOf ("ControlCorner", area), stroke);
+    }
+
+    const AssetScheme::Canvas& canvas;
+};
+} // namespace
+
+FocusRing::FocusRing (juce::Component& component, const AssetScheme::Canvas& canvasToUse)
+    : owner (component), canvas (canvasToUse)
+{}
+
+void FocusRing::focusGained (juce::Component::FocusChangeType cause)
+{
+    if (cause == juce::Component::focusChangedByTabKey)
+        show();
+}
+
+void FocusRing::show()
+{
+    if (isShown() || ! owner.isShowing())
+        return;
+
+    outline = std::make_unique<juce::FocusOutline> (std::make_unique<Ring> (canvas));
+    outline->setOwner (&owner);
+}
+} // namespace Zn::GUI

@@ -1,0 +1,88 @@
+#include "GUI/Widgets/Slider.h"
+
+namespace Zn::GUI
+{
+Slider::Slider (EditorContext& contextToUse,
+                std::string element,
+                std::shared_ptr<Parameters::Parameter> parameterToShow,
+                Options optionsToUse)
+    : ValueControl (contextToUse, std::move (element), std::move (parameterToShow)), options (optionsToUse)
+{}
+
+void Slider::mouseDrag (const juce::MouseEvent& event)
+{
+    ValueControl::mouseDrag (event);
+
+    if (isDragging() && options.showsReadout)
+        context.overlay.showReadout (getText().title, shownText(), event.getScreenPosition());
+}
+
+void Slider::mouseUp (const juce::MouseEvent& event)
+{
+    ValueControl::mouseUp (event);
+
+    if (options.showsReadout)
+        context.overlay.hideReadout();
+}
+
+juce::Line<float> Slider::track() const
+{
+    if (isAcross())
+    {
+        const auto inset = pixels ("SliderThumb") / 2.0f;
+        const auto y = area().getCentreY();
+        return { inset, y, area().getRight() - inset, y };
+    }
+
+    const auto inset = pixels ("FaderHeight") / 2.0f;
+    const auto x = area().getCentreX();
+    return { x, area().getBottom() - inset, x, inset };
+}
+
+float Slider::proportionOf (juce::Point<float> movement) const
+{
+    const auto length = std::max (1.0f, track().getLength());
+    return (isAcross() ? movement.x : -movement.y) / length;
+}
+
+juce::Rectangle<float> Slider::handle() const
+{
+    const auto thumb = pixels ("SliderThumb");
+    const auto size = isAcross() ? juce::Rectangle<float> (thumb, thumb)
+                                 : juce::Rectangle<float> (pixels ("FaderWidth"), pixels ("FaderHeight"));
+    return size.withCentre (track().getPointAlongLineProportionally (shownPosition()));
+}
+
+void Slider::paintControl (juce::Graphics& g)
+{
+    const auto line = track();
+    const auto stroke = pixels ("DefaultStroke");
+    const auto lit =
+        juce::Line<float> (line.getPointAlongLineProportionally (options.fromMiddle ? 0.5f : 0.0f),
+                           handle().getCentre());
+
+    const auto draw = [&g, stroke] (juce::Line<float> part) {
+        juce::Path path;
+        path.startNewSubPath (part.getStart());
+        path.lineTo (part.getEnd());
+        g.strokePath (path, { stroke, juce::PathStrokeType::curved, juce::PathStrokeType::rounded });
+    };
+
+    g.setColour (colour ("KnobTrack"));
+    draw (line);
+    g.setColour (colour (options.accent));
+
+    if (lit.getLength() > 0.0f)
+        draw (lit);
+
+    if (options.fromMiddle)
+    {
+        g.setColour (colour ("GridBar"));
+        g.fillRect (juce::Rectangle<float> (pixels ("ThinnerStroke"), pixels ("SliderThumb"))
+                        .withCentre (line.getPointAlongLineProportionally (0.5f)));
+    }
+
+    g.setColour (surface ("KnobPointer"));
+    g.fillRoundedRectangle (handle(), handle().getHeight() * (isAcross() ? 0.5f : 0.3f));
+}
+} // namespace Zn::GUI

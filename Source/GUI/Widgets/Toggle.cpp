@@ -1,0 +1,139 @@
+#include "GUI/Widgets/Toggle.h"
+
+namespace Zn::GUI
+{
+namespace
+{
+Caption::Options captionOf (const Toggle::Options& options, const ControlText& text)
+{
+    const auto isPower = options.look == Toggle::Look::power;
+    const auto isButton = options.look == Toggle::Look::button;
+
+    return { .text = options.text.value_or (options.look == Toggle::Look::pill ? juce::String() : text.label),
+             .icon = isPower ? juce::String ("power.svg") : options.icon,
+             .arrangement = isButton ? options.arrangement : Caption::Arrangement::left,
+             .cut = isPower ? AssetScheme::Cut::bold : AssetScheme::Cut::regular,
+             .iconSize = options.iconSize };
+}
+} // namespace
+
+Toggle::Toggle (EditorContext& contextToUse,
+                std::string element,
+                std::shared_ptr<Parameters::Parameter> parameterToShow,
+                Options optionsToUse)
+    : ValueControl (contextToUse, std::move (element), std::move (parameterToShow))
+    , options (std::move (optionsToUse))
+    , accent (options.accent)
+    , fill (accent + "Deep")
+    , caption (captionOf (options, getText()))
+{}
+
+void Toggle::setOn (bool shouldBeOn)
+{
+    context.edits.perform (getText().title, [this, shouldBeOn] {
+        return changeAtOnce (*getParameter(), [shouldBeOn] (auto& p) { p.setBool (shouldBeOn); });
+    });
+    poll();
+}
+
+void Toggle::setLabel (const juce::String& newLabel)
+{
+    if (caption.getText() == newLabel)
+        return;
+
+    caption.setText (newLabel);
+    repaint();
+}
+
+void Toggle::schemeChanged()
+{
+    auto captionArea = area();
+
+    if (options.look == Look::box)
+        captionArea.removeFromLeft (pixels ("IconSizeLarge") + pixels ("ControlInset"));
+
+    caption.layOut (context.canvas, captionArea);
+}
+
+void Toggle::pressed (const juce::MouseEvent&)
+{
+    setPressed (true);
+    setOn (! isOn());
+}
+
+void Toggle::mouseDrag (const juce::MouseEvent&) {}
+
+void Toggle::mouseUp (const juce::MouseEvent&)
+{
+    setPressed (false);
+}
+
+bool Toggle::keyPressed (const juce::KeyPress& key)
+{
+    if (isEnabled()
+        && (key == juce::KeyPress (juce::KeyPress::returnKey)
+            || key == juce::KeyPress (juce::KeyPress::spaceKey)))
+    {
+        setOn (! isOn());
+        ring.keyPressed();
+        return true;
+    }
+
+    return ValueControl::keyPressed (key);
+}
+
+void Toggle::paintControl (juce::Graphics& g)
+{
+    if (options.look == Look::pill)
+        paintPill (g);
+    else if (options.look == Look::box)
+        paintBox (g);
+    else
+        paintButton (g);
+}
+
+void Toggle::paintButton (juce::Graphics& g)
+{
+    const auto on = isOn();
+
+    if (options.look == Look::button)
+        paintField (g, area(), surface (on ? fill : "Control"));
+
+    const auto* text = on || options.look == Look::power ? "Text" : "TextSecondary";
+    caption.paint (g, on ? colour (accent) : colour ("TextSecondary"), colour (text));
+}
+
+void Toggle::paintPill (juce::Graphics& g)
+{
+    const auto on = isOn();
+    const auto pill = juce::Rectangle<float> (pixels ("SwitchWidth"), pixels ("SwitchHeight"))
+                          .withCentre ({ pixels ("SwitchWidth") / 2.0f, area().getCentreY() });
+    const auto inset = pixels ("ThinStroke");
+    const auto knob = pill.getHeight() - 2.0f * inset;
+    const auto inner = pill.reduced (inset);
+
+    g.setColour (surface (on ? std::string_view (accent) : "KnobTrack"));
+    g.fillRoundedRectangle (pill, pill.getHeight() / 2.0f);
+    g.setColour (colour (on ? "TextOnAccent" : "TextSecondary"));
+    g.fillEllipse (inner.withWidth (knob).withX (on ? inner.getRight() - knob : inner.getX()));
+}
+
+void Toggle::paintBox (juce::Graphics& g)
+{
+    const auto size = pixels ("IconSizeLarge");
+    const auto box = area().withWidth (size).withSizeKeepingCentre (size, size);
+    const auto on = isOn();
+
+    paintField (g, box, surface (on ? std::string_view (accent) : "Control"));
+
+    if (on)
+        check.paint (g, box, colour ("TextOnAccent"));
+
+    caption.paint (g, colour ("Text"), colour ("Text"));
+}
+
+std::unique_ptr<juce::AccessibilityHandler> Toggle::createAccessibilityHandler()
+{
+    return ValueControl::createAccessibilityHandler();
+}
+} // namespace Zn::GUI

@@ -1,0 +1,354 @@
+#include "GUI/Widgets/ValueControl.h"
+
+#include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Widgets/ControlMenu.h"
+
+#include <cmath>
+
+namespace Zn::GUI
+{
+namespace
+{
+constexpr double coarseStep = 0.01, fineStep = 0.001; // of the range, of a value without steps
+constexpr int pageSteps = 10;
+
+/** A little above the step, as some values are cut off to the next lower one. */
+float normalisedOfStep (int step, int numSteps)
+{
+    constexpr auto margin = 0.01f;
+    return std::min (1.0f, (static_cast<float> (step) + margin) / static_cast<float> (numSteps));
+}
+} // namespace
+
+ValueControl::ValueControl (EditorContext& contextToUse,
+                            std::string element,
+                            std::shared_ptr<Parameters::Parameter> parameterToShow)
+    : Control (contextToUse, std::move (element))
+    , parameter (std::move (parameterToShow))
+    , valueText (getText().style)
+{
+    look();
+}
+
+ValueControl::~ValueControl() = default;
+
+ValueControl::Drag::Drag (ValueControl& control, juce::Point<float> start)
+    : edit (control.context.edits, control.parameter, control.getText().title)
+    , last (start)
+    , position (double (edit.getStart()))
+{}
+
+void ValueControl::setParameter (std::shared_ptr<Parameters::Parameter> newParameter)
+{
+    endDrag();
+    parameter = std::move (newParameter);
+    poll();
+}
+
+juce::String ValueControl::getShownText (ValueDetail detail) const
+{
+    return valueText.current (*parameter, detail);
+}
+
+TooltipText ValueControl::getTooltipText() const
+{
+    auto tooltip = Control::getTooltipText();
+    tooltip.value = getShownText (ValueDetail::full);
+    return tooltip;
+}
+
+int ValueControl::currentStep() const
+{
+    return juce::roundToInt (parameter->getNormalised() * static_cast<float> (parameter->getNumSteps()));
+}
+
+void ValueControl::setStep (int step)
+{
+    const auto numSteps = parameter->getNumSteps();
+    parameter->setNormalisedNotifying (normalisedOfStep (juce::jlimit (0, numSteps, step), numSteps));
+}
+
+void ValueControl::stepBy (int steps, bool fine)
+{
+    changeJoining ([this, steps, fine] (Parameters::Parameter& p) {
+        if (p.hasSteps())
+            setStep (currentStep() + steps);
+        else if (getText().style == ValueStyle::tempo)
+            p.setDouble (double (p.getFloat()) + steps * (fine ? 0.1 : 1.0));
+        else
+            p.setNormalisedNotifying (juce::jlimit (
+                0.0f,
+                1.0f,
+                p.getNormalised() + static_cast<float> (steps * (fine ? fineStep : coarseStep))));
+    });
+}
+
+void ValueControl::resetToDefault()
+{
+    context.edits.perform (getText().title, [this] {
+        return changeAtOnce (*parameter, [] (auto& p) { p.setNormalisedNotifying (p.getDefault()); });
+    });
+    poll();
+}
+
+bool ValueControl::setFromTyped (const juce::String& typed)
+{
+    const auto text = valueText.read (typed, *parameter);
+
+    if (! text)
+        return false;
+
+    context.edits.perform (getText().title, [&] {
+        return changeAtOnce (*parameter, [&] (auto& p) { p.setFromText (*text); });
+    });
+    poll();
+    return true;
+}
+
+void ValueControl::typeValue()
+{
+    const juce::Component::SafePointer<ValueControl> self (this);
+
+    context.overlay.enterValue (
+        *this,
+        getShownText (ValueDetail::full),
+        [self] (const juce::String& typed) { return self == nullptr || self->setFromTyped (typed); },
+        [self] {
+            if (self != nullptr)
+                self->moveKeyboardFocusToSibling (true);
+        });
+}
+
+void ValueControl::showMenu()
+{
+    showControlMenu (context, *this);
+}
+
+void ValueControl::mouseDown (const juce::MouseEvent& event)
+{
+    ring.mousePressed();
+
+    if (! isEnabled())
+        return;
+
+    if (event.mods.isPopupMenu())
+        showMenu();
+    else if (event.mods.isCommandDown())
+        resetToDefault();
+    else
+        pressed (event);
+}
+
+void ValueControl::pressed (const juce::MouseEvent& event)
+{
+    beginDrag (event);
+}
+
+void ValueControl::beginDrag (const juce::MouseEvent& event)
+{
+    drag.emplace (*this, event.position);
+    setPressed (true);
+}
+
+void ValueControl::mouseDrag (const juce::MouseEvent& event)
+{
+    if (! drag)
+        return;
+
+    event.source.enableUnboundedMouseMovement (true);
+
+    const auto movement = event.position - std::exchange (drag->last, event.position);
+    const auto factor =
+        event.mods.isShiftDown() ? AssetScheme::Base::get().constantOf ("KnobFineFactor") : 1.0f;
+    drag->position = juce::jlimit (0.0, 1.0, drag->position + double (proportionOf (movement) * factor));
+
+    if (parameter->hasSteps())
+        setStep (juce::roundToInt (drag->position * parameter->getNumSteps()));
+    else
+        parameter->setNormalisedNotifying (static_cast<float> (drag->position));
+
+    poll();
+}
+
+void ValueControl::mouseUp (const juce::MouseEvent& event)
+{
+    event.source.enableUnboundedMouseMovement (false);
+    endDrag();
+}
+
+void ValueControl::endDrag()
+{
+    setPressed (false);
+    drag.reset();
+    poll();
+}
+
+void ValueControl::mouseDoubleClick (const juce::MouseEvent& event)
+{
+    if (! isEnabled() || event.mods.isAnyModifierKeyDown() || ! event.mods.isLeftButtonDown())
+        return;
+
+    endDrag();
+
+    if (valueArea().contains (event.getPosition()))
+        typeValue();
+    else
+        resetToDefault();
+}
+
+void ValueControl::mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel)
+{
+    if (! isEnabled() || ! isWheelMeant() || ! context.settings.get().wheelTurnsKnobs || isDragging())
+    {
+        Control::mouseWheelMove (event, wheel);
+        return;
+    }
+
+    constexpr auto smoothStep = 0.05f; // of a wheel that turns without notches, for a step of the value
+    const auto turned = std::abs (wheel.deltaY) > std::abs (wheel.deltaX) ? wheel.deltaY : wheel.deltaX;
+    const auto upwards = wheel.isReversed ? -turned : turned;
+    wheelRemainder += wheel.isSmooth ? upwards / smoothStep
+                                     : static_cast<float> (juce::roundToInt (std::copysign (1.0f, upwards)));
+
+    if (const auto steps = static_cast<int> (wheelRemainder); steps != 0)
+    {
+        wheelRemainder -= static_cast<float> (steps);
+        stepBy (steps, event.mods.isShiftDown());
+    }
+}
+
+bool ValueControl::keyPressed (const juce::KeyPress& key)
+{
+    const auto isUsed = isEnabled() && keyPressedFor (key);
+
+    if (isUsed)
+        ring.keyPressed();
+
+    return isUsed;
+}
+
+bool ValueControl::keyPressedFor (const juce::KeyPress& key)
+{
+    const auto modifiers = key.getModifiers();
+    const auto code = key.getKeyCode();
+    const auto fine = modifiers.isShiftDown();
+
+    if (drag && code == juce::KeyPress::escapeKey)
+    {
+        drag->edit.restore();
+        endDrag();
+        return true;
+    }
+
+    if (isMenuKey (key))
+        return showMenu(), true;
+
+    if (modifiers.isCommandDown() || modifiers.isAltDown() || modifiers.isCtrlDown())
+        return false;
+
+    if (code == juce::KeyPress::upKey || code == juce::KeyPress::rightKey)
+        return stepBy (1, fine), true;
+
+    if (code == juce::KeyPress::downKey || code == juce::KeyPress::leftKey)
+        return stepBy (-1, fine), true;
+
+    if (code == juce::KeyPress::pageUpKey)
+        return stepBy (pageSteps, fine), true;
+
+    if (code == juce::KeyPress::pageDownKey)
+        return stepBy (-pageSteps, fine), true;
+
+    if (code == juce::KeyPress::homeKey || code == juce::KeyPress::endKey)
+    {
+        const auto end = code == juce::KeyPress::homeKey ? 0.0f : 1.0f;
+        changeJoining ([end] (auto& p) { p.setNormalisedNotifying (end); });
+        return true;
+    }
+
+    if (code == juce::KeyPress::deleteKey || code == juce::KeyPress::backspaceKey)
+        return resetToDefault(), true;
+
+    if (code == juce::KeyPress::returnKey)
+        return typeValue(), true;
+
+    const auto character = key.getTextCharacter();
+
+    if (! juce::CharacterFunctions::isDigit (character) && character != '-')
+        return false;
+
+    typeValue();
+
+    if (auto* entry = dynamic_cast<juce::TextEditor*> (getCurrentlyFocusedComponent()))
+        entry->keyPressed (key); // takes the place of what is selected
+
+    return true;
+}
+
+void ValueControl::changeJoining (const std::function<void (Parameters::Parameter&)>& change)
+{
+    context.edits.join (parameter.get(), getText().title, [&] { return changeAtOnce (*parameter, change); });
+    poll();
+}
+
+float ValueControl::proportionOf (juce::Point<float> movement) const
+{
+    constexpr auto unitsOfWidth = 1000.0f;
+    const auto pixelsPerUnit = static_cast<float> (context.canvas.getRoot().getWidth()) / unitsOfWidth;
+    return -movement.y / (AssetScheme::Base::get().constantOf ("KnobDragUnits") * pixelsPerUnit);
+}
+
+void ValueControl::poll()
+{
+    if (drawnPosition == parameter->getNormalised() && drawnValue == parameter->getFloat()
+        && drawnPrecisely == isDragging())
+        return;
+
+    look();
+    valueChanged();
+
+    if (auto* handler = getAccessibilityHandler())
+        handler->notifyAccessibilityEvent (juce::AccessibilityEvent::valueChanged);
+}
+
+void ValueControl::look()
+{
+    drawnPosition = parameter->getNormalised();
+    drawnValue = parameter->getFloat();
+    drawnPrecisely = isDragging();
+    drawnText = getShownText (drawnPrecisely ? ValueDetail::precise : ValueDetail::shown);
+}
+
+namespace
+{
+/** A value for a screen reader, as it is shown and with its unit. */
+struct SpokenValue : juce::AccessibilityValueInterface
+{
+    explicit SpokenValue (ValueControl& controlToRead) : control (controlToRead) {}
+
+    bool isReadOnly() const override { return ! control.isEnabled(); }
+    double getCurrentValue() const override { return double (control.getParameter()->getNormalised()); }
+    juce::String getCurrentValueAsString() const override { return control.getShownText (ValueDetail::full); }
+    AccessibleValueRange getRange() const override { return { { 0.0, 1.0 }, coarseStep }; }
+    void setValueAsString (const juce::String& text) override { control.setFromTyped (text); }
+
+    void setValue (double normalised) override
+    {
+        auto& parameter = *control.getParameter();
+        changeAtOnce (parameter,
+                      [normalised] (auto& p) { p.setNormalisedNotifying (static_cast<float> (normalised)); });
+    }
+
+    ValueControl& control;
+};
+} // namespace
+
+std::unique_ptr<juce::AccessibilityHandler> ValueControl::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (
+        *this,
+        juce::AccessibilityRole::slider,
+        juce::AccessibilityActions().addAction (juce::AccessibilityActionType::showMenu,
+                                                [this] { showMenu(); }),
+        juce::AccessibilityHandler::Interfaces { std::make_unique<SpokenValue> (*this) });
+}
+} // namespace Zn::GUI
