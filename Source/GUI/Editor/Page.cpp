@@ -1,6 +1,10 @@
 #include "GUI/Editor/Page.h"
 
+#include "GUI/Editor/PageKeys.h"
 #include "GUI/Framework/AssetScheme/Base.h"
+
+#include <algorithm>
+#include <tuple>
 
 namespace Zn::GUI
 {
@@ -24,15 +28,27 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
     setWantsKeyboardFocus (true);
     setLookAndFeel (&look);
 
-    for (auto* band : std::initializer_list<juce::Component*> { &header,
-                                                                &arpHeader,
-                                                                &arpParams,
-                                                                &brushes,
-                                                                &pattern,
-                                                                &sound,
-                                                                &player,
-                                                                &overlay })
+    for (auto* band : bands)
         addAndMakeVisible (band);
+
+    addAndMakeVisible (overlay);
+    fillActions();
+}
+
+void Page::fillActions()
+{
+    actions.undo = [this] { edits.undo(); };
+    actions.redo = [this] { edits.redo(); };
+    actions.learn = [this] { learning.setActive (! learning.isActive()); };
+    actions.nextBand = [this] { focusBand (1); };
+    actions.previousBand = [this] { focusBand (-1); };
+    actions.fold = [this] {
+        using AssetScheme::Fold;
+        canvas.setFold (canvas.getFold() == Fold::open ? Fold::folded : Fold::open);
+    };
+
+    if (context.processor.wrapperType == juce::AudioProcessor::wrapperType_Standalone)
+        actions.play = [&isPlaying = context.state().playHead->isPlaying] { isPlaying = ! isPlaying; };
 }
 
 Page::~Page()
@@ -45,6 +61,44 @@ Page::~Page()
 void Page::resized()
 {
     overlay.setBounds (getLocalBounds());
+}
+
+bool Page::keyPressed (const juce::KeyPress& key)
+{
+    return key == juce::KeyPress::escapeKey ? escape() : actOn (key, actions);
+}
+
+bool Page::escape()
+{
+    if (overlay.getPopup() != nullptr)
+    {
+        overlay.closePopup();
+        return true;
+    }
+
+    const auto ends = [] (const auto& end) { return end != nullptr && end(); };
+    return ends (actions.leaveLearning) || ends (actions.endSelection);
+}
+
+void Page::focusBand (int direction)
+{
+    if (overlay.getPopup() != nullptr) // keeps the focus to itself
+        return;
+
+    constexpr auto count = int (std::tuple_size_v<decltype (bands)>);
+    const auto hasFocus = [] (const auto* band) { return band->hasKeyboardFocus (true); };
+    const auto current = std::find_if (bands.begin(), bands.end(), hasFocus);
+    auto index = current != bands.end() ? int (current - bands.begin()) : (direction > 0 ? -1 : count);
+
+    for (auto tries = count; tries > 0; --tries)
+    {
+        index = (index + direction + count) % count;
+        auto* const band = bands[static_cast<std::size_t> (index)];
+        auto* const first = band->createKeyboardFocusTraverser()->getDefaultComponent (band);
+
+        if (first != nullptr && band->isParentOf (first))
+            return first->grabKeyboardFocus();
+    }
 }
 
 void Page::paint (juce::Graphics& g)

@@ -10,6 +10,8 @@
 #include "GUI/Sound/SoundBand.h"
 #include "GUI/Widgets/EditorLook.h"
 
+#include <array>
+
 namespace Zn::GUI
 {
 /** The whole editor, one page: the pattern in the middle, above it what shapes it, below it what sounds it.
@@ -33,8 +35,13 @@ public:
 
     void paint (juce::Graphics& g) override;
     void resized() override;
+    bool keyPressed (const juce::KeyPress& key) override;
 
 private:
+    void fillActions();
+    bool escape();
+    void focusBand (int direction);
+
     AssetScheme::Canvas canvas { *this };
     EditorLook look { canvas };
     UserSettings settings;
@@ -53,6 +60,10 @@ private:
     PatternArea pattern { context };
     SoundBand sound { context };
     PlayerBand player { context };
+    const std::array<juce::Component*, 7> bands { // from the top
+                                                  &header,  &arpHeader, &arpParams, &brushes,
+                                                  &pattern, &sound,     &player
+    };
 
     Events::UpdateTimer timer;
 };

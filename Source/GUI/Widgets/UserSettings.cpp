@@ -1,8 +1,122 @@
 #include "GUI/Widgets/UserSettings.h"
 
+#include "Presets/AtomicFile.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+
 namespace Zn::GUI
 {
-UserSettings::UserSettings (const juce::File& fileToUse) : file (fileToUse) {}
+namespace
+{
+using Values = UserSettings::Values;
+using Json = nlohmann::json;
+
+constexpr juce::int64 largestFile = 1024 * 1024; // bytes
+constexpr auto indentation = 4;                  // spaces
+
+/** Every setting under the name that it has in the file. */
+template <typename Visit, typename... AllValues>
+void visitFields (Visit&& visit, AllValues&... values)
+{
+    visit ("middleC", values.middleC...);
+    visit ("tooltips", values.tooltips...);
+    visit ("reducedMotion", values.reducedMotion...);
+    visit ("playHeadHertz", values.playHeadHertz...);
+    visit ("followsPlayingSlot", values.followsPlayingSlot...);
+    visit ("wheelTurnsKnobs", values.wheelTurnsKnobs...);
+    visit ("ownColours", values.ownColours...);
+    visit ("chordsPlayed", values.chordsPlayed...);
+    visit ("favourites", values.favourites...);
+}
+
+void read (const Json& json, bool& value)
+{
+    if (json.is_boolean())
+        value = json.get<bool>();
+}
+
+void read (const Json& json, int& value)
+{
+    if (json.is_number_integer())
+        value = json.get<int>();
+}
+
+void read (const Json& json, juce::StringArray& value)
+{
+    if (! json.is_array())
+        return;
+
+    value.clear();
+
+    for (const auto& line : json)
+        if (line.is_string())
+            value.add (juce::String (line.get<std::string>()));
+}
+
+Json jsonOf (bool value)
+{
+    return value;
+}
+
+Json jsonOf (int value)
+{
+    return value;
+}
+
+Json jsonOf (const juce::StringArray& value)
+{
+    auto lines = Json::array();
+
+    for (const auto& line : value)
+        lines.push_back (line.toStdString());
+
+    return lines;
+}
+
+/** What a file says may have been written by hand. */
+Values sound (Values values)
+{
+    values.middleC = juce::jlimit (3, 4, values.middleC);
+    values.playHeadHertz = values.playHeadHertz == 30 ? 30 : 60;
+    values.chordsPlayed = std::max (0, values.chordsPlayed);
+    return values;
+}
+
+Values readFile (const juce::File& file)
+{
+    Values values;
+
+    if (! file.existsAsFile() || file.getSize() > largestFile)
+        return values;
+
+    const auto text = file.loadFileAsString().toStdString();
+    const auto json = Json::parse (text, nullptr, false);
+
+    if (! json.is_object())
+        return values;
+
+    const auto readField = [&json] (const char* name, auto& value) {
+        if (const auto found = json.find (name); found != json.end())
+            read (*found, value);
+    };
+
+    visitFields (readField, values);
+    return sound (values);
+}
+
+std::string textOf (const Values& values)
+{
+    auto json = Json::object();
+    visitFields ([&json] (const char* name, const auto& value) { json[name] = jsonOf (value); }, values);
+    return json.dump (indentation, ' ', false, Json::error_handler_t::replace);
+}
+} // namespace
+
+UserSettings::UserSettings (const juce::File& fileToUse)
+    : watcher (fileToUse, [this] { take (readFile (watcher.getFile())); }), values (readFile (fileToUse))
+{}
 
 juce::File UserSettings::defaultFile()
 {
@@ -11,6 +125,25 @@ juce::File UserSettings::defaultFile()
 }
 
 void UserSettings::set (const Values& newValues)
+{
+    if (values == newValues)
+        return;
+
+    // Another editor may have changed other settings just now: those stay.
+    const auto& file = watcher.getFile();
+    auto merged = file.existsAsFile() ? readFile (file) : values;
+    const auto merge = [] (const char*, auto& target, const auto& before, const auto& after) {
+        if (before != after)
+            target = after;
+    };
+
+    visitFields (merge, merged, values, newValues);
+    file.getParentDirectory().createDirectory();
+    Presets::replaceFile (file, textOf (merged), Presets::Durability::canBeMadeAgain);
+    take (merged);
+}
+
+void UserSettings::take (const Values& newValues)
 {
     if (values == newValues)
         return;

@@ -1,13 +1,15 @@
 #pragma once
 
 #include "Foundation/Events/HasBroadcaster.h"
+#include "GUI/Framework/AssetScheme/FileParser.h"
 
 #include <juce_core/juce_core.h>
 
 namespace Zn::GUI
 {
 /** What a user wants of every editor, kept in a file of theirs. Tells its listeners of changes, and writes them
-    at once. A file that is not there or cannot be read means the defaults. Thread: message.
+    at once; takes in what other open editors write. Whatever cannot be read in the file has its default.
+    Thread: message.
 */
 class UserSettings : public Events::HasBroadcaster
 {
@@ -36,8 +38,13 @@ public:
     const Values& get() const noexcept { return values; }
     void set (const Values& newValues);
 
+    /** Looks at the file at once, as it does twice a second. */
+    void check() { watcher.check(); }
+
 private:
-    const juce::File file;
+    void take (const Values& newValues);
+
+    AssetScheme::FileParser watcher;
     Values values;
 };
 } // namespace Zn::GUI

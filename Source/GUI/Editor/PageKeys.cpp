@@ -1,0 +1,85 @@
+#include "GUI/Editor/PageKeys.h"
+
+#include "Sequencer/PatternData.h"
+
+#include <array>
+
+namespace Zn::GUI
+{
+namespace
+{
+using Key = juce::KeyPress;
+using Modifiers = juce::ModifierKeys;
+
+constexpr auto command = Modifiers::commandModifier; // Ctrl, or Cmd where that is the custom
+constexpr auto shift = Modifiers::shiftModifier;
+constexpr auto alt = Modifiers::altModifier;
+
+struct PageKey
+{
+    int keyCode, modifiers;
+    CallbackFunc PageActions::*action;
+
+    Key key() const { return { keyCode, modifiers, 0 }; }
+};
+
+/** Not a constant, since JUCE's key codes are none. */
+auto pageKeys()
+{
+    using Actions = PageActions;
+
+    return std::to_array<PageKey> ({
+        { 'z', command, &Actions::undo },
+        { 'z', command | shift, &Actions::redo },
+        { 'y', command, &Actions::redo },
+        { 's', command, &Actions::save },
+        { 's', command | shift, &Actions::saveAs },
+        { Key::pageUpKey, command, &Actions::previousPreset },
+        { Key::pageDownKey, command, &Actions::nextPreset },
+        { 'f', command, &Actions::searchPresets },
+        { 'l', command, &Actions::learn },
+        { ',', command, &Actions::settings },
+        { Key::F1Key, 0, &Actions::help },
+        { Key::F6Key, 0, &Actions::nextBand },
+        { Key::F6Key, shift, &Actions::previousBand },
+        { 'm', command, &Actions::fold },
+        { Key::spaceKey, 0, &Actions::play },
+    });
+}
+
+bool perform (const CallbackFunc& action)
+{
+    if (action == nullptr)
+        return false;
+
+    action();
+    return true;
+}
+
+bool chooseSlot (const Key& key, const PageActions& actions)
+{
+    const auto number = key.getKeyCode() - '1';
+
+    if (number < 0 || number >= Sequencer::numSlots)
+        return false;
+
+    const auto modifiers = key.getModifiers().getRawFlags();
+    const auto& choose = modifiers == (command | alt) ? actions.openSlot : actions.playSlot;
+
+    if (choose == nullptr || (modifiers != command && modifiers != (command | alt)))
+        return false;
+
+    choose (number);
+    return true;
+}
+} // namespace
+
+bool actOn (const Key& key, const PageActions& actions)
+{
+    for (const auto& candidate : pageKeys())
+        if (candidate.key() == key)
+            return perform (actions.*candidate.action);
+
+    return chooseSlot (key, actions);
+}
+} // namespace Zn::GUI
