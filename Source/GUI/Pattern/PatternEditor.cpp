@@ -44,13 +44,19 @@ void PatternEditor::setHoveredNote (int note)
         hoverChanged.callListeners();
 }
 
-void PatternEditor::select (NoteSelection selection)
+void PatternEditor::select (const NoteSelection& selection)
 {
-    if (shown.selection == selection)
+    NoteSelection existing;
+
+    for (const auto note : selection)
+        if (shown.hasNote (note))
+            existing.set (note, true);
+
+    if (shown.selection == existing)
         return;
 
     context.edits.finish();
-    shown.selection = std::move (selection);
+    shown.selection = std::move (existing);
     selectionChanged.callListeners();
 }
 
@@ -107,7 +113,7 @@ void PatternEditor::beginDrag (const juce::String& name)
 
 void PatternEditor::updateDrag (const Change& change)
 {
-    if (press == nullptr || press->isDisowned)
+    if (! isDragging())
         return;
 
     auto drawing = press->drawing;
@@ -133,15 +139,20 @@ void PatternEditor::cancelDrag()
     if (press == nullptr)
         return;
 
-    if (! press->isDisowned)
+    if (isDragging())
         show (press->drawing);
 
     endDrag();
 }
 
+bool PatternEditor::isDragging() const noexcept
+{
+    return press != nullptr && ! press->isDisowned;
+}
+
 const Drawing& PatternEditor::getDrawingAtPress() const noexcept
 {
-    return press != nullptr ? press->drawing : shown;
+    return isDragging() ? press->drawing : shown;
 }
 
 Sequencer::PatternSlot& PatternEditor::slot() const

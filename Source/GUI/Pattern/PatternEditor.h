@@ -44,7 +44,8 @@ public:
     int getHoveredNote() const noexcept { return hovered; }
     void setHoveredNote (int note);
 
-    void select (NoteSelection selection);
+    /** Notes that do not exist are left out. */
+    void select (const NoteSelection& selection);
 
     /** The rectangle that is being drawn to select with. */
     const std::optional<RollArea>& getLasso() const noexcept { return lasso; }
@@ -71,7 +72,8 @@ public:
     /** The drawing is what it was, and so is the selection. */
     void cancelDrag();
 
-    bool isDragging() const noexcept { return press != nullptr; }
+    /** False also when the slot has been taken away from a drag. */
+    bool isDragging() const noexcept;
 
     /** As it was when the drag began; else as it is. */
     const Drawing& getDrawingAtPress() const noexcept;

@@ -4,8 +4,8 @@
 
 namespace Zn::GUI
 {
-/** What one brush does with the pointer. A press is followed by any number of drags and one release, unless the edit is
-    cancelled: then the tool hears of neither. Thread: message.
+/** What one brush does with the pointer. A press is followed by any number of drags and one release; small movements of a
+    click are no drags. When the edit is cancelled the tool hears nothing more of it. Thread: message.
 */
 class RollTool
 {
@@ -23,11 +23,4 @@ public:
     virtual RollReadout getReadout() const { return {}; }
 };
 
-/** Pixels that the pointer may move before a click becomes a drag. */
-constexpr auto dragThreshold = 3.0f;
-
-inline bool hasMoved (const RollPointer& pointer) noexcept
-{
-    return pointer.moved.getDistanceFromOrigin() >= dragThreshold;
-}
 } // namespace Zn::GUI

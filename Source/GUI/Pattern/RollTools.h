@@ -52,7 +52,9 @@ private:
     PatternEditor& editor;
     struct Tools;
     const std::unique_ptr<Tools> tools;
-    RollTool* current = nullptr;
+    RollTool* current = nullptr; // between press and release
+    RollPointer pressed;
+    NoteSelection selectionBefore;
     bool hasDragged = false;
     Audio::Plugins::Vornel::Brush brushBefore {};
     Events::Listener brushListener;
