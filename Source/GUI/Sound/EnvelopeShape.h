@@ -32,13 +32,14 @@ struct EnvelopeShape
     std::array<juce::Point<float>, numCorners> corners;
     float widthPerRoot = 0.0f; // of a second
 
-    /** Never wider than `widestPerRoot`, and narrower where the times need more room. */
-    static EnvelopeShape of (const EnvelopeTimes&, float widestPerRoot = defaultWidthPerRoot);
+    /** The scale is the same for all, but finer where the times need more room. */
+    static EnvelopeShape of (const EnvelopeTimes&);
 
     /** The time that lies between two places. */
     float secondsBetween (float startX, float endX) const noexcept;
 
-    static constexpr float sustainWidth = 1.0f / 6.0f;
-    static constexpr float defaultWidthPerRoot = 1.0f - sustainWidth;
+    /** The attack, or the decay, that brings the corner at its end to a place. */
+    static float attackFor (const EnvelopeTimes&, float x) noexcept;
+    static float decayFor (const EnvelopeTimes&, float x) noexcept;
 };
 } // namespace Zn::GUI

@@ -1,8 +1,125 @@
 #include "GUI/Sound/SoundBand.h"
 
+#include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Sound/OscillatorCopy.h"
+#include "Parameters/CreateForwarder.h"
+
 namespace Zn::GUI
 {
 SoundBand::SoundBand (EditorContext& contextToUse)
-    : Element (contextToUse.canvas, "SoundModule"), context (contextToUse)
-{}
+    : Element (contextToUse.canvas, "SoundModule")
+    , context (contextToUse)
+    , oscillators { { { context, 0, callbacksOf (0) },
+                      { context, 1, callbacksOf (1) },
+                      { context, 2, callbacksOf (2) },
+                      { context, 3, callbacksOf (3) } } }
+    , master (context,
+              "Master",
+              Parameters::createForwarder (context.state().params.sound.master),
+              { .direction = Slider::Direction::longer, .accent = "Sound" })
+    , pollListener (contextToUse.polls, [this] { poll(); })
+{
+    setTitle ("Sound");
+    setFocusContainerType (FocusContainerType::focusContainer);
+
+    auto order = 0;
+
+    // The slider lies on its card, or, folded, on the header.
+    for (auto* part : std::initializer_list<juce::Component*> { &header,
+                                                                &oscillators[0],
+                                                                &oscillators[1],
+                                                                &oscillators[2],
+                                                                &oscillators[3],
+                                                                &sub,
+                                                                &unison,
+                                                                &filter,
+                                                                &envelope,
+                                                                &delay,
+                                                                &masterCard,
+                                                                &master,
+                                                                &foldedValue })
+    {
+        part->setExplicitFocusOrder (++order);
+        addAndMakeVisible (part);
+    }
+}
+
+OscillatorCard::Callbacks SoundBand::callbacksOf (std::size_t oscillator)
+{
+    return { .unisonClicked =
+                 [this] {
+                     if (isShowing())
+                         unison.getVoices().grabKeyboardFocus();
+                 },
+             .dragged = [this, oscillator] (auto onScreen) { showDropTarget (oscillator, onScreen); },
+             .dropped = [this, oscillator] (auto onScreen,
+                                            bool swaps) { drop (oscillator, onScreen, swaps); } };
+}
+
+OscillatorCard* SoundBand::cardAt (juce::Point<int> onScreen)
+{
+    for (auto& card : oscillators)
+        if (card.getScreenBounds().contains (onScreen))
+            return &card;
+
+    return nullptr;
+}
+
+void SoundBand::showDropTarget (std::size_t from, juce::Point<int> onScreen)
+{
+    const auto* target = cardAt (onScreen);
+
+    for (auto& card : oscillators)
+        card.setDropTarget (&card == target && &card != &oscillators[from]);
+}
+
+void SoundBand::drop (std::size_t from, juce::Point<int> onScreen, bool swaps)
+{
+    for (auto& card : oscillators)
+        card.setDropTarget (false);
+
+    const auto* target = cardAt (onScreen);
+
+    if (target == nullptr || target == &oscillators[from])
+        return;
+
+    auto& params = context.state().params.sound.synth.oscillators.oscillators;
+    auto& source = params[from];
+    auto& destination = params[static_cast<std::size_t> (target - oscillators.data())];
+
+    context.edits.perform (swaps ? "Swap oscillators" : "Copy oscillator", [&] {
+        return swaps ? swapOscillators (source, destination) : copyOscillator (source, destination);
+    });
+}
+
+void SoundBand::schemeChanged()
+{
+    const auto isFolded = context.canvas.getFold() == AssetScheme::Fold::folded;
+
+    for (auto* child : getChildren())
+        if (dynamic_cast<SoundCard*> (child) != nullptr)
+            child->setVisible (! isFolded);
+
+    foldedValue.setVisible (isFolded);
+    poll();
+}
+
+void SoundBand::poll()
+{
+    const auto synthIsOn = context.state().params.sound.synthEnable.get();
+    showAsOn (master, synthIsOn);
+    showAsOn (foldedValue, synthIsOn);
+}
+
+void SoundBand::paint (juce::Graphics& g)
+{
+    const auto hairline = std::max (1.0f, context.canvas.pixelsOf ("HairlineStroke"));
+    g.setColour (AssetScheme::Base::get().colourOf ("Hairline"));
+    g.fillRect (getLocalBounds().toFloat().withHeight (hairline));
+}
+
+std::unique_ptr<juce::AccessibilityHandler> SoundBand::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
+}
 } // namespace Zn::GUI

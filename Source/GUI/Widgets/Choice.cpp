@@ -4,6 +4,35 @@
 
 namespace Zn::GUI
 {
+namespace
+{
+using Target = std::weak_ptr<Parameters::Parameter>;
+
+/** Lets every line of a menu be a step of undo. */
+void makeEdits (Parameters::MenuItems::Item& menu,
+                Edits& edits,
+                const Target& target,
+                const juce::String& name)
+{
+    for (auto& line : menu.subItems)
+    {
+        makeEdits (line, edits, target, name);
+
+        if (line.action == nullptr)
+            continue;
+
+        line.action = [&edits, target, name, action = line.action] {
+            edits.perform (name, [&] {
+                const auto parameter = target.lock();
+                const auto before = parameter != nullptr ? parameter->getNormalised() : 0.0f;
+                action();
+                return parameter != nullptr && parameter->getNormalised() != before;
+            });
+        };
+    }
+}
+} // namespace
+
 Choice::Choice (EditorContext& contextToUse,
                 std::string element,
                 std::shared_ptr<Parameters::Parameter> parameterToShow,
@@ -14,6 +43,7 @@ Choice::Choice (EditorContext& contextToUse,
 void Choice::openMenu()
 {
     auto menu = getParameter()->getMenuChoices();
+    makeEdits (menu, context.edits, getParameter(), getText().title);
     Parameters::MenuItems::holdWeakly (menu, getParameter());
     context.overlay.showMenu (menu, this);
 }

@@ -25,6 +25,12 @@ void Slider::mouseUp (const juce::MouseEvent& event)
         context.overlay.hideReadout();
 }
 
+bool Slider::isAcross() const noexcept
+{
+    return options.direction == Direction::across
+           || (options.direction == Direction::longer && getWidth() > getHeight());
+}
+
 juce::Line<float> Slider::track() const
 {
     if (isAcross())

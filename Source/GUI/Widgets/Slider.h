@@ -13,7 +13,8 @@ public:
     enum class Direction
     {
         across,
-        upright
+        upright,
+        longer // whichever way it has more room, for one that lies elsewhere while the sound is folded
     };
 
     struct Options
@@ -36,7 +37,7 @@ private:
     void paintControl (juce::Graphics& g) override;
     float proportionOf (juce::Point<float> movement) const override;
 
-    bool isAcross() const noexcept { return options.direction == Direction::across; }
+    bool isAcross() const noexcept;
     juce::Line<float> track() const;
     juce::Rectangle<float> handle() const;
 

@@ -1,0 +1,25 @@
+#include "GUI/Sound/MasterValue.h"
+
+#include "Parameters/CreateForwarder.h"
+
+namespace Zn::GUI
+{
+MasterValue::MasterValue (EditorContext& contextToUse, std::string element)
+    : ValueControl (contextToUse,
+                    std::move (element),
+                    Parameters::createForwarder (contextToUse.state().params.sound.master))
+{
+    setWantsKeyboardFocus (false);
+    setAccessible (false);
+}
+
+void MasterValue::schemeChanged()
+{
+    font = context.canvas.fontOf ("FontSmall");
+}
+
+void MasterValue::paintControl (juce::Graphics& g)
+{
+    paintText (g, shownText() + " dB", font, area(), juce::Justification::centred, colour ("Text"));
+}
+} // namespace Zn::GUI

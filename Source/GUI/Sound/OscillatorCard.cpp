@@ -1,0 +1,69 @@
+#include "GUI/Sound/OscillatorCard.h"
+
+#include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Sound/WavetableChoice.h"
+#include "Parameters/CreateForwarder.h"
+
+namespace Zn::GUI
+{
+namespace
+{
+auto& paramsOf (EditorContext& context, int index)
+{
+    return context.state().params.sound.synth.oscillators.oscillators[static_cast<std::size_t> (index)];
+}
+} // namespace
+
+OscillatorCard::OscillatorCard (EditorContext& contextToUse, int index, Callbacks callbacks)
+    : SoundCard (contextToUse, "Osc" + std::to_string (index + 1), "Oscillator " + juce::String (index + 1))
+    , name (getElement())
+    , table (std::make_shared<WavetableChoice> (paramsOf (contextToUse, index).type))
+    , enable (contextToUse,
+              name + "Enable",
+              Parameters::createForwarder (paramsOf (contextToUse, index).enable),
+              { .look = Toggle::Look::power, .accent = "Sound" })
+    , unison (contextToUse, name + "Unison", std::move (callbacks.unisonClicked))
+    , wave (contextToUse, name + "Wave", table)
+    , type (contextToUse, name + "Type", table, Choice::Look::browser)
+    , octave (
+          contextToUse, name + "Octave", Parameters::createForwarder (paramsOf (contextToUse, index).octave))
+    , tune (contextToUse, name + "Tune", Parameters::createForwarder (paramsOf (contextToUse, index).tune))
+    , volume (
+          contextToUse, name + "Volume", Parameters::createForwarder (paramsOf (contextToUse, index).volume))
+    , title (enable, std::move (callbacks.dragged), std::move (callbacks.dropped))
+{
+    setPower (enable, [&enabled = paramsOf (contextToUse, index).enable] { return enabled.get(); });
+    add ({ &enable, &unison, &wave, &type, &octave, &tune, &volume, &title });
+}
+
+void OscillatorCard::setDropTarget (bool shouldBeDropTarget)
+{
+    if (std::exchange (isDropTarget, shouldBeDropTarget) != shouldBeDropTarget)
+        repaint();
+}
+
+void OscillatorCard::schemeChanged()
+{
+    SoundCard::schemeChanged();
+    fitLabels ({ &octave, &tune, &volume });
+
+    // The sign itself stays the button's; its words, which flip it too, can be dragged.
+    auto words = context.canvas.boundsIn (this, name + "Enable");
+    words.removeFromLeft (
+        juce::roundToInt (context.canvas.pixelsOf ("IconSize") + context.canvas.pixelsOf ("CaptionGap")));
+    title.setBounds (words);
+}
+
+void OscillatorCard::paintOverChildren (juce::Graphics& g)
+{
+    if (! isDropTarget)
+        return;
+
+    const auto stroke = context.canvas.pixelsOf ("ThinStroke");
+    const auto area = getLocalBounds().toFloat();
+    g.setColour (AssetScheme::Base::get().colourOf ("Sound"));
+    g.drawRoundedRectangle (area.reduced (stroke / 2.0f),
+                            context.canvas.cornerOf ("CardCorner", area),
+                            stroke);
+}
+} // namespace Zn::GUI

@@ -1,0 +1,338 @@
+#include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Sound/Meter.h"
+#include "GUI/Sound/Picture.h"
+#include "GUI/Sound/WavetableChoice.h"
+#include "GUI/Support/OpenEditor.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace Zn::GUI
+{
+namespace
+{
+using Point = juce::Point<float>;
+using Holders = std::set<const Audio::ParamHolderBase*>;
+
+auto& soundOf (Tests::OpenEditor& editor)
+{
+    return editor.getState().params.sound;
+}
+
+std::map<const Audio::ParamHolderBase*, float> valuesOf (Tests::OpenEditor& editor)
+{
+    std::map<const Audio::ParamHolderBase*, float> values;
+    soundOf (editor).forEachParam (
+        [&] (auto& holder) { values[&holder] = holder.getParameter().getValue(); });
+    return values;
+}
+
+Holders changedBetween (const std::map<const Audio::ParamHolderBase*, float>& before,
+                        const std::map<const Audio::ParamHolderBase*, float>& after)
+{
+    Holders changed;
+
+    for (const auto& [holder, value] : before)
+        if (after.at (holder) != value)
+            changed.insert (holder);
+
+    return changed;
+}
+
+/** A sound whose handles are not at the edges, and nothing to undo. */
+void startWithRoom (Tests::OpenEditor& editor)
+{
+    auto& synth = soundOf (editor).synth;
+    *synth.filter.cutoff = 2000.0f;
+    *synth.adsr.attack = 0.1f;
+    *synth.adsr.decay = 0.3f;
+    *synth.adsr.sustain = 0.5f;
+    *synth.adsr.release = 0.2f;
+    *synth.delay.time = 0.4f;
+    *synth.delay.feedback = 0.2f;
+    synth.delay.timeSync->setValueNotifyingHost (synth.delay.timeSync->convertTo0to1 (4.0f));
+    editor.processor.getUndo().begin();
+    editor.processor.getUndo().markChanged();
+    editor.processor.getUndo().end ("Start");
+    editor.poll();
+}
+
+Point startOf (const Picture& picture, std::size_t handle)
+{
+    return picture.getHandles().empty() ? picture.getLocalBounds().toFloat().getCentre()
+                                        : picture.getHandles()[handle];
+}
+
+float opacityOf (Tests::OpenEditor& editor, const juce::String& element)
+{
+    return editor.find (element).getAlpha();
+}
+} // namespace
+
+TEST (SoundPictures, MoveTheirOwnParametersInOneStepOfUndo)
+{
+    struct Row
+    {
+        const char* picture;
+        std::size_t handle;
+        Point movement;
+        std::function<Holders (Audio::WavetableSynth::Params&)> moved;
+    };
+
+    const Row rows[] {
+        { "Osc2Wave", 0, { 0, 40 }, [] (auto& s) { return Holders { &s.oscillators.oscillators[1].type }; } },
+        { "FilterCurve",
+          0,
+          { -20, -5 },
+          [] (auto& s) {
+              return Holders { &s.filter.cutoff, &s.filter.resonance };
+          } },
+        { "EnvelopeCurve", 0, { 6, 5 }, [] (auto& s) { return Holders { &s.adsr.attack }; } },
+        { "EnvelopeCurve",
+          1,
+          { 6, 5 },
+          [] (auto& s) {
+              return Holders { &s.adsr.decay, &s.adsr.sustain };
+          } },
+        { "EnvelopeCurve", 2, { 6, 5 }, [] (auto& s) { return Holders { &s.adsr.sustain }; } },
+        { "EnvelopeCurve", 3, { -6, 5 }, [] (auto& s) { return Holders { &s.adsr.release }; } },
+        { "DelayCurve",
+          0,
+          { 60, -9 },
+          [] (auto& s) {
+              return Holders { &s.delay.timeSync, &s.delay.feedback };
+          } },
+    };
+
+    Tests::OpenEditor editor;
+    startWithRoom (editor);
+
+    for (const auto& row : rows)
+    {
+        auto& picture = editor.find<Picture> (row.picture);
+        const auto before = valuesOf (editor);
+        const auto start = startOf (picture, row.handle);
+
+        Tests::Hand::drag (picture, { start, start + row.movement / 2.0f, start + row.movement });
+        EXPECT_EQ (changedBetween (before, valuesOf (editor)), row.moved (soundOf (editor).synth))
+            << row.picture << " " << row.handle;
+
+        editor.page.getContext().edits.undo();
+        EXPECT_EQ (changedBetween (before, valuesOf (editor)), Holders {})
+            << row.picture << " " << row.handle;
+    }
+}
+
+TEST (SoundPictures, KeepTheirHandlesUnderThePointer)
+{
+    Tests::OpenEditor editor;
+    startWithRoom (editor);
+
+    for (const auto& [name, handle] : { std::pair { "FilterCurve", 0u },
+                                        std::pair { "EnvelopeCurve", 0u },
+                                        std::pair { "EnvelopeCurve", 1u } })
+    {
+        auto& picture = editor.find<Picture> (name);
+        const auto start = startOf (picture, handle), end = start + Point { 4, 3 };
+        Tests::Hand::drag (picture, { start, end });
+
+        EXPECT_NEAR (startOf (picture, handle).x, end.x, 1.0f) << name << " " << handle;
+
+        const auto keepsHeight = juce::String (name) == "EnvelopeCurve" && handle == 0u;
+        EXPECT_NEAR (startOf (picture, handle).y, keepsHeight ? start.y : end.y, 1.0f)
+            << name << " " << handle;
+    }
+}
+
+TEST (SoundPictures, PutEverythingBackOnEscape)
+{
+    Tests::OpenEditor editor;
+    startWithRoom (editor);
+    auto& curve = editor.find<Picture> ("EnvelopeCurve");
+    const auto before = valuesOf (editor);
+    const auto start = startOf (curve, 1), end = start + Point { 9, 9 };
+
+    curve.mouseDown (Tests::Hand::mouseEvent (curve, start, start, Tests::Hand::leftButton));
+    curve.mouseDrag (Tests::Hand::mouseEvent (curve, end, start, Tests::Hand::leftButton, 1, true));
+    ASSERT_EQ (changedBetween (before, valuesOf (editor)).size(), 2u);
+
+    Tests::Hand::press (curve, "escape");
+    curve.mouseDrag (Tests::Hand::mouseEvent (curve, start, start, Tests::Hand::leftButton, 1, true));
+    EXPECT_EQ (changedBetween (before, valuesOf (editor)), Holders {});
+}
+
+TEST (SoundPictures, DragAFreeDelayWithoutSteps)
+{
+    Tests::OpenEditor editor;
+    startWithRoom (editor);
+    auto& delay = soundOf (editor).synth.delay;
+    *delay.mode = 1;
+    editor.poll();
+
+    auto& taps = editor.find<Picture> ("DelayCurve");
+    Tests::Hand::drag (taps, { { 30, 30 }, { 30.0f + float (taps.getWidth()) / 10.0f, 30 } });
+    EXPECT_GT (delay.time.get(), 0.55f);
+    EXPECT_LT (delay.time.get(), 0.7f);
+    EXPECT_FALSE (editor.find ("DelayTimeSync").isVisible());
+    EXPECT_TRUE (editor.find ("DelayTime").isVisible());
+}
+
+TEST (OscillatorCards, AreCopiedAndSwappedByTheirTitles)
+{
+    Tests::OpenEditor editor;
+    auto& oscillators = soundOf (editor).synth.oscillators.oscillators;
+    auto& first = oscillators[0];
+    auto& third = oscillators[2];
+    *first.tune = 7;
+    first.type->setValueNotifyingHost (first.type->convertTo0to1 (5.0f));
+    *third.tune = -3;
+
+    const auto drop = [&editor] (juce::ModifierKeys modifiers) {
+        auto& card = editor.find ("Osc1");
+        const auto words = card.getLocalPoint (&editor.find ("Osc1Enable"),
+                                               editor.find ("Osc1Enable").getLocalBounds().getCentre());
+        auto& title = *card.getComponentAt (words);
+        const auto target = title.getLocalPoint (&editor.find ("Osc3"), Point { 20, 90 });
+        Tests::Hand::drag (title, { { 3, 3 }, { 9, 3 }, target }, modifiers);
+    };
+
+    drop (Tests::Hand::leftButton.withFlags (juce::ModifierKeys::altModifier));
+    EXPECT_EQ (first.tune.get(), -3);
+    EXPECT_EQ (third.tune.get(), 7);
+    EXPECT_EQ (third.type->getIndex(), 5);
+
+    drop (Tests::Hand::leftButton);
+    EXPECT_EQ (third.tune.get(), -3);
+    EXPECT_TRUE (first.enable.get()) << "a drag flips nothing";
+
+    editor.page.getContext().edits.undo();
+    EXPECT_EQ (third.tune.get(), 7);
+}
+
+TEST (SoundBand, IsFaintWhileTheSynthIsOffButCanBeEdited)
+{
+    Tests::OpenEditor editor;
+    auto& sound = soundOf (editor);
+    const auto faint = AssetScheme::Base::get().constantOf ("DisabledOpacity");
+
+    *sound.synth.oscillators.oscillators[3].enable = false;
+    editor.poll();
+    EXPECT_EQ (opacityOf (editor, "Osc4Enable"), 1.0f);
+    EXPECT_NEAR (opacityOf (editor, "Osc4Volume"), faint, 0.01f);
+    EXPECT_EQ (opacityOf (editor, "Osc1Volume"), 1.0f);
+
+    Tests::Hand::click (editor.find ("SynthEnable"));
+    editor.poll();
+    EXPECT_FALSE (sound.synthEnable.get());
+
+    for (const auto* element : { "Osc1Enable", "FilterCurve", "Master", "Meter" })
+        EXPECT_NEAR (opacityOf (editor, element), faint, 0.01f) << element;
+
+    const auto before = sound.synth.adsr.decay.get();
+    Tests::Hand::drag (editor.find ("EnvelopeDecay"), { { 10, 30 }, { 10, 60 } });
+    EXPECT_NE (sound.synth.adsr.decay.get(), before);
+}
+
+TEST (SoundBand, KeepsItsLineWhenItIsFolded)
+{
+    Tests::OpenEditor editor;
+    auto& master = editor.find ("Master");
+    EXPECT_GT (master.getHeight(), master.getWidth());
+    EXPECT_FALSE (editor.find ("MasterFoldedValue").isVisible());
+
+    Tests::Hand::click (editor.find ("SoundFold"));
+    EXPECT_GT (master.getWidth(), master.getHeight());
+    EXPECT_TRUE (editor.find ("SoundHeader").getBounds().contains (master.getBounds()));
+    EXPECT_TRUE (editor.find ("MasterFoldedValue").isVisible());
+    EXPECT_FALSE (editor.find ("Osc1").isVisible());
+    EXPECT_FALSE (editor.find ("MasterModule").isVisible());
+
+    Tests::Hand::click (editor.find ("SoundFold"));
+    EXPECT_TRUE (editor.find ("Osc1").isVisible());
+}
+
+TEST (SoundBand, TellsTheVoicesOfAnOscillatorAndLeadsToThem)
+{
+    Tests::OpenEditor editor;
+    auto& chip = editor.find ("Osc2Unison");
+    EXPECT_FALSE (chip.isVisible());
+
+    *soundOf (editor).unison = 2;
+    editor.poll();
+    EXPECT_TRUE (chip.isVisible());
+}
+
+TEST (WavetableChoice, ListsTheTablesByCategory)
+{
+    Tests::OpenEditor editor;
+    auto& type = soundOf (editor).synth.oscillators.oscillators[0].type;
+    WavetableChoice choice (type);
+    const auto menu = choice.getMenuChoices();
+    auto numLines = 0;
+
+    for (const auto& section : menu.subItems)
+        for (const auto& line : section.subItems)
+        {
+            EXPECT_TRUE (line.text.startsWith (section.text + " - ")) << line.text;
+            ++numLines;
+        }
+
+    EXPECT_EQ (numLines, type->choices.size());
+    ASSERT_GE (menu.subItems.size(), 2u);
+
+    menu.subItems[1].subItems[2].choose();
+    EXPECT_EQ (type->getCurrentChoiceName(), menu.subItems[1].subItems[2].text);
+    EXPECT_TRUE (menu.subItems[1].isTicked());
+    EXPECT_FALSE (menu.subItems[0].isTicked());
+}
+
+TEST (Meter, IsWorkedOutOnlyWhileItCanBeSeen)
+{
+    Audio::Plugins::Vornel::Processor processor (Audio::Plugins::Vornel::StartUp::empty);
+    const auto& listeners = processor.getState().numMeterListeners;
+
+    {
+        GUI::Page page (processor);
+        page.setSize (1100, 760);
+        page.getContext().polls.callListeners();
+        EXPECT_EQ (listeners.load(), 1);
+
+        page.getContext().canvas.setFold (AssetScheme::Fold::folded);
+        page.getContext().polls.callListeners();
+        EXPECT_EQ (listeners.load(), 0);
+
+        page.getContext().canvas.setFold (AssetScheme::Fold::open);
+        page.getContext().polls.callListeners();
+        EXPECT_EQ (listeners.load(), 1);
+    }
+
+    EXPECT_EQ (listeners.load(), 0);
+}
+
+TEST (Meter, HoldsThePeakAndStaysRedUntilItIsClicked)
+{
+    MeterBallistics meter;
+    const MeterBallistics::Settings settings;
+
+    meter.advance (-6.0f, 0.1f, settings);
+    meter.advance (-40.0f, 0.5f, settings);
+    EXPECT_FLOAT_EQ (meter.level, -18.0f);
+    EXPECT_FLOAT_EQ (meter.peak, -6.0f);
+
+    meter.advance (-100.0f, 1.0f, settings);
+    EXPECT_LT (meter.peak, -6.0f) << "held for its time";
+    EXPECT_FALSE (meter.clipped);
+
+    Tests::OpenEditor editor;
+    editor.getState().meter.store (1.2f);
+    editor.poll();
+    editor.getState().meter.store (0.0f);
+    editor.poll();
+
+    auto& shown = editor.find<Meter> ("Meter");
+    EXPECT_TRUE (shown.getShown().clipped);
+    Tests::Hand::click (shown);
+    EXPECT_FALSE (shown.getShown().clipped);
+}
+} // namespace Zn::GUI
