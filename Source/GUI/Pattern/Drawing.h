@@ -12,10 +12,10 @@ struct Drawing
 {
     std::vector<Sequencer::TimedNote>
         notes; // starts and lengths as parts of the pattern, rows as note numbers
-    NoteSelection selection;
+    NoteSelection selection {};
     int grid = 16; // columns
     bool multiply = false;
-    Sequencer::Bars time;
+    Sequencer::Bars time {};
     double noteLength = 1.0; // of a new note, as a part of a column
 
     /** Nothing is selected. */

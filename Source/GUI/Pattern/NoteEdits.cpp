@@ -48,6 +48,17 @@ int earliest (const Drawing& drawing)
     return first == selection.end() ? -1 : *first;
 }
 
+int longest (const Drawing& drawing)
+{
+    const auto isShorter = [&] (int a, int b) {
+        return drawing.note (a).time.length < drawing.note (b).time.length;
+    };
+
+    const auto& selection = drawing.selection;
+    const auto found = std::max_element (selection.begin(), selection.end(), isShorter);
+    return found == selection.end() ? -1 : *found;
+}
+
 /** By whole columns, counted from the line next to a start; the last ones that there is room for. */
 double snappedMove (double start, double byTime, const NoteGrid& grid, const Room& room)
 {
@@ -176,7 +187,7 @@ void moveSelected (Drawing& drawing, const NoteGrid& grid, int inHand, double by
 
 void lengthenSelected (Drawing& drawing, const NoteGrid& grid, int inHand, double byTime)
 {
-    const auto reference = drawing.hasNote (inHand) ? inHand : earliest (drawing);
+    const auto reference = drawing.hasNote (inHand) ? inHand : longest (drawing);
 
     if (reference < 0 || (grid.snaps && std::abs (byTime) * grid.columns < 0.5))
         return;

@@ -9,6 +9,11 @@ juce::String nameOf (NoteValue value)
     return value == NoteValue::velocity ? "Velocity" : "Chance";
 }
 
+juce::String percentText (float proportion)
+{
+    return juce::String (juce::roundToInt (100.0f * proportion)) + " %";
+}
+
 float valueOf (const Sequencer::NoteEvent& event, NoteValue value) noexcept
 {
     return std::clamp (value == NoteValue::velocity ? event.velocity : event.chance, 0.0f, 1.0f);

@@ -16,6 +16,9 @@ enum class NoteValue
 /** "Velocity", "Chance". */
 juce::String nameOf (NoteValue value);
 
+/** "74 %". */
+juce::String percentText (float proportion);
+
 /** 0 to 1. */
 float valueOf (const Sequencer::NoteEvent& event, NoteValue value) noexcept;
 

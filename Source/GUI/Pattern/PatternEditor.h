@@ -51,6 +51,9 @@ public:
     const std::optional<RollArea>& getLasso() const noexcept { return lasso; }
     void setLasso (std::optional<RollArea> newLasso);
 
+    /** The cell that keys add a note to; none until they are used. */
+    Events::Value<std::optional<RollCell>> cellCursor;
+
     /** Each tells of what its name says, and only when that has become another. */
     Events::Broadcaster drawingChanged, selectionChanged, hoverChanged, lassoChanged;
 

@@ -19,6 +19,14 @@ struct RollPoint
     bool operator== (const RollPoint&) const = default;
 };
 
+/** A column of one row. */
+struct RollCell
+{
+    int column = 0, row = 0;
+
+    bool operator== (const RollCell&) const = default;
+};
+
 /** A rectangle of the drawing by two of its corners. */
 struct RollArea
 {
@@ -31,10 +39,10 @@ struct RollArea
 struct RollPointer
 {
     RollPoint at;
-    int note = -1;            // the one under the pointer, -1 none
-    bool isAtEnd = false;     // in the part of the note that changes its length
-    juce::Point<float> moved; // pixels since the button was pressed, down is positive
-    juce::ModifierKeys modifiers;
+    int note = -1;               // the one under the pointer, -1 none
+    bool isAtEnd = false;        // in the part of the note that changes its length
+    juce::Point<float> moved {}; // pixels since the button was pressed, down is positive
+    juce::ModifierKeys modifiers {};
     int numClicks = 1; // 2: the second press of a double click
 };
 

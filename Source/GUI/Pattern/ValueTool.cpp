@@ -9,11 +9,6 @@ namespace
 constexpr auto fullRange = 150.0f; // pixels of a drag up or down
 }
 
-juce::String percentText (float proportion)
-{
-    return juce::String (juce::roundToInt (100.0f * proportion)) + " %";
-}
-
 void ValueTool::down (const RollPointer& pointer)
 {
     pressed = pointer;

@@ -46,7 +46,4 @@ private:
     RollPoint brush; // where it was last
     NoteSelection painted;
 };
-
-/** "74 %". */
-juce::String percentText (float proportion);
 } // namespace Zn::GUI

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "GUI/Pattern/PatternEditor.h"
+
+namespace Zn::GUI
+{
+/** The menus that a click with the right button opens. They may stay open longer than the editor of notes lives; then
+    their lines do nothing. Thread: message.
+*/
+class RollMenus
+{
+public:
+    RollMenus (EditorContext& contextToUse, PatternEditor& editorToUse) noexcept
+        : context (contextToUse), editor (editorToUse)
+    {}
+
+    /** Of the note under the pointer, which becomes the selection if it is not part of it, or of an empty place. */
+    void showForRoll (const RollPointer& pointer);
+
+    void showForRuler (juce::Component& ruler);
+    void showForRow (int row);
+
+    /** Saves the slot that is shown; without it there is no line for that. */
+    CallbackFunc saveAsMidi;
+
+private:
+    class Menu;
+
+    void addNoteLines (Menu& menu, int note);
+    void addEmptyLines (Menu& menu, RollPoint at);
+    void askForVelocityScale (juce::Component& ruler);
+
+    EditorContext& context;
+    PatternEditor& editor;
+    const std::shared_ptr<int> token = std::make_shared<int>(); // gone with us
+};
+} // namespace Zn::GUI
