@@ -4,6 +4,7 @@
 #include "Synth/Kernels/Pitch.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace Zn::GUI
 {

@@ -4,6 +4,8 @@
 #include "GUI/Sound/WavetableChoice.h"
 #include "Parameters/CreateForwarder.h"
 
+#include <utility>
+
 namespace Zn::GUI
 {
 namespace

@@ -3,6 +3,7 @@
 #include "GUI/Framework/AssetScheme/Base.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Zn::GUI
 {
@@ -209,11 +210,11 @@ std::unique_ptr<juce::AccessibilityHandler> Picture::createAccessibilityHandler(
 
 juce::FillType fillUnder (juce::Rectangle<float> area)
 {
-    constexpr auto fades = 0.1f; // what is left of the colour at the bottom
-    const auto top = AssetScheme::Base::get().colourOf ("CurveFill");
-    return juce::ColourGradient::vertical (top,
+    constexpr auto atTop = 2.0f, atBottom = 0.14f; // of the colour that an even fill would have
+    const auto even = AssetScheme::Base::get().colourOf ("CurveFill");
+    return juce::ColourGradient::vertical (even.withMultipliedAlpha (atTop),
                                            area.getY(),
-                                           top.withMultipliedAlpha (fades),
+                                           even.withMultipliedAlpha (atBottom),
                                            area.getBottom());
 }
 

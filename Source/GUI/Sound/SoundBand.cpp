@@ -46,11 +46,7 @@ SoundBand::SoundBand (EditorContext& contextToUse)
 
 OscillatorCard::Callbacks SoundBand::callbacksOf (std::size_t oscillator)
 {
-    return { .unisonClicked =
-                 [this] {
-                     if (isShowing())
-                         unison.getVoices().grabKeyboardFocus();
-                 },
+    return { .unisonClicked = [this] { unison.focusVoices(); },
              .dragged = [this, oscillator] (auto onScreen) { showDropTarget (oscillator, onScreen); },
              .dropped = [this, oscillator] (auto onScreen,
                                             bool swaps) { drop (oscillator, onScreen, swaps); } };

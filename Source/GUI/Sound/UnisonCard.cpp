@@ -16,6 +16,15 @@ UnisonCard::UnisonCard (EditorContext& contextToUse)
     add ({ &title, &voices, &amount });
 }
 
+void UnisonCard::Voices::focus()
+{
+    if (! isShowing())
+        return;
+
+    grabKeyboardFocus();
+    ring.keyPressed();
+}
+
 void UnisonCard::schemeChanged()
 {
     SoundCard::schemeChanged();

@@ -14,10 +14,18 @@ public:
 
     void schemeChanged() override;
 
-    juce::Component& getVoices() noexcept { return voices; }
+    /** Gives the keyboard to the number of voices, and shows it. */
+    void focusVoices() { voices.focus(); }
 
 private:
+    struct Voices : Knob
+    {
+        using Knob::Knob;
+        void focus();
+    };
+
     Label title;
-    Knob voices, amount;
+    Voices voices;
+    Knob amount;
 };
 } // namespace Zn::GUI

@@ -99,7 +99,8 @@ void Toggle::paintButton (juce::Graphics& g)
     if (options.look == Look::button)
         paintField (g, area(), surface (on ? fill : "Control"));
 
-    const auto* text = on || options.look == Look::power ? "Text" : "TextSecondary";
+    const auto* off = options.look == Look::power ? "TextQuiet" : "TextSecondary";
+    const auto* text = on ? "Text" : off;
     caption.paint (g, on ? colour (accent) : colour ("TextSecondary"), colour (text));
 }
 
