@@ -1,8 +1,81 @@
 #include "GUI/Pattern/PatternArea.h"
 
+#include "GUI/Framework/AssetScheme/Base.h"
+
 namespace Zn::GUI
 {
 PatternArea::PatternArea (EditorContext& contextToUse)
-    : Element (contextToUse.canvas, "ArpEditing"), context (contextToUse)
-{}
+    : Element (contextToUse.canvas, "ArpEditing")
+    , context (contextToUse)
+    , tables (contextToUse.state().pitchTables.getReader())
+    , tableCount (tables.getChangeCount() - 1)
+    , pollListener (contextToUse.polls, [this] { nameRows(); })
+    , fit (
+          contextToUse, "ZoomFit", { .icon = "fit.svg", .look = Button::Look::quiet }, [this] { view.fit(); })
+{
+    setOpaque (true);
+    nameRows();
+
+    for (auto* part : std::initializer_list<juce::Component*> { &chord,
+                                                                &ruler,
+                                                                &elsewhere,
+                                                                &fit,
+                                                                &pitches,
+                                                                &drawing,
+                                                                &scrollBar,
+                                                                &hint,
+                                                                &velocity,
+                                                                &chance,
+                                                                &lane,
+                                                                &playLine })
+        addChildComponent (part);
+
+    for (auto* part : std::initializer_list<juce::Component*> { &chord,
+                                                                &ruler,
+                                                                &fit,
+                                                                &pitches,
+                                                                &drawing,
+                                                                &scrollBar,
+                                                                &velocity,
+                                                                &chance,
+                                                                &lane })
+        part->setVisible (true);
+
+    playLine.moved = [this] (const auto& place) { drawing.showPlace (place); };
+}
+
+void PatternArea::nameRows()
+{
+    const auto count = tables.getChangeCount();
+    const auto octaveOfMiddleC = context.settings.get().middleC;
+
+    if (count == tableCount && octaveOfMiddleC == middleC)
+        return;
+
+    tableCount = count;
+    middleC = octaveOfMiddleC;
+    rowNames.set (RowNames::from (tables.newest(), middleC));
+}
+
+void PatternArea::schemeChanged()
+{
+    const auto boundsOf = [this] (const char* element) { return context.canvas.boundsIn (this, element); };
+    const auto rollBounds = boundsOf ("PianoRoll");
+    playLine.setTrack (
+        rollBounds.withTop (boundsOf ("Ruler").getY()).withBottom (boundsOf ("NoteLane").getBottom()),
+        rollBounds);
+}
+
+void PatternArea::paint (juce::Graphics& g)
+{
+    const auto& scheme = AssetScheme::Base::get();
+    g.fillAll (scheme.colourOf ("Inset"));
+
+    // Beside the lane: all else is covered.
+    const auto line = std::max (1, juce::roundToInt (context.canvas.pixelsOf ("HairlineStroke")));
+    g.setColour (scheme.colourOf ("Hairline"));
+    g.fillRect (0, lane.getY(), lane.getX(), line);
+    g.fillRect (0, lane.getBottom() - line, lane.getX(), line);
+    g.fillRect (lane.getX() - line, lane.getY(), line, lane.getHeight());
+}
 } // namespace Zn::GUI

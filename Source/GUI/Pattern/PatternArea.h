@@ -1,7 +1,16 @@
 #pragma once
 
-#include "GUI/Framework/AssetScheme/Element.h"
-#include "GUI/Widgets/EditorContext.h"
+#include "GUI/Pattern/HeldChord.h"
+#include "GUI/Pattern/LaneSwitch.h"
+#include "GUI/Pattern/NoteLane.h"
+#include "GUI/Pattern/PianoRoll.h"
+#include "GUI/Pattern/PitchMap.h"
+#include "GUI/Pattern/PlayLine.h"
+#include "GUI/Pattern/PlayingElsewhere.h"
+#include "GUI/Pattern/RollHint.h"
+#include "GUI/Pattern/RollScrollBar.h"
+#include "GUI/Pattern/Ruler.h"
+#include "GUI/Widgets/Button.h"
 
 namespace Zn::GUI
 {
@@ -11,7 +20,41 @@ class PatternArea : public AssetScheme::Element<>
 public:
     explicit PatternArea (EditorContext& contextToUse);
 
+    PatternEditor& getPattern() noexcept { return pattern; }
+    RollTools& getTools() noexcept { return tools; }
+    RollView& getView() noexcept { return view; }
+
+    void paint (juce::Graphics& g) override;
+    void schemeChanged() override;
+
 private:
+    void nameRows();
+
     EditorContext& context;
+    PatternEditor pattern { context };
+    RollTools tools { context, pattern };
+    RollView view { context.canvas };
+    Events::Value<RowNames> rowNames;
+    RollContext roll {
+        .editor = context, .pattern = pattern, .tools = tools, .view = view, .rowNames = rowNames
+    };
+
+    Midi::PitchTableRing::Reader tables;
+    std::int32_t tableCount = 0; // of the table that was named last
+    int middleC = 3;
+    Events::Listener pollListener;
+
+    HeldChord chord { roll };
+    Ruler ruler { roll };
+    PlayingElsewhere elsewhere { context };
+    Button fit;
+    PitchMap pitches { roll };
+    PianoRoll drawing { roll };
+    RollScrollBar scrollBar { roll };
+    RollHint hint { roll };
+    LaneSwitch velocity { roll, "LaneVelocity", NoteValue::velocity };
+    LaneSwitch chance { roll, "LaneChance", NoteValue::chance };
+    NoteLane lane { roll };
+    PlayLine playLine { roll };
 };
 } // namespace Zn::GUI

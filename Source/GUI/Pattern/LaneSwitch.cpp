@@ -1,0 +1,84 @@
+#include "GUI/Pattern/LaneSwitch.h"
+
+namespace Zn::GUI
+{
+LaneSwitch::LaneSwitch (RollContext& contextToUse, std::string element, NoteValue valueToShow)
+    : Control (contextToUse.editor, std::move (element))
+    , roll (contextToUse)
+    , value (valueToShow)
+    , listener (contextToUse.tools.laneValue, [this] { repaint(); })
+{}
+
+void LaneSwitch::schemeChanged()
+{
+    font = getCanvas().fontOf ("FontSmall");
+}
+
+void LaneSwitch::paintControl (juce::Graphics& g)
+{
+    constexpr auto barHeight = 0.6f;        // of the switch
+    constexpr auto padOfBar = 0.44f;        // of a handle of the lane, as is the bar's width
+    constexpr auto padOfText = 8.0f / 6.8f; // of a handle of the lane
+    const auto handle = pixels ("LaneHandle");
+    const auto bar = std::round (padOfBar * handle);
+
+    if (isChosen())
+    {
+        g.setColour (colour ("Pattern"));
+        g.fillRoundedRectangle (juce::Rectangle<float> (bar, barHeight * area().getHeight())
+                                    .withCentre ({ 1.5f * bar, area().getCentreY() }),
+                                0.5f * bar);
+    }
+
+    const auto isBright = isChosen() || isMouseOver();
+    paintText (g,
+               getText().label,
+               font,
+               area().withTrimmedRight (padOfText * handle),
+               juce::Justification::centredRight,
+               colour (isBright ? "Text" : "TextSecondary"));
+}
+
+void LaneSwitch::mouseDown (const juce::MouseEvent& event)
+{
+    ring.mousePressed();
+
+    if (! event.mods.isPopupMenu())
+        choose();
+}
+
+bool LaneSwitch::keyPressed (const juce::KeyPress& key)
+{
+    if (key != juce::KeyPress::spaceKey && key != juce::KeyPress::returnKey)
+        return false;
+
+    ring.keyPressed();
+    choose();
+    return true;
+}
+
+std::unique_ptr<juce::AccessibilityHandler> LaneSwitch::createAccessibilityHandler()
+{
+    struct Handler : juce::AccessibilityHandler
+    {
+        explicit Handler (LaneSwitch& laneSwitch)
+            : AccessibilityHandler (
+                laneSwitch,
+                juce::AccessibilityRole::radioButton,
+                juce::AccessibilityActions().addAction (juce::AccessibilityActionType::press,
+                                                        [&laneSwitch] { laneSwitch.choose(); }))
+            , owner (laneSwitch)
+        {}
+
+        juce::AccessibleState getCurrentState() const override
+        {
+            const auto state = AccessibilityHandler::getCurrentState().withCheckable();
+            return owner.isChosen() ? state.withChecked() : state;
+        }
+
+        LaneSwitch& owner;
+    };
+
+    return std::make_unique<Handler> (*this);
+}
+} // namespace Zn::GUI

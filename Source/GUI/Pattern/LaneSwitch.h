@@ -1,0 +1,29 @@
+#pragma once
+
+#include "GUI/Pattern/RollContext.h"
+#include "GUI/Widgets/Control.h"
+
+namespace Zn::GUI
+{
+/** One of the two names beside the lane: which value it shows and edits. Thread: message. */
+class LaneSwitch : public Control
+{
+public:
+    LaneSwitch (RollContext& contextToUse, std::string element, NoteValue valueToShow);
+
+    void schemeChanged() override;
+    void mouseDown (const juce::MouseEvent& event) override;
+    bool keyPressed (const juce::KeyPress& key) override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+
+private:
+    void paintControl (juce::Graphics& g) override;
+    void choose() { roll.tools.laneValue.set (value); }
+    bool isChosen() const { return roll.tools.laneValue.get() == value; }
+
+    RollContext& roll;
+    const NoteValue value;
+    juce::Font font;
+    Events::Listener listener;
+};
+} // namespace Zn::GUI

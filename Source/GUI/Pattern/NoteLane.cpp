@@ -1,0 +1,112 @@
+#include "GUI/Pattern/NoteLane.h"
+
+#include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Pattern/RollBeats.h"
+
+namespace Zn::GUI
+{
+NoteLane::NoteLane (RollContext& contextToUse)
+    : Element (contextToUse.editor.canvas, "NoteLane")
+    , context (contextToUse)
+    , picture ([this] (juce::Graphics& g) { paintLane (g); })
+{
+    setOpaque (true);
+    setTitle ("Note lane");
+
+    for (auto* source : { &context.pattern.drawingChanged,
+                          &context.pattern.selectionChanged,
+                          &context.view.getBroadcaster(),
+                          &context.tools.laneValue.getBroadcaster() })
+        listeners.push_back (std::make_unique<Events::Listener> (*source, [this] { refresh(); }));
+}
+
+void NoteLane::refresh()
+{
+    picture.invalidate();
+    repaint();
+}
+
+void NoteLane::schemeChanged()
+{
+    painter.load (getCanvas());
+    lane = { .height = float (getHeight()), .handle = getCanvas().pixelsOf ("LaneHandle") };
+    refresh();
+}
+
+void NoteLane::paintLane (juce::Graphics& g) const
+{
+    const auto& scheme = AssetScheme::Base::get();
+    const auto& roll = context.view.get();
+    const auto beats = RollBeats::of (context.pattern.getDrawing());
+    const auto line = std::max (1, juce::roundToInt (context.editor.canvas.pixelsOf ("HairlineStroke")));
+
+    g.fillAll (scheme.colourOf ("Inset"));
+
+    const auto least = double (scheme.constantOf ("ColumnWidthMinimum"));
+    const auto stride = beats.strideFor (roll.pixelsPerTime() / beats.quarters, least);
+    const auto first = static_cast<int> (beats.beatOf (roll.time.getStart())) / stride * stride;
+    g.setColour (scheme.colourOf ("GridBeat"));
+
+    for (auto beat = first; beat <= beats.beatOf (roll.time.getEnd()); beat += stride)
+        g.fillRect (roll.pixelOf (beats.timeOf (beat)), 0, line, getHeight());
+
+    g.setColour (scheme.colourOf ("Hairline"));
+    g.fillRect (getLocalBounds().removeFromTop (line));
+    g.fillRect (getLocalBounds().removeFromBottom (line));
+
+    const auto handles = lane.handlesOf (context.pattern.getDrawing(), context.tools.laneValue.get(), roll);
+
+    for (auto each = handles.rbegin(); each != handles.rend(); ++each) // the first of a fan lies on top
+        if (each->position.x > -lane.handle && each->position.x < float (getWidth()) + lane.handle)
+            paintHandle (g, *each);
+}
+
+void NoteLane::paintHandle (juce::Graphics& g, const LaneHandle& handle) const
+{
+    constexpr auto stemWidth = 0.38f, ringDistance = 0.76f; // of the handle's diameter
+    constexpr auto stemOpacity = 0.75f;
+
+    const auto& drawing = context.pattern.getDrawing();
+    const auto& note = drawing.note (handle.note);
+    const auto disabledOpacity = AssetScheme::Base::get().constantOf ("DisabledOpacity");
+    const auto colour =
+        painter.colourOf (note.event.velocity).withMultipliedAlpha (note.enabled ? 1.0f : disabledOpacity);
+    const auto [x, y] = std::pair (handle.position.x, handle.position.y);
+    const auto stem = stemWidth * lane.handle;
+    const auto spread = spreadOf (note.event);
+
+    g.setColour (colour.withMultipliedAlpha (stemOpacity));
+    g.fillRect (
+        juce::Rectangle<float>::leftTopRightBottom (x - 0.5f * stem, y, x + 0.5f * stem, lane.yOf (0.0f)));
+
+    if (spread > 0.0f && context.tools.laneValue.get() == NoteValue::velocity)
+        paintSpread (g, note.event, x, colour);
+
+    g.setColour (colour);
+    g.fillEllipse (juce::Rectangle<float> (lane.handle, lane.handle).withCentre (handle.position));
+
+    if (drawing.selection.contains (handle.note))
+    {
+        const auto ring = 2.0f * ringDistance * lane.handle;
+        g.setColour (AssetScheme::Base::get().colourOf ("NoteSelected"));
+        g.drawEllipse (juce::Rectangle<float> (ring, ring).withCentre (handle.position),
+                       context.editor.canvas.pixelsOf ("ThinnerStroke"));
+    }
+}
+
+void NoteLane::paintSpread (juce::Graphics& g,
+                            const Sequencer::NoteEvent& event,
+                            float x,
+                            juce::Colour colour) const
+{
+    const auto half = 0.5f * lane.handle;
+    const auto line = context.editor.canvas.pixelsOf ("ThinnerStroke");
+    const auto top = lane.yOf (event.velocity + event.spreadHigh);
+    const auto foot = lane.yOf (event.velocity + event.spreadLow);
+
+    g.setColour (colour);
+    g.fillRect (juce::Rectangle<float> (x - half, top, 2.0f * half, line));
+    g.fillRect (juce::Rectangle<float> (x - half, foot, 2.0f * half, line));
+    g.fillRect (juce::Rectangle<float> (x - 0.5f * line, top, line, foot - top));
+}
+} // namespace Zn::GUI
