@@ -29,11 +29,11 @@ public:
     void beginGesture() override;
     void endGesture() override;
 
+    /** The parameter that the host knows the target by, if it is not the target itself. */
+    juce::AudioProcessorParameter* getHostSide() const noexcept { return hostSide; }
+
     /** True once after the target was changed by anyone. */
     bool takeChange() noexcept { return changed.exchange (false); }
-
-protected:
-    juce::AudioProcessorParameter* getHostSide() const noexcept { return hostSide; }
 
 private:
     void parameterValueChanged (int index, float normalised) override;

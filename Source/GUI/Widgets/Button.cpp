@@ -63,9 +63,7 @@ void Button::mouseUp (const juce::MouseEvent&)
 
 bool Button::keyPressed (const juce::KeyPress& key)
 {
-    if (! isEnabled()
-        || ! (key == juce::KeyPress (juce::KeyPress::returnKey)
-              || key == juce::KeyPress (juce::KeyPress::spaceKey)))
+    if (! isEnabled() || ! isPressKey (key))
         return false;
 
     ring.keyPressed();

@@ -1,6 +1,7 @@
 #include "GUI/Widgets/Choice.h"
 
 #include "GUI/Widgets/Chevron.h"
+#include "GUI/Widgets/SpokenValue.h"
 
 namespace Zn::GUI
 {
@@ -96,16 +97,16 @@ void Choice::pressed (const juce::MouseEvent& event)
         openMenu();
 }
 
-bool Choice::keyPressed (const juce::KeyPress& key)
-{
-    if (isEnabled() && key == juce::KeyPress (juce::KeyPress::returnKey))
-        return openMenu(), true;
-
-    return ValueControl::keyPressed (key);
-}
-
 std::unique_ptr<juce::AccessibilityHandler> Choice::createAccessibilityHandler()
 {
-    return ValueControl::createAccessibilityHandler();
+    const auto open = [this] { openMenu(); };
+
+    return std::make_unique<juce::AccessibilityHandler> (
+        *this,
+        juce::AccessibilityRole::comboBox,
+        juce::AccessibilityActions()
+            .addAction (juce::AccessibilityActionType::press, open)
+            .addAction (juce::AccessibilityActionType::showMenu, open),
+        juce::AccessibilityHandler::Interfaces { std::make_unique<SpokenValue> (*this) });
 }
 } // namespace Zn::GUI

@@ -24,12 +24,13 @@ public:
     void openMenu();
 
     void schemeChanged() override;
-    bool keyPressed (const juce::KeyPress& key) override;
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 
 private:
     void paintControl (juce::Graphics& g) override;
     void pressed (const juce::MouseEvent& event) override;
+    void enter() override { openMenu(); }
+    int upwards() const override { return -1; }
 
     const Look look;
     SVGPainter chevron { "down.svg" }, previous { "previous.svg" }, next { "next.svg" };

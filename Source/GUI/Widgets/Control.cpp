@@ -38,6 +38,10 @@ Control::Control (EditorContext& contextToUse, std::string element)
     , ring (*this, contextToUse.canvas)
     , written (controlText (getElement()))
     , pollListener (contextToUse.polls, [this] { update(); })
+    , learnListener (contextToUse.learning, [this] {
+        if (getLearnTarget())
+            repaint();
+    })
 {
     setTitle (written.title);
     setDescription (written.help);
@@ -61,10 +65,59 @@ TooltipText Control::getTooltipText() const
     return { .title = written.title, .value = {}, .help = written.help, .shortcut = written.shortcut };
 }
 
-void Control::paint (juce::Graphics& g)
+void Control::paintOverChildren (juce::Graphics& g)
 {
-    paintControl (g);
-    paintOver (g);
+    if (context.learning.isActive())
+        paintLearning (g);
+}
+
+void Control::paintLearning (juce::Graphics& g) const
+{
+    const auto target = getLearnTarget();
+
+    if (! target)
+        return;
+
+    const auto isArmed = context.learning.isArmed (*target);
+    const auto learned = context.learning.textOf (*target);
+    const auto isFilled = isArmed || learned.isNotEmpty();
+    const auto place = isFilled ? area() : learnArea();
+    const auto stroke = pixels ("ThinnerStroke");
+    const auto edge = place.reduced (stroke / 2.0f);
+    const auto corner = place.getWidth() == place.getHeight()
+                            ? edge.getWidth() / 2.0f
+                            : context.canvas.cornerOf ("ControlCorner", edge);
+
+    g.setColour (schemeColour (isArmed ? "Midi" : isFilled ? "MidiDeep" : "MidiWash"));
+    g.fillRoundedRectangle (edge, corner);
+    g.setColour (schemeColour ("Midi"));
+    g.drawRoundedRectangle (edge, corner, stroke);
+
+    const auto asked = target->isSlot() ? "play a key" + juce::String::charToString (0x2026) : "press pedal";
+    g.setFont (context.canvas.fontOf ("FontLabel", AssetScheme::Cut::bold));
+    g.setColour (schemeColour (isArmed ? "TextOnAccent" : "Text"));
+
+    if (isFilled)
+        g.drawFittedText (isArmed ? asked : learned,
+                          place.getSmallestIntegerContainer(),
+                          juce::Justification::centred,
+                          2,
+                          narrowestSqueeze);
+}
+
+bool Control::takeLearnPress (const juce::MouseEvent& event)
+{
+    const auto target = context.learning.isActive() ? getLearnTarget() : std::nullopt;
+
+    if (! target)
+        return false;
+
+    if (event.mods.isPopupMenu())
+        context.learning.forget (*target);
+    else
+        context.learning.arm (*target);
+
+    return true;
 }
 
 void Control::mouseEnter (const juce::MouseEvent&)
@@ -131,6 +184,12 @@ void Control::paintText (juce::Graphics& g,
     g.setFont (font);
     g.setColour (fill);
     g.drawFittedText (line, textArea.getSmallestIntegerContainer(), justification, 1, narrowestSqueeze);
+}
+
+bool Control::isPressKey (const juce::KeyPress& key) const
+{
+    return key == juce::KeyPress (juce::KeyPress::returnKey)
+           || (ring.isShown() && key == juce::KeyPress (juce::KeyPress::spaceKey));
 }
 
 bool Control::isWheelMeant() const

@@ -6,6 +6,9 @@
 #include "GUI/Widgets/FocusRing.h"
 #include "GUI/Widgets/TooltipSource.h"
 
+#include <functional>
+#include <optional>
+
 namespace Zn::GUI
 {
 /** Anything that is clicked, turned or typed into: its states (pointer over it, pressed, focus, disabled), its texts
@@ -24,9 +27,14 @@ public:
     void setHelp (const juce::String& newHelp);
 
     TooltipText getTooltipText() const override;
+
+    /** What a controller can be learned for; none if it cannot be reached. */
+    virtual std::optional<Learning::Target> getLearnTarget() const { return {}; }
+
     const ControlText& getText() const noexcept { return written; }
 
-    void paint (juce::Graphics& g) final;
+    void paint (juce::Graphics& g) final { paintControl (g); }
+    void paintOverChildren (juce::Graphics& g) override;
     void mouseEnter (const juce::MouseEvent& event) override;
     void mouseExit (const juce::MouseEvent& event) override;
     void focusGained (FocusChangeType cause) override { ring.focusGained (cause); }
@@ -41,8 +49,11 @@ protected:
     /** Looks whether what it shows has changed, and repaints it then. */
     virtual void poll() {}
 
-    /** Its learned key and the like are drawn over it. */
-    virtual void paintOver (juce::Graphics&) {}
+    /** While learning, a press arms it, and one of the right button forgets. Whether that was so. */
+    bool takeLearnPress (const juce::MouseEvent& event);
+
+    /** What gets the edge that says it can be learned: all of it, or a part. */
+    virtual juce::Rectangle<float> learnArea() const { return area(); }
 
     void setPressed (bool shouldBePressed);
     bool isPressed() const noexcept { return pressed; }
@@ -67,6 +78,9 @@ protected:
                     juce::Justification justification,
                     juce::Colour fill) const;
 
+    /** Enter; and Space while the keyboard is in use, as otherwise Space belongs to the host. */
+    bool isPressKey (const juce::KeyPress& key) const;
+
     /** Whether the pointer has been over it long enough for a turn of the wheel to be meant for it. */
     bool isWheelMeant() const;
 
@@ -79,12 +93,13 @@ protected:
 private:
     void update();
     void fade();
+    void paintLearning (juce::Graphics& g) const;
 
     ControlText written;
     std::function<bool()> enabledWhen;
     float hover = 0.0f; // 0..1
     bool pressed = false;
     juce::uint32 enteredAt = 0; // milliseconds
-    Events::Listener pollListener;
+    Events::Listener pollListener, learnListener;
 };
 } // namespace Zn::GUI

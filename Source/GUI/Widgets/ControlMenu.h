@@ -4,9 +4,8 @@
 
 namespace Zn::GUI
 {
-/** The menu of one value: type, reset, copy, paste, learn, and what the host offers. Thread: message. */
-void showControlMenu (EditorContext& context, ValueControl& control);
-
-/** The key that asks for such a menu. */
-bool isMenuKey (const juce::KeyPress& key);
+/** The menu of one value: its names, then type, reset, copy, paste, learn, and what the host offers for it. No line does
+    anything once the control is gone. Thread: message.
+*/
+juce::PopupMenu controlMenu (EditorContext& context, ValueControl& control);
 } // namespace Zn::GUI

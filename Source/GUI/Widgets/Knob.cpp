@@ -8,7 +8,7 @@ namespace Zn::GUI
 {
 namespace
 {
-constexpr int mostTicks = 12;
+constexpr int mostTicks = 12; // more would run together
 
 // Of the outer radius of the arc.
 constexpr auto capRadius = 0.684f, pointerStart = 0.2076f, pointerEnd = 0.546f, tickRadius = 1.153f,
@@ -51,6 +51,12 @@ void Knob::schemeChanged()
     radius = (pixels ("KnobDiameter") - pixels ("KnobStroke")) / 2.0f;
     track = arc (0.0f, 1.0f);
     valueChanged();
+}
+
+juce::Rectangle<float> Knob::learnArea() const
+{
+    const auto side = pixels ("KnobDiameter") + 2.0f * pixels ("ThinStroke");
+    return juce::Rectangle<float> (side, side).withCentre (centre);
 }
 
 void Knob::valueChanged()

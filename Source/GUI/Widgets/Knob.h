@@ -24,6 +24,7 @@ private:
     void paintControl (juce::Graphics& g) override;
     juce::Rectangle<int> valueArea() const override { return valueLine; }
     void valueChanged() override;
+    juce::Rectangle<float> learnArea() const override;
 
     void paintTicks (juce::Graphics& g) const;
     float angleOf (float position) const;

@@ -1,7 +1,19 @@
 #include "GUI/Widgets/ParameterEdit.h"
 
+#include <cmath>
+
 namespace Zn::GUI
 {
+namespace
+{
+/** A hand that comes back to where it began has changed nothing, whatever the last digit says. */
+bool isAnother (float normalised, float before)
+{
+    constexpr auto rounding = 1e-6f;
+    return std::abs (normalised - before) > rounding;
+}
+} // namespace
+
 ParameterEdit::ParameterEdit (Edits& edits,
                               std::shared_ptr<Parameters::Parameter> parameterToEdit,
                               const juce::String& name)
@@ -16,7 +28,7 @@ ParameterEdit::~ParameterEdit()
 {
     parameter->endGesture();
 
-    if (parameter->getNormalised() != start)
+    if (isAnother (parameter->getNormalised(), start))
         transaction->markChanged();
 }
 
@@ -29,6 +41,6 @@ bool changeAtOnce (Parameters::Parameter& parameter,
     change (parameter);
     parameter.endGesture();
 
-    return parameter.getNormalised() != before;
+    return isAnother (parameter.getNormalised(), before);
 }
 } // namespace Zn::GUI

@@ -28,9 +28,10 @@ struct Segments::Segment : juce::Component, TooltipSource
 
     void mouseDown (const juce::MouseEvent& event) override
     {
-        row.grabKeyboardFocus();
+        if (row.isShowing())
+            row.grabKeyboardFocus();
 
-        if (event.mods.isPopupMenu() || event.mods.isCommandDown())
+        if (row.context.learning.isActive() || event.mods.isPopupMenu() || event.mods.isCommandDown())
             row.mouseDown (event.getEventRelativeTo (&row));
         else if (row.isEnabled())
             row.choose (item.value);
@@ -148,8 +149,6 @@ void Segments::valueChanged()
         segment.repaint();
 }
 
-void Segments::pressed (const juce::MouseEvent&) {}
-
 void Segments::choose (int value)
 {
     changeJoining ([value] (auto& p) { p.setInt (value); });
@@ -164,11 +163,6 @@ void Segments::moveBy (int distance)
             choose (segments[static_cast<std::size_t> (juce::jlimit (0, last, index + distance))].item.value);
             return;
         }
-}
-
-bool Segments::keyPressed (const juce::KeyPress& key)
-{
-    return ValueControl::keyPressed (key);
 }
 
 std::unique_ptr<juce::AccessibilityHandler> Segments::Segment::createAccessibilityHandler()

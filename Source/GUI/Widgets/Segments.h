@@ -37,7 +37,6 @@ public:
     ~Segments() override;
 
     void schemeChanged() override;
-    bool keyPressed (const juce::KeyPress& key) override;
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 
 private:
@@ -45,10 +44,12 @@ private:
 
     void paintControl (juce::Graphics& g) override;
     void valueChanged() override;
-    void pressed (const juce::MouseEvent& event) override;
+    void pressed (const juce::MouseEvent&) override {}
+    int upwards() const override { return -1; }
+    void enter() override {}
+    void moveBy (int distance) override;
     void paintSegment (juce::Graphics& g, Segment& segment);
     void choose (int value);
-    void moveBy (int distance);
 
     std::vector<Item> itemsOf (const std::vector<Item>& given) const;
 

@@ -1,5 +1,7 @@
 #include "GUI/Widgets/Toggle.h"
 
+#include "GUI/Widgets/SpokenValue.h"
+
 namespace Zn::GUI
 {
 namespace
@@ -58,28 +60,44 @@ void Toggle::schemeChanged()
 void Toggle::pressed (const juce::MouseEvent&)
 {
     setPressed (true);
+    stroke = context.edits.begin (getText().title);
     setOn (! isOn());
 }
 
-void Toggle::mouseDrag (const juce::MouseEvent&) {}
+/** Paints its new state over others of its kind. */
+void Toggle::mouseDrag (const juce::MouseEvent& event)
+{
+    if (stroke == nullptr)
+        return;
+
+    auto* root = getTopLevelComponent();
+    auto* under = root->getComponentAt (root->getLocalPoint (this, event.getPosition()));
+    auto* other = dynamic_cast<Toggle*> (under);
+
+    if (other != nullptr && other->isEnabled() && isOfKindOf (*other) && other->isOn() != isOn())
+        other->setOn (isOn());
+}
 
 void Toggle::mouseUp (const juce::MouseEvent&)
 {
     setPressed (false);
+    stroke.reset();
+}
+
+bool Toggle::isOfKindOf (const Toggle& other) const
+{
+    return options.look == other.options.look && options.accent == other.options.accent
+           && getHeight() == other.getHeight();
 }
 
 bool Toggle::keyPressed (const juce::KeyPress& key)
 {
-    if (isEnabled()
-        && (key == juce::KeyPress (juce::KeyPress::returnKey)
-            || key == juce::KeyPress (juce::KeyPress::spaceKey)))
-    {
-        setOn (! isOn());
-        ring.keyPressed();
-        return true;
-    }
+    if (! isEnabled() || ! isPressKey (key))
+        return ValueControl::keyPressed (key);
 
-    return ValueControl::keyPressed (key);
+    ring.keyPressed();
+    setOn (! isOn());
+    return true;
 }
 
 void Toggle::paintControl (juce::Graphics& g)
@@ -135,6 +153,29 @@ void Toggle::paintBox (juce::Graphics& g)
 
 std::unique_ptr<juce::AccessibilityHandler> Toggle::createAccessibilityHandler()
 {
-    return ValueControl::createAccessibilityHandler();
+    struct Handler : juce::AccessibilityHandler
+    {
+        explicit Handler (Toggle& toggleToTell)
+            : AccessibilityHandler (toggleToTell,
+                                    juce::AccessibilityRole::toggleButton,
+                                    juce::AccessibilityActions()
+                                        .addAction (juce::AccessibilityActionType::press,
+                                                    [&toggleToTell] { toggleToTell.enter(); })
+                                        .addAction (juce::AccessibilityActionType::toggle,
+                                                    [&toggleToTell] { toggleToTell.enter(); }),
+                                    Interfaces { std::make_unique<SpokenValue> (toggleToTell) })
+            , toggle (toggleToTell)
+        {}
+
+        juce::AccessibleState getCurrentState() const override
+        {
+            const auto state = AccessibilityHandler::getCurrentState().withCheckable();
+            return toggle.isOn() ? state.withChecked() : state;
+        }
+
+        Toggle& toggle;
+    };
+
+    return std::make_unique<Handler> (*this);
 }
 } // namespace Zn::GUI

@@ -47,6 +47,8 @@ public:
 
 private:
     void paintControl (juce::Graphics& g) override;
+    void enter() override { setOn (! isOn()); }
+    bool isOfKindOf (const Toggle& other) const;
     void pressed (const juce::MouseEvent& event) override;
     void paintButton (juce::Graphics& g);
     void paintPill (juce::Graphics& g);
@@ -55,6 +57,7 @@ private:
     const Options options;
     const std::string accent, fill;
     Caption caption;
+    std::unique_ptr<Undo::Transaction> stroke; // while it is pressed
     SVGPainter check { "check.svg" };
 };
 } // namespace Zn::GUI

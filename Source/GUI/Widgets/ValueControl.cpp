@@ -2,6 +2,9 @@
 
 #include "GUI/Framework/AssetScheme/Base.h"
 #include "GUI/Widgets/ControlMenu.h"
+#include "GUI/Widgets/HostParameter.h"
+#include "GUI/Widgets/SpokenValue.h"
+#include "GUI/Widgets/ValueKeys.h"
 
 #include <cmath>
 
@@ -10,7 +13,7 @@ namespace Zn::GUI
 namespace
 {
 constexpr double coarseStep = 0.01, fineStep = 0.001; // of the range, of a value without steps
-constexpr int pageSteps = 10;
+constexpr double fineTempo = 0.1;                     // quarters a minute
 
 /** A little above the step, as some values are cut off to the next lower one. */
 float normalisedOfStep (int step, int numSteps)
@@ -50,6 +53,23 @@ juce::String ValueControl::getShownText (ValueDetail detail) const
     return valueText.current (*parameter, detail);
 }
 
+juce::String ValueControl::getDefaultText() const
+{
+    return valueText.at (*parameter, parameter->getDefault(), ValueDetail::full);
+}
+
+std::optional<Learning::Target> ValueControl::getLearnTarget() const
+{
+    const auto* known = hostParameterOf (*parameter);
+    return known != nullptr ? std::optional (Learning::Target::forParam (known->getParameterID()))
+                            : std::nullopt;
+}
+
+bool ValueControl::understands (const juce::String& typed) const
+{
+    return valueText.read (typed, *parameter).has_value();
+}
+
 TooltipText ValueControl::getTooltipText() const
 {
     auto tooltip = Control::getTooltipText();
@@ -70,11 +90,12 @@ void ValueControl::setStep (int step)
 
 void ValueControl::stepBy (int steps, bool fine)
 {
-    changeJoining ([this, steps, fine] (Parameters::Parameter& p) {
-        if (p.hasSteps())
-            setStep (currentStep() + steps);
-        else if (getText().style == ValueStyle::tempo)
-            p.setDouble (double (p.getFloat()) + steps * (fine ? 0.1 : 1.0));
+    if (parameter->hasSteps())
+        return moveBy (steps);
+
+    changeJoining ([this, steps, fine] (auto& p) {
+        if (getText().style == ValueStyle::tempo)
+            p.setDouble (double (p.getFloat()) + steps * (fine ? fineTempo : 1.0));
         else
             p.setNormalisedNotifying (juce::jlimit (
                 0.0f,
@@ -121,14 +142,14 @@ void ValueControl::typeValue()
 
 void ValueControl::showMenu()
 {
-    showControlMenu (context, *this);
+    context.overlay.showMenu (controlMenu (context, *this), this);
 }
 
 void ValueControl::mouseDown (const juce::MouseEvent& event)
 {
     ring.mousePressed();
 
-    if (! isEnabled())
+    if (takeLearnPress (event) || ! isEnabled())
         return;
 
     if (event.mods.isPopupMenu())
@@ -206,20 +227,20 @@ void ValueControl::mouseWheelMove (const juce::MouseEvent& event, const juce::Mo
 
     constexpr auto smoothStep = 0.05f; // of a wheel that turns without notches, for a step of the value
     const auto turned = std::abs (wheel.deltaY) > std::abs (wheel.deltaX) ? wheel.deltaY : wheel.deltaX;
-    const auto upwards = wheel.isReversed ? -turned : turned;
-    wheelRemainder += wheel.isSmooth ? upwards / smoothStep
-                                     : static_cast<float> (juce::roundToInt (std::copysign (1.0f, upwards)));
+    const auto up = wheel.isReversed ? -turned : turned;
+    wheelRemainder +=
+        wheel.isSmooth ? up / smoothStep : static_cast<float> (juce::roundToInt (std::copysign (1.0f, up)));
 
     if (const auto steps = static_cast<int> (wheelRemainder); steps != 0)
     {
         wheelRemainder -= static_cast<float> (steps);
-        stepBy (steps, event.mods.isShiftDown());
+        stepBy (steps * upwards(), event.mods.isShiftDown());
     }
 }
 
 bool ValueControl::keyPressed (const juce::KeyPress& key)
 {
-    const auto isUsed = isEnabled() && keyPressedFor (key);
+    const auto isUsed = isEnabled() && answer (key);
 
     if (isUsed)
         ring.keyPressed();
@@ -227,61 +248,58 @@ bool ValueControl::keyPressed (const juce::KeyPress& key)
     return isUsed;
 }
 
-bool ValueControl::keyPressedFor (const juce::KeyPress& key)
+bool ValueControl::answer (const juce::KeyPress& key)
 {
-    const auto modifiers = key.getModifiers();
-    const auto code = key.getKeyCode();
-    const auto fine = modifiers.isShiftDown();
+    using enum ValueKey::Wish;
 
-    if (drag && code == juce::KeyPress::escapeKey)
+    switch (const auto [wish, steps, fine] = ValueKey::of (key); wish)
     {
-        drag->edit.restore();
-        endDrag();
-        return true;
-    }
-
-    if (isMenuKey (key))
-        return showMenu(), true;
-
-    if (modifiers.isCommandDown() || modifiers.isAltDown() || modifiers.isCtrlDown())
+    case none:
         return false;
-
-    if (code == juce::KeyPress::upKey || code == juce::KeyPress::rightKey)
-        return stepBy (1, fine), true;
-
-    if (code == juce::KeyPress::downKey || code == juce::KeyPress::leftKey)
-        return stepBy (-1, fine), true;
-
-    if (code == juce::KeyPress::pageUpKey)
-        return stepBy (pageSteps, fine), true;
-
-    if (code == juce::KeyPress::pageDownKey)
-        return stepBy (-pageSteps, fine), true;
-
-    if (code == juce::KeyPress::homeKey || code == juce::KeyPress::endKey)
-    {
-        const auto end = code == juce::KeyPress::homeKey ? 0.0f : 1.0f;
-        changeJoining ([end] (auto& p) { p.setNormalisedNotifying (end); });
-        return true;
-    }
-
-    if (code == juce::KeyPress::deleteKey || code == juce::KeyPress::backspaceKey)
+    case restore:
+        return restoreDrag();
+    case stepUp:
+        return stepBy (steps * upwards(), fine), true;
+    case stepAlong:
+        return stepBy (steps, fine), true;
+    case minimum:
+        return setLimit (0.0f), true;
+    case maximum:
+        return setLimit (1.0f), true;
+    case reset:
         return resetToDefault(), true;
+    case type:
+        return enter(), true;
+    case typeDigit:
+        return typeFrom (key), true;
+    case menu:
+        return showMenu(), true;
+    }
 
-    if (code == juce::KeyPress::returnKey)
-        return typeValue(), true;
+    return false;
+}
 
-    const auto character = key.getTextCharacter();
-
-    if (! juce::CharacterFunctions::isDigit (character) && character != '-')
+bool ValueControl::restoreDrag()
+{
+    if (! drag)
         return false;
 
+    drag->edit.restore();
+    endDrag();
+    return true;
+}
+
+void ValueControl::setLimit (float normalised)
+{
+    changeJoining ([normalised] (auto& p) { p.setNormalisedNotifying (normalised); });
+}
+
+void ValueControl::typeFrom (const juce::KeyPress& key)
+{
     typeValue();
 
     if (auto* entry = dynamic_cast<juce::TextEditor*> (getCurrentlyFocusedComponent()))
         entry->keyPressed (key); // takes the place of what is selected
-
-    return true;
 }
 
 void ValueControl::changeJoining (const std::function<void (Parameters::Parameter&)>& change)
@@ -317,30 +335,6 @@ void ValueControl::look()
     drawnPrecisely = isDragging();
     drawnText = getShownText (drawnPrecisely ? ValueDetail::precise : ValueDetail::shown);
 }
-
-namespace
-{
-/** A value for a screen reader, as it is shown and with its unit. */
-struct SpokenValue : juce::AccessibilityValueInterface
-{
-    explicit SpokenValue (ValueControl& controlToRead) : control (controlToRead) {}
-
-    bool isReadOnly() const override { return ! control.isEnabled(); }
-    double getCurrentValue() const override { return double (control.getParameter()->getNormalised()); }
-    juce::String getCurrentValueAsString() const override { return control.getShownText (ValueDetail::full); }
-    AccessibleValueRange getRange() const override { return { { 0.0, 1.0 }, coarseStep }; }
-    void setValueAsString (const juce::String& text) override { control.setFromTyped (text); }
-
-    void setValue (double normalised) override
-    {
-        auto& parameter = *control.getParameter();
-        changeAtOnce (parameter,
-                      [normalised] (auto& p) { p.setNormalisedNotifying (static_cast<float> (normalised)); });
-    }
-
-    ValueControl& control;
-};
-} // namespace
 
 std::unique_ptr<juce::AccessibilityHandler> ValueControl::createAccessibilityHandler()
 {

@@ -26,6 +26,9 @@ public:
     void setParameter (std::shared_ptr<Parameters::Parameter> newParameter);
 
     juce::String getShownText (ValueDetail detail = ValueDetail::shown) const;
+    juce::String getDefaultText() const;
+
+    std::optional<Learning::Target> getLearnTarget() const override;
 
     /** Of the steps or percents; `fine` is a tenth of a percent. */
     void stepBy (int steps, bool fine = false);
@@ -33,6 +36,12 @@ public:
 
     /** False: this is no value of it, and nothing has happened. */
     bool setFromTyped (const juce::String& typed);
+
+    /** Whether that is a value of it. */
+    bool understands (const juce::String& typed) const;
+
+    /** One step of undo, which quick turns of a wheel and presses of keys join. */
+    void changeJoining (const std::function<void (Parameters::Parameter&)>& change);
 
     void typeValue();
     void showMenu();
@@ -51,6 +60,18 @@ protected:
     /** The proportion of the range that a movement of the pointer stands for, in pixels: by default upwards. */
     virtual float proportionOf (juce::Point<float> movement) const;
 
+    /** Which way the wheel and the arrow keys go when they go up: in a list, to the one before. */
+    virtual int upwards() const { return 1; }
+
+    /** The next value in whole steps, for one that has them. */
+    virtual void moveBy (int steps)
+    {
+        changeJoining ([this, steps] (auto&) { setStep (currentStep() + steps); });
+    }
+
+    /** What Enter does. */
+    virtual void enter() { typeValue(); }
+
     /** Where a double-click opens the text entry, and the entry stands. */
     virtual juce::Rectangle<int> valueArea() const { return {}; }
 
@@ -65,9 +86,6 @@ protected:
     bool isDragging() const noexcept { return drag.has_value(); }
     void beginDrag (const juce::MouseEvent& event);
     void endDrag();
-
-    /** One step of undo, which quick turns of a wheel and presses of keys join. */
-    void changeJoining (const std::function<void (Parameters::Parameter&)>& change);
 
     const juce::String& shownText() const noexcept { return drawnText; }
     float shownPosition() const noexcept { return drawnPosition; }
@@ -86,7 +104,10 @@ private:
         double position; // normalised, between the steps
     };
 
-    bool keyPressedFor (const juce::KeyPress& key);
+    bool answer (const juce::KeyPress& key);
+    bool restoreDrag();
+    void typeFrom (const juce::KeyPress& key);
+    void setLimit (float normalised);
     void look();
 
     std::shared_ptr<Parameters::Parameter> parameter;

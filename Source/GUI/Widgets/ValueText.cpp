@@ -1,8 +1,8 @@
 #include "GUI/Widgets/ValueText.h"
 
+#include "GUI/Widgets/TypedValue.h"
 #include "Parameters/ParameterText.h"
 
-#include <array>
 #include <cmath>
 
 namespace Zn::GUI
@@ -125,12 +125,6 @@ juce::String ValueText::write (double plain, ValueDetail detail) const
 std::optional<juce::String> ValueText::read (const juce::String& typed,
                                              const Parameters::Parameter& parameter) const
 {
-    juce::ignoreUnused (parameter);
-    const auto text = typed.trim().replaceCharacter (trueMinus, '-').replaceCharacter (',', '.');
-
-    if (style == ValueStyle::ownText)
-        return text;
-
-    return text;
+    return style == ValueStyle::ownText ? readWord (typed, parameter) : readNumber (typed, style);
 }
 } // namespace Zn::GUI
