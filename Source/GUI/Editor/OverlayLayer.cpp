@@ -25,6 +25,7 @@ Card& addedTo (juce::Component& parent, Card& card)
 
 OverlayLayer::Backdrop::Backdrop (OverlayLayer& overlayToTell) : overlay (overlayToTell)
 {
+    setComponentID ("Backdrop");
     setAccessible (false);
 }
 

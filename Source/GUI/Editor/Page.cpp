@@ -2,6 +2,9 @@
 
 #include "GUI/Editor/PageKeys.h"
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Popups/UpdateNotice.h"
+#include "Presets/Folders.h"
+#include "Presets/Reflection/Build.h"
 
 #include <algorithm>
 #include <tuple>
@@ -31,8 +34,30 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
     for (auto* band : bands)
         addAndMakeVisible (band);
 
+    addAndMakeVisible (resizer);
     addAndMakeVisible (overlay);
     fillActions();
+
+    if (settings.get().ownColours)
+        followSettings();
+
+    if (UpdateNotice::isDue (UpdateNotice::defaultFile(), Build::version))
+        overlay.openPopup (std::make_unique<UpdateNotice> (context));
+}
+
+void Page::followSettings()
+{
+    if (settings.get().ownColours == userColours.has_value())
+        return;
+
+    if (settings.get().ownColours)
+    {
+        userColours.emplace (Presets::Folders::user (AssetScheme::UserColours::fileName));
+        return;
+    }
+
+    userColours.reset();
+    AssetScheme::Base::get().resetUserColours();
 }
 
 void Page::fillActions()

@@ -4,6 +4,8 @@
 #include "GUI/Arp/ArpParams.h"
 #include "GUI/Arp/BrushBand.h"
 #include "GUI/Editor/OverlayLayer.h"
+#include "GUI/Editor/Resizer.h"
+#include "GUI/Framework/AssetScheme/UserColours.h"
 #include "GUI/Header/HeaderBand.h"
 #include "GUI/Pattern/PatternArea.h"
 #include "GUI/Player/PlayerBand.h"
@@ -11,6 +13,7 @@
 #include "GUI/Widgets/EditorLook.h"
 
 #include <array>
+#include <optional>
 
 namespace Zn::GUI
 {
@@ -39,6 +42,7 @@ public:
 
 private:
     void fillActions();
+    void followSettings();
     bool escape();
     void focusBand (int direction);
 
@@ -65,6 +69,10 @@ private:
                                                   &pattern, &sound,     &player
     };
 
+    Resizer resizer { context };
+
+    std::optional<AssetScheme::UserColours> userColours;
+    Events::Listener settingsListener { settings, [this] { followSettings(); } };
     Events::UpdateTimer timer;
 };
 } // namespace Zn::GUI

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "GUI/Framework/AssetScheme/Element.h"
-#include "GUI/Widgets/EditorContext.h"
+#include "GUI/Header/HistoryButton.h"
+#include "GUI/Header/Logo.h"
 
 namespace Zn::GUI
 {
@@ -13,5 +13,9 @@ public:
 
 private:
     EditorContext& context;
+
+    Logo logo;
+    HistoryButton undo, redo;
+    Button learn, help, settings;
 };
 } // namespace Zn::GUI

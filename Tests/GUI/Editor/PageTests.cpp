@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace Zn::GUI
 {
 TEST (Page, AsksTheSchemeForNothingThatItDoesNotHave)
@@ -12,5 +14,32 @@ TEST (Page, AsksTheSchemeForNothingThatItDoesNotHave)
 
     EXPECT_TRUE (AssetScheme::Base::get().getAbsentNames().empty())
         << *AssetScheme::Base::get().getAbsentNames().begin();
+}
+
+TEST (Page, LeavesNothingBehindWhenItCloses)
+{
+    Tests::OpenEditor editor;
+    auto& learnMap = editor.getState().learnMap;
+    auto& scheme = AssetScheme::Base::get();
+    const auto counts = [&] {
+        return std::pair (learnMap.getBroadcaster().getNumListeners(),
+                          scheme.getBroadcaster().getNumListeners());
+    };
+    const auto before = counts();
+
+    for (auto round = 0; round < 20; ++round)
+    {
+        Page page (editor.processor);
+        page.setSize (800, 553);
+        auto& context = page.getContext();
+        Tests::Hand::press (page, "F1");
+        context.overlay.showMessage ("Cleared", "Undo", [] {});
+        context.overlay.showReadout ("Swing", "+3 %", {});
+        context.overlay.enterValue (page, "1", [] (const auto&) { return false; });
+        page.createComponentSnapshot (page.getLocalBounds());
+        EXPECT_NE (counts(), before);
+    }
+
+    EXPECT_EQ (counts(), before);
 }
 } // namespace Zn::GUI

@@ -1,0 +1,28 @@
+#include "GUI/Header/HistoryButton.h"
+
+namespace Zn::GUI
+{
+HistoryButton::HistoryButton (EditorContext& contextToUse, Way wayToGo)
+    : Button (contextToUse,
+              wayToGo == Way::undo ? "Undo" : "Redo",
+              { .icon = wayToGo == Way::undo ? "undo.svg" : "redo.svg",
+                .look = Look::quiet,
+                .iconSize = "IconSizeHeader" },
+              [&edits = contextToUse.edits, wayToGo] { wayToGo == Way::undo ? edits.undo() : edits.redo(); })
+    , way (wayToGo)
+{
+    setEnabledWhen ([&history = contextToUse.edits.getUndo(), wayToGo] {
+        return wayToGo == Way::undo ? history.canUndo() : history.canRedo();
+    });
+}
+
+TooltipText HistoryButton::getTooltipText() const
+{
+    auto text = Button::getTooltipText();
+
+    if (way == Way::undo && isEnabled())
+        text.value = context.processor.getUndo().getCurrentName();
+
+    return text;
+}
+} // namespace Zn::GUI
