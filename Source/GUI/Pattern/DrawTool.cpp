@@ -114,7 +114,7 @@ void DrawTool::moveNote (const RollPointer& pointer)
 
     editor.updateDrag ([&] (Drawing& drawing) {
         const auto selection = drawing.selection;
-        drawing.selection = NoteEdits::selectionOr (drawing, pressed.note);
+        drawing.selection = NoteQueries::selectionOr (drawing, pressed.note);
         NoteEdits::moveSelected (drawing,
                                  editor.getGrid (pointer.modifiers.isAltDown()),
                                  pressed.note,
@@ -130,7 +130,7 @@ void DrawTool::clickNote (const RollPointer& pointer)
 
     if (pointer.modifiers.isAltDown())
         editor.perform ("Switch notes", [&] (Drawing& drawing) {
-            NoteEdits::toggleEnabled (drawing, NoteEdits::selectionOr (drawing, pressed.note));
+            NoteEdits::toggleEnabled (drawing, NoteQueries::selectionOr (drawing, pressed.note));
         });
     else
         editor.perform ("Erase note",

@@ -21,7 +21,7 @@ public:
 
     void drag (const RollPointer& pointer) override
     {
-        crossed.add (NoteEdits::notesBetween (editor.getDrawingAtPress(), place, pointer.at));
+        crossed.add (NoteQueries::notesBetween (editor.getDrawingAtPress(), place, pointer.at));
         place = pointer.at;
         editor.updateDrag ([this] (Drawing& drawing) { NoteEdits::erase (drawing, crossed); });
     }

@@ -119,19 +119,21 @@ void LaneTool::moveHandle (float by)
         const auto before = valueOf (drawing.note (pressed.note).event, value);
         const auto after = std::clamp (before + by, 0.0f, 1.0f);
 
-        NoteEdits::changeEvents (drawing, NoteEdits::selectionOr (drawing, pressed.note), [&] (auto& event) {
-            const auto old = valueOf (event, value);
-            setValue (event, value, before > 0.0f ? old * after / before : old + by);
-        });
+        NoteEdits::changeEvents (drawing,
+                                 NoteQueries::selectionOr (drawing, pressed.note),
+                                 [&] (auto& event) {
+                                     const auto old = valueOf (event, value);
+                                     setValue (event, value, before > 0.0f ? old * after / before : old + by);
+                                 });
     });
 }
 
 void LaneTool::openSpread (float by)
 {
     editor.updateDrag ([&] (Drawing& drawing) {
-        NoteEdits::changeEvents (drawing, NoteEdits::selectionOr (drawing, pressed.note), [&] (auto& event) {
-            setSpread (event, std::abs (spreadOf (event) + by));
-        });
+        NoteEdits::changeEvents (drawing,
+                                 NoteQueries::selectionOr (drawing, pressed.note),
+                                 [&] (auto& event) { setSpread (event, std::abs (spreadOf (event) + by)); });
     });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GUI/Pattern/Drawing.h"
+#include "GUI/Pattern/NoteQueries.h"
 #include "GUI/Pattern/NoteValue.h"
 #include "GUI/Pattern/RollPointer.h"
 
@@ -51,17 +52,4 @@ void changeEvents (Drawing& drawing, const NoteSelection& notes, const EventChan
 /** All off when all were on, else on. */
 void toggleEnabled (Drawing& drawing, const NoteSelection& notes);
 
-/** The selection if the note is part of it, else the note alone. */
-NoteSelection selectionOr (const Drawing& drawing, int note);
-
-NoteSelection notesInRow (const Drawing& drawing, int row);
-
-/** What a rectangle touches. */
-NoteSelection notesIn (const Drawing& drawing, const RollArea& area);
-
-/** What the pointer passes on its way from one point to another. */
-NoteSelection notesBetween (const Drawing& drawing, RollPoint from, RollPoint to);
-
-/** The note that follows in time, rows upwards in a chord; the first one after the last. -1 when there are none. */
-int nextNote (const Drawing& drawing, int note, bool backwards);
 } // namespace Zn::GUI::NoteEdits

@@ -3,6 +3,7 @@
 #include "Foundation/Events/Listener.h"
 #include "GUI/Pattern/Drawing.h"
 #include "GUI/Pattern/RollPointer.h"
+#include "GUI/Pattern/UndoneSlot.h"
 #include "GUI/Widgets/EditorContext.h"
 
 #include <functional>
@@ -101,6 +102,7 @@ private:
     juce::uint32 lastPublished = 0;      // milliseconds
     std::array<char, 4> nudgeTargets {}; // one for each kind, compared by address
 
+    UndoneSlot undoneSlot { context };
     Events::Listener modelListener, slotListener, pollListener;
 };
 } // namespace Zn::GUI

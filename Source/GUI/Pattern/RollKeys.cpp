@@ -251,7 +251,7 @@ void RollKeys::editCell()
 
     const auto grid = editor.getGrid();
     const RollPoint place { (cell->column + 0.5) * grid.column(), cell->row + 0.5 };
-    const auto notes = NoteEdits::notesBetween (editor.getDrawing(), place, place);
+    const auto notes = NoteQueries::notesBetween (editor.getDrawing(), place, place);
 
     if (notes.isEmpty())
         editor.perform ("Draw note", [&] (Drawing& drawing) {
@@ -265,7 +265,7 @@ void RollKeys::editCell()
 void RollKeys::selectNext (bool backwards)
 {
     const auto& drawing = editor.getDrawing();
-    const auto next = NoteEdits::nextNote (drawing, drawing.selection.first(), backwards);
+    const auto next = NoteQueries::nextNote (drawing, drawing.selection.first(), backwards);
 
     if (next < 0)
         return;

@@ -85,7 +85,7 @@ void RollMenus::showForRoll (const RollPointer& pointer)
 
     if (editor.getDrawing().hasNote (pointer.note))
     {
-        editor.select (NoteEdits::selectionOr (editor.getDrawing(), pointer.note));
+        editor.select (NoteQueries::selectionOr (editor.getDrawing(), pointer.note));
         addNoteLines (menu, pointer.note);
     }
     else
@@ -209,10 +209,10 @@ void RollMenus::askForVelocityScale (juce::Component& ruler)
 
 void RollMenus::showForRow (int row)
 {
-    const auto notes = NoteEdits::notesInRow (editor.getDrawing(), row);
+    const auto notes = NoteQueries::notesInRow (editor.getDrawing(), row);
     const auto moveBy = [this, row] (int rows) {
         editor.perform (rows > 0 ? "Row up" : "Row down", [&] (Drawing& drawing) {
-            const auto selection = std::exchange (drawing.selection, NoteEdits::notesInRow (drawing, row));
+            const auto selection = std::exchange (drawing.selection, NoteQueries::notesInRow (drawing, row));
             NoteEdits::moveSelected (drawing, editor.getGrid(), -1, 0.0, rows);
             drawing.selection = selection;
         });
@@ -221,13 +221,13 @@ void RollMenus::showForRow (int row)
     Menu menu (*this);
     menu.add (
         "Select row",
-        [this, row] { editor.select (NoteEdits::notesInRow (editor.getDrawing(), row)); },
+        [this, row] { editor.select (NoteQueries::notesInRow (editor.getDrawing(), row)); },
         ! notes.isEmpty());
     menu.add (
         "Erase row",
         [this, row] {
             editor.perform ("Erase row", [&] (Drawing& drawing) {
-                NoteEdits::erase (drawing, NoteEdits::notesInRow (drawing, row));
+                NoteEdits::erase (drawing, NoteQueries::notesInRow (drawing, row));
             });
         },
         ! notes.isEmpty());

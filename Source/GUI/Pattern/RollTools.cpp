@@ -129,9 +129,12 @@ bool RollTools::turnWheel (const RollPointer& pointer, int percent)
 
     const auto value = getValueOfBrush();
     editor.nudge (PatternEditor::Nudge::value, nameOf (value), [&] (Drawing& drawing) {
-        NoteEdits::changeEvents (drawing, NoteEdits::selectionOr (drawing, pointer.note), [&] (auto& event) {
-            setValue (event, value, valueOf (event, value) + 0.01f * static_cast<float> (percent));
-        });
+        NoteEdits::changeEvents (
+            drawing,
+            NoteQueries::selectionOr (drawing, pointer.note),
+            [&] (auto& event) {
+                setValue (event, value, valueOf (event, value) + 0.01f * static_cast<float> (percent));
+            });
     });
 
     return true;

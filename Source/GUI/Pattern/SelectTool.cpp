@@ -38,7 +38,7 @@ void LassoTool::up (const RollPointer&)
 void LassoTool::take (RollPoint to)
 {
     const RollArea area { corner, to };
-    auto selection = NoteEdits::notesIn (editor.getDrawing(), area);
+    auto selection = NoteQueries::notesIn (editor.getDrawing(), area);
     selection.add (before);
 
     editor.setLasso (area);

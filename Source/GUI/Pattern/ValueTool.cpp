@@ -52,7 +52,7 @@ void ValueTool::doubleClick (const RollPointer& pointer)
 {
     editor.perform ("Reset " + nameOf (value).toLowerCase(), [&] (Drawing& drawing) {
         NoteEdits::changeEvents (drawing,
-                                 NoteEdits::selectionOr (drawing, pointer.note),
+                                 NoteQueries::selectionOr (drawing, pointer.note),
                                  [this] (auto& event) { setValue (event, value, defaultOf (value)); });
     });
 
@@ -89,24 +89,25 @@ ValueTool::Action ValueTool::actionFor (const RollPointer& pointer) const noexce
 void ValueTool::change (float amount)
 {
     editor.updateDrag ([&] (Drawing& drawing) {
-        NoteEdits::changeEvents (drawing, NoteEdits::selectionOr (drawing, pressed.note), [&] (auto& event) {
-            setValue (event, value, valueOf (event, value) + amount);
-        });
+        NoteEdits::changeEvents (
+            drawing,
+            NoteQueries::selectionOr (drawing, pressed.note),
+            [&] (auto& event) { setValue (event, value, valueOf (event, value) + amount); });
     });
 }
 
 void ValueTool::spread (float amount)
 {
     editor.updateDrag ([&] (Drawing& drawing) {
-        NoteEdits::changeEvents (drawing, NoteEdits::selectionOr (drawing, pressed.note), [&] (auto& event) {
-            setSpread (event, spreadOf (event) + amount);
-        });
+        NoteEdits::changeEvents (drawing,
+                                 NoteQueries::selectionOr (drawing, pressed.note),
+                                 [&] (auto& event) { setSpread (event, spreadOf (event) + amount); });
     });
 }
 
 void ValueTool::paint (RollPoint to)
 {
-    painted.add (NoteEdits::notesBetween (editor.getDrawingAtPress(), brush, to));
+    painted.add (NoteQueries::notesBetween (editor.getDrawingAtPress(), brush, to));
     brush = to;
 
     editor.updateDrag ([&] (Drawing& drawing) {

@@ -53,16 +53,21 @@ void Edits::finish()
 
 void Edits::undo()
 {
-    finish();
-    finishPendingLoad();
-    history.undo();
+    travel (&Undo::Interface::undo);
 }
 
 void Edits::redo()
 {
+    travel (&Undo::Interface::redo);
+}
+
+void Edits::travel (void (Undo::Interface::*step)())
+{
     finish();
     finishPendingLoad();
-    history.redo();
+    aboutToTravel.callListeners();
+    (history.*step)();
+    travelled.callListeners();
 }
 
 void Edits::closeWhenOld()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Foundation/CallbackFunc.h"
+#include "Foundation/Events/Broadcaster.h"
 #include "Foundation/Events/UpdateTimer.h"
 #include "Presets/Undo/Transaction.h"
 
@@ -38,6 +39,9 @@ public:
     void undo();
     void redo();
 
+    /** Called ahead of undo and redo, and after. */
+    Events::Broadcaster aboutToTravel, travelled;
+
     Undo::Interface& getUndo() noexcept { return history; }
 
 private:
@@ -48,6 +52,7 @@ private:
         juce::uint32 lastTime; // milliseconds
     };
 
+    void travel (void (Undo::Interface::*step)());
     void closeWhenOld();
 
     Undo::Interface& history;

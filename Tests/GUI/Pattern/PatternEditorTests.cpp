@@ -249,6 +249,15 @@ TEST_F (PatternEditing, UndoInTheMiddleOfADragLeavesWholeSteps)
     EXPECT_EQ (bare.document(), drawn) << "later steps are whole";
 }
 
+TEST_F (PatternEditing, UndoOpensTheSlotThatItChanges)
+{
+    editor.perform ("Draw", [] (Drawing& drawing) { NoteEdits::add (drawing, note (60, 0.0, 0.25)); });
+    bare.shownSlot.set (5);
+    bare.edits.undo();
+    EXPECT_EQ (bare.shownSlot.get(), 0);
+    EXPECT_TRUE (editor.getDrawing().notes.empty());
+}
+
 TEST_F (PatternEditing, KeepsTheSelectionOfWhatIsStillThere)
 {
     bare.set (Tests::steps ("xxxx"));
