@@ -94,7 +94,7 @@ void randomise (State& state, juce::Random& random)
     state.octaveRange.high = 1 + random.nextInt (11);
     state.snap = random.nextBool();
     state.screen.setSize ({ random.nextInt (4000), random.nextInt (3000) });
-    state.player = { randomResource (random), random.nextBool(), random.nextBool() };
+    state.player.set ({ randomResource (random), random.nextBool(), random.nextBool() });
     state.followChanges();
     state.learnMap.clearAll();
 

@@ -98,7 +98,7 @@ TEST_F (StateDocument, GivesBackEveryStateThatItWasMadeFrom)
             ASSERT_EQ (Json::toText (saved (other, context)), Json::toText (document)) << i;
             ASSERT_EQ (allSteps (other), allSteps (state)) << i;
             ASSERT_EQ (notesOf (other), notesOf (state)) << i;
-            ASSERT_EQ (other.player, state.player) << i;
+            ASSERT_EQ (other.player.get(), state.player.get()) << i;
             ASSERT_EQ (other.liveSlots->heard.load(), state.liveSlots->index.load()) << i;
             ASSERT_EQ (other.screen.getSize(), state.screen.getSize()) << i;
         }

@@ -24,7 +24,8 @@ void releaseEverything (Midi::EventWriter& input) noexcept
 }
 } // namespace
 
-MidiPipeline::MidiPipeline (State& stateToUse) : state (stateToUse), midiProcessor (stateToUse.pitchTables)
+MidiPipeline::MidiPipeline (State& stateToUse)
+    : state (stateToUse), midiProcessor (stateToUse.pitchTables, stateToUse.player)
 {
     matched.reserve (Midi::Learn::maxEntries);
 }
@@ -144,7 +145,10 @@ void MidiPipeline::runSegment (BlockSlice run,
     segment.clear();
     append (segment, segmentInput, -run.start);
 
-    midiProcessor.process (segment, clock.part (run), patterns, state.readMidiSettings());
+    auto settings = state.readMidiSettings();
+    settings.playsFile &= patterns.patterns != nullptr; // it rests with them while a project is on its way
+
+    midiProcessor.process (segment, clock.part (run), patterns, settings);
     append (output, segment, run.start);
 }
 } // namespace Zn::Audio::Plugins::Vornel

@@ -2,13 +2,14 @@
 
 namespace Zn::Audio::Plugins::Vornel
 {
-MidiProcessor::MidiProcessor (Midi::PitchTableRing& pitchTablesForEditor)
-    : pitchTables (pitchTablesForEditor.getWriter())
+MidiProcessor::MidiProcessor (Midi::PitchTableRing& pitchTablesForEditor,
+                              Sequencer::MidiPlayer::Controller& midiPlayer)
+    : keys (midiPlayer), pitchTables (pitchTablesForEditor.getWriter())
 {}
 
 void MidiProcessor::prepare (int blockSize)
 {
-    liveGate.prepare();
+    keys.prepare (blockSize);
     sustainPedal.prepare();
     transpose.prepare();
     noteLimit.prepare();
@@ -24,7 +25,7 @@ void MidiProcessor::process (juce::MidiBuffer& events,
                              const Sequencer::PatternFrame& frame,
                              const MidiSettings& settings) noexcept
 {
-    shapeKeys (events, settings);
+    shapeKeys (events, clock, settings);
 
     if (frame.liveSlots != nullptr)
         frame.liveSlots->quantum.store (settings.quantum);
@@ -48,9 +49,11 @@ void MidiProcessor::endHeardNotes (juce::MidiBuffer& output) noexcept
     arpGate.process (output, arpGate.isOpen(), true);
 }
 
-void MidiProcessor::shapeKeys (juce::MidiBuffer& events, const MidiSettings& settings) noexcept
+void MidiProcessor::shapeKeys (juce::MidiBuffer& events,
+                               const Sequencer::ClockSlice& clock,
+                               const MidiSettings& settings) noexcept
 {
-    liveGate.process (events, true, true);
+    keys.process (events, clock, settings.playsFile);
     sustainPedal.process (events);
 
     transpose.setSemitones (settings.transposeSemitones);

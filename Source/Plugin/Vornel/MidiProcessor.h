@@ -3,10 +3,10 @@
 #include "Midi/HeldNotes.h"
 #include "Midi/Mapper/NoteLimitProcessor.h"
 #include "Midi/Mapper/TransposeProcessor.h"
-#include "Midi/NoteGate.h"
 #include "Midi/PitchTableRing.h"
 #include "Midi/RowExpander.h"
 #include "Midi/SustainPedal/SimpleProcessor.h"
+#include "Plugin/Vornel/KeySource.h"
 #include "Plugin/Vornel/MidiSettings.h"
 #include "Sequencer/PatternEngine.h"
 
@@ -14,14 +14,14 @@ namespace Zn::Audio::Plugins::Vornel
 {
 /** Turns held keys into the notes of the drawn pattern.
 
-    Keys pass the live gate, the sustain pedal, the transposition and the note limit, then enter the held notes, from
-    which the pitch table is made. Between two note events the pattern engine runs and its rows become pitches.
+    Keys, or those of the MIDI player, pass the sustain pedal, the transposition and the note limit, then enter the held
+    notes, from which the pitch table is made. Between two note events the pattern engine runs and its rows become pitches.
     Thread: audio.
 */
 class MidiProcessor
 {
 public:
-    explicit MidiProcessor (Midi::PitchTableRing& pitchTablesForEditor);
+    MidiProcessor (Midi::PitchTableRing& pitchTablesForEditor, Sequencer::MidiPlayer::Controller& midiPlayer);
 
     /** Reserves for blocks of this size. Thread: prepare. */
     void prepare (int blockSize);
@@ -41,7 +41,9 @@ public:
     void endHeardNotes (juce::MidiBuffer& output) noexcept;
 
 private:
-    void shapeKeys (juce::MidiBuffer& events, const MidiSettings& settings) noexcept;
+    void shapeKeys (juce::MidiBuffer& events,
+                    const Sequencer::ClockSlice& clock,
+                    const MidiSettings& settings) noexcept;
     void playPattern (const juce::MidiBuffer& events,
                       const Sequencer::ClockSlice& clock,
                       const Sequencer::PatternFrame& frame,
@@ -52,7 +54,7 @@ private:
                    Midi::EventWriter& out) noexcept;
     void follow (const Midi::Event& note, const MidiSettings& settings) noexcept;
 
-    Midi::NoteGate liveGate;
+    KeySource keys;
     Midi::SustainPedal::SimpleProcessor sustainPedal;
     Midi::Mapper::TransposeProcessor transpose;
     Midi::Mapper::NoteLimitProcessor noteLimit;

@@ -13,5 +13,6 @@ struct MidiSettings
     bool keyMode = false; // every note event rebuilds the pitch table
     bool retrigger = false;
     bool arpActive = true;
+    bool playsFile = false; // the MIDI player takes the place of the keys
 };
 } // namespace Zn::Audio::Plugins::Vornel

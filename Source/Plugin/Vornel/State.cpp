@@ -82,7 +82,14 @@ MidiSettings State::readMidiSettings() const noexcept
              .quantum = quantum < quanta.size() ? quanta[quantum] : 1.0,
              .keyMode = followsKey,
              .retrigger = params.retrigger.get(),
-             .arpActive = params.arpActive.get() >= 1 };
+             .arpActive = params.arpActive.get() >= 1,
+             .playsFile = player.isHeard() };
+}
+
+void State::setPlayerActive (bool shouldBeHeard)
+{
+    player.setActive (shouldBeHeard);
+    keyMode.store (shouldBeHeard);
 }
 
 ConnectedIntParam State::gridOf (std::size_t slotIndex)

@@ -16,7 +16,7 @@
 #include "Plugin/Vornel/SynthPreset.h"
 #include "Sequencer/BPMParameter.h"
 #include "Sequencer/LiveSlots.h"
-#include "Sequencer/MidiPlayer/Settings.h"
+#include "Sequencer/MidiPlayer/ChoiceParam.h"
 #include "Sequencer/PatternController.h"
 #include "Sequencer/PlayHead.h"
 
@@ -69,6 +69,11 @@ public:
     /** Reads what steers a segment. Thread: audio. */
     MidiSettings readMidiSettings() const noexcept;
 
+    /** Has the MIDI player's notes take the place of the keys, or no longer. Its chords are written around C and are
+        moved by the key, so key mode goes with it. Thread: message.
+    */
+    void setPlayerActive (bool shouldBeHeard);
+
     /** Ends all that sounds: lets go of every key and of the pedal, whatever they have been learned for.
         Thread: message.
     */
@@ -94,7 +99,8 @@ public:
     LearnMap learnMap { *this };
     Midi::PitchTableRing pitchTables;
 
-    Sequencer::MidiPlayer::Settings player; // thread: message
+    Sequencer::MidiPlayer::Controller player;
+    Sequencer::MidiPlayer::ChoiceParam midiFile { player };
     ScreenState screen;
 
     std::atomic<float> meter { 0.0f };        // RMS of the left channel, a gain; written: audio, read: GUI

@@ -1,0 +1,99 @@
+#include "Plugin/Vornel/ExportSlot.h"
+
+#include "Sequencer/MidiPlayer/Song.h"
+#include "Support/RenderedSteps.h"
+
+#include <gtest/gtest.h>
+
+namespace Zn::Audio::Plugins::Vornel
+{
+namespace
+{
+using Test::note;
+
+const auto cMajor = [] {
+    Midi::NoteList held;
+
+    for (const auto key : { 60, 64, 67 })
+        held.add (key);
+
+    return Midi::RowToPitchTable::from (held, Midi::wholeKeyboard);
+}();
+
+/** As "60 v100 0-480, ... end 1920", times in ticks. */
+std::string text (juce::MidiFile file)
+{
+    juce::MemoryOutputStream bytes;
+    file.writeTo (bytes);
+    juce::MemoryInputStream stream (bytes.getMemoryBlock(), false);
+    juce::MidiFile read;
+    EXPECT_TRUE (read.readFrom (stream));
+
+    juce::StringArray parts;
+
+    for (const auto* event : *read.getTrack (0))
+        if (event->message.isNoteOn())
+            parts.add (juce::String (event->message.getNoteNumber()) + " v"
+                       + juce::String (event->message.getVelocity()) + " "
+                       + juce::String (event->message.getTimeStamp(), 0) + "-"
+                       + juce::String (event->noteOffObject->message.getTimeStamp(), 0));
+
+    parts.add ("end " + juce::String (read.getLastTimestamp(), 0));
+    return parts.joinIntoString (", ").toStdString();
+}
+} // namespace
+
+TEST (ExportSlot, WritesOnePassOfWhatIsHeard)
+{
+    auto never = note (65, 0.5, 0.5);
+    never.event.chance = 0.0f;
+    never.event.spreadHigh = 0.5f;
+
+    auto disabled = note (66, 0.0, 1.0);
+    disabled.enabled = false;
+
+    struct Row
+    {
+        const char* name;
+        Sequencer::RenderedSlot slot;
+        const char* expected;
+    };
+
+    const Row rows[] = {
+        { "steps",
+          Zn::Test::loop (2.0, Zn::Test::steps ("x-.x")),
+          "60 v102 0-960, 60 v102 1440-1920, end 1920" },
+        { "chance and spread", Zn::Test::loop (1.0, Zn::Test::Notes { never }), "64 v102 480-960, end 960" },
+        { "disabled", Zn::Test::loop (1.0, Zn::Test::Notes { disabled }), "end 960" },
+        { "swung",
+          Zn::Test::loop (1.0, Zn::Test::Notes { note (64, 0.36, 0.24) }),
+          "60 v102 346-576, end 960" },
+        { "a row over itself",
+          Zn::Test::loop (1.0, Zn::Test::Notes { note (64, 0.0, 0.75), note (64, 0.5, 0.25) }),
+          "60 v102 0-480, 60 v102 480-720, end 960" },
+        { "over the end",
+          Zn::Test::loop (1.0, Zn::Test::Notes { note (67, 0.5, 9.0) }),
+          "72 v102 480-960, end 960" },
+        { "over bars",
+          Zn::Test::loop (9.0, Zn::Test::Notes { note (64, 3.5, 1.0), note (65, 8.0, 1.0) }),
+          "60 v102 3360-4320, 64 v102 7680-8640, end 8640" },
+        { "empty", {}, "end 0" },
+    };
+
+    for (const auto& row : rows)
+        EXPECT_EQ (text (exportSlot (row.slot, cMajor, 124.0)), row.expected) << row.name;
+}
+
+TEST (ExportSlot, CanBePlayedAgain)
+{
+    juce::MemoryOutputStream bytes;
+    exportSlot (Zn::Test::loop (8.0, Zn::Test::steps ("x.x.x.x.")), cMajor, 124.0).writeTo (bytes);
+
+    const auto content = bytes.getMemoryBlock();
+    const auto song =
+        Sequencer::MidiPlayer::readSong (std::as_bytes (std::span (content.begin(), content.getSize())));
+    ASSERT_NE (song, nullptr);
+    EXPECT_EQ (song->numBars, 2);
+    EXPECT_EQ (song->slot.events.notes.size(), 4u);
+}
+} // namespace Zn::Audio::Plugins::Vornel
