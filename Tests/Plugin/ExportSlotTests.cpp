@@ -1,6 +1,8 @@
 #include "Plugin/Vornel/ExportSlot.h"
 
+#include "Plugin/ProcessorFixture.h"
 #include "Sequencer/MidiPlayer/Song.h"
+#include "Support/MidiText.h"
 #include "Support/RenderedSteps.h"
 
 #include <gtest/gtest.h>
@@ -11,21 +13,14 @@ namespace
 {
 using Test::note;
 
-const auto cMajor = [] {
-    Midi::NoteList held;
-
-    for (const auto key : { 60, 64, 67 })
-        held.add (key);
-
-    return Midi::RowToPitchTable::from (held, Midi::wholeKeyboard);
-}();
+const auto cMajor = Midi::RowToPitchTable::from ({ 60, 64, 67 }, Midi::wholeKeyboard);
 
 /** As "60 v100 0-480, ... end 1920", times in ticks. */
 std::string text (juce::MidiFile file)
 {
     juce::MemoryOutputStream bytes;
     file.writeTo (bytes);
-    juce::MemoryInputStream stream (bytes.getMemoryBlock(), false);
+    juce::MemoryInputStream stream (bytes.getMemoryBlock(), true);
     juce::MidiFile read;
     EXPECT_TRUE (read.readFrom (stream));
 
@@ -67,7 +62,7 @@ TEST (ExportSlot, WritesOnePassOfWhatIsHeard)
         { "disabled", Zn::Test::loop (1.0, Zn::Test::Notes { disabled }), "end 960" },
         { "swung",
           Zn::Test::loop (1.0, Zn::Test::Notes { note (64, 0.36, 0.24) }),
-          "60 v102 346-576, end 960" },
+          "60 v102 345-576, end 960" },
         { "a row over itself",
           Zn::Test::loop (1.0, Zn::Test::Notes { note (64, 0.0, 0.75), note (64, 0.5, 0.25) }),
           "60 v102 0-480, 60 v102 480-720, end 960" },
@@ -95,5 +90,25 @@ TEST (ExportSlot, CanBePlayedAgain)
     ASSERT_NE (song, nullptr);
     EXPECT_EQ (song->numBars, 2);
     EXPECT_EQ (song->slot.events.notes.size(), 4u);
+}
+
+TEST (ExportSlot, TakesTheLastChord)
+{
+    ProcessorFixture f;
+    f.drawQuarters (0, 1);
+    Zn::Test::TestHost host (f.processor);
+
+    const auto firstPitch = [&] { return text (exportSlot (f.state, 0)).substr (0, 2); };
+    EXPECT_EQ (firstPitch(), "64") << "of C major";
+
+    host.send (Zn::Test::events ("on 57 @0, on 61 @0, on 64 @9"));
+    host.run (512);
+    EXPECT_EQ (firstPitch(), "61");
+
+    host.send (Zn::Test::events ("off 57 @0, off 64 @9, off 61 @600"));
+    host.run (1024);
+    EXPECT_EQ (firstPitch(), "61");
+
+    EXPECT_EQ (exportSlot (f.state, 1).getNumTracks(), 0) << "there is nothing in it";
 }
 } // namespace Zn::Audio::Plugins::Vornel

@@ -1,6 +1,7 @@
 #include "Plugin/Vornel/ExportSlot.h"
 
 #include "Midi/RowExpander.h"
+#include "Plugin/Vornel/State.h"
 #include "Sequencer/SlotPlayer.h"
 
 #include <cmath>
@@ -83,6 +84,16 @@ int ticksOf (const Sequencer::RenderedSlot& slot)
 
     return juce::roundToInt (length * ticksPerQuarter);
 }
+
+Midi::RowToPitchTable chordOf (State& state)
+{
+    auto reader = state.lastChords.getReader();
+
+    if (const auto& last = reader.newest(); ! last.getHeldNotes().isEmpty())
+        return last;
+
+    return Midi::RowToPitchTable::from ({ 60, 64, 67 }, state.octaveRange.limits()); // C major
+}
 } // namespace
 
 juce::MidiFile
@@ -101,5 +112,15 @@ exportSlot (const Sequencer::RenderedSlot& slot, const Midi::RowToPitchTable& ch
     file.setTicksPerQuarterNote (exportTicksPerQuarter);
     file.addTrack (track);
     return file;
+}
+
+juce::MidiFile exportSlot (State& state, int slot)
+{
+    const auto& rendered = state.patterns.getPatternData()->slots[static_cast<std::size_t> (slot)];
+
+    if (rendered.events.notes.empty())
+        return {};
+
+    return exportSlot (rendered, chordOf (state), double (state.bpm.getFloat()));
 }
 } // namespace Zn::Audio::Plugins::Vornel

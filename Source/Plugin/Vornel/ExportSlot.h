@@ -14,4 +14,11 @@ constexpr int exportTicksPerQuarter = 960;
 */
 juce::MidiFile
 exportSlot (const Sequencer::RenderedSlot& slot, const Midi::RowToPitchTable& chord, double beatsPerMinute);
+
+class State;
+
+/** The same of a slot of the plug-in with the chord that is held, else with the last one, else with C major, at the
+    tempo that holds. Without tracks if there is nothing in the slot. Thread: message.
+*/
+juce::MidiFile exportSlot (State& state, int slot);
 } // namespace Zn::Audio::Plugins::Vornel

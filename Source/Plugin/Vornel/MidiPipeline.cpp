@@ -25,7 +25,7 @@ void releaseEverything (Midi::EventWriter& input) noexcept
 } // namespace
 
 MidiPipeline::MidiPipeline (State& stateToUse)
-    : state (stateToUse), midiProcessor (stateToUse.pitchTables, stateToUse.player)
+    : state (stateToUse), midiProcessor (stateToUse.pitchTables, stateToUse.lastChords, stateToUse.player)
 {
     matched.reserve (Midi::Learn::maxEntries);
 }

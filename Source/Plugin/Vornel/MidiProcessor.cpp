@@ -2,9 +2,12 @@
 
 namespace Zn::Audio::Plugins::Vornel
 {
-MidiProcessor::MidiProcessor (Midi::PitchTableRing& pitchTablesForEditor,
+MidiProcessor::MidiProcessor (Midi::PitchTableRing& pitchTablesToShow,
+                              Midi::PitchTableRing& lastChordsToShow,
                               Sequencer::MidiPlayer::Controller& midiPlayer)
-    : keys (midiPlayer), pitchTables (pitchTablesForEditor.getWriter())
+    : keys (midiPlayer)
+    , pitchTables (pitchTablesToShow.getWriter())
+    , lastChords (lastChordsToShow.getWriter())
 {}
 
 void MidiProcessor::prepare (int blockSize)
@@ -72,7 +75,7 @@ void MidiProcessor::playPattern (const juce::MidiBuffer& events,
     Midi::EventWriter out (generated);
 
     auto position = 0;
-    auto anyNote = false;
+    auto anyNote = false, anyStart = false;
 
     for (const auto event : events)
     {
@@ -88,12 +91,17 @@ void MidiProcessor::playPattern (const juce::MidiBuffer& events,
         position += runEngine ({ position, sample - position }, clock, frame, out);
         follow (event, settings);
         anyNote = true;
+        anyStart |= Midi::isNoteOn (event);
     }
 
     runEngine ({ position, clock.size() - position }, clock, frame, out);
 
     if (anyNote)
         pitchTables.publish (pitchTable, settings.limits);
+
+    // Keys that are lifted one by one leave the whole chord.
+    if (anyStart && ! pitchTable.getHeldNotes().isEmpty())
+        lastChords.publish (pitchTable, settings.limits);
 }
 
 int MidiProcessor::runEngine (BlockSlice run,

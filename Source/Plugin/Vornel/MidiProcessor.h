@@ -21,7 +21,10 @@ namespace Zn::Audio::Plugins::Vornel
 class MidiProcessor
 {
 public:
-    MidiProcessor (Midi::PitchTableRing& pitchTablesForEditor, Sequencer::MidiPlayer::Controller& midiPlayer);
+    /** Shows the pitch tables to the editor: the one that holds and, for when no key is held, that of the last chord. */
+    MidiProcessor (Midi::PitchTableRing& pitchTablesToShow,
+                   Midi::PitchTableRing& lastChordsToShow,
+                   Sequencer::MidiPlayer::Controller& midiPlayer);
 
     /** Reserves for blocks of this size. Thread: prepare. */
     void prepare (int blockSize);
@@ -62,7 +65,7 @@ private:
     Midi::RowToPitchTable pitchTable;
     Midi::RowExpander rowExpander;
     Midi::NoteGate arpGate;
-    Midi::PitchTableRing::Writer pitchTables;
+    Midi::PitchTableRing::Writer pitchTables, lastChords;
 
     Sequencer::PatternEngine engine;
     juce::MidiBuffer rows, generated;

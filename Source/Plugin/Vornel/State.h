@@ -98,6 +98,7 @@ public:
     Midi::Learn::LearnerRecord learner;
     LearnMap learnMap { *this };
     Midi::PitchTableRing pitchTables;
+    Midi::PitchTableRing lastChords; // as pitchTables, but stays when the keys are lifted
 
     Sequencer::MidiPlayer::Controller player;
     Sequencer::MidiPlayer::ChoiceParam midiFile { player };
