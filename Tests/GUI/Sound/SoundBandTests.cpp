@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 
 namespace Zn::GUI
@@ -66,13 +67,28 @@ Point startOf (const Picture& picture, std::size_t handle)
                                         : picture.getHandles()[handle];
 }
 
+/** Keeps the wavetables between the tests of a suite, which would be built anew for each. */
+struct KeepsTables : testing::Test
+{
+    static void SetUpTestSuite() { tablesStay.emplace(); }
+    static void TearDownTestSuite() { tablesStay.reset(); }
+
+    static inline std::optional<Singleton::UserToken> tablesStay;
+};
+
+struct SoundPictures : KeepsTables
+{};
+
+struct SoundBandTest : KeepsTables
+{};
+
 float opacityOf (Tests::OpenEditor& editor, const juce::String& element)
 {
     return editor.find (element).getAlpha();
 }
 } // namespace
 
-TEST (SoundPictures, MoveTheirOwnParametersInOneStepOfUndo)
+TEST_F (SoundPictures, MoveTheirOwnParametersInOneStepOfUndo)
 {
     struct Row
     {
@@ -126,7 +142,7 @@ TEST (SoundPictures, MoveTheirOwnParametersInOneStepOfUndo)
     }
 }
 
-TEST (SoundPictures, KeepTheirHandlesUnderThePointer)
+TEST_F (SoundPictures, KeepTheirHandlesUnderThePointer)
 {
     Tests::OpenEditor editor;
     startWithRoom (editor);
@@ -147,7 +163,7 @@ TEST (SoundPictures, KeepTheirHandlesUnderThePointer)
     }
 }
 
-TEST (SoundPictures, PutEverythingBackOnEscape)
+TEST_F (SoundPictures, PutEverythingBackOnEscape)
 {
     Tests::OpenEditor editor;
     startWithRoom (editor);
@@ -164,7 +180,7 @@ TEST (SoundPictures, PutEverythingBackOnEscape)
     EXPECT_EQ (changedBetween (before, valuesOf (editor)), Holders {});
 }
 
-TEST (SoundPictures, DragAFreeDelayWithoutSteps)
+TEST_F (SoundPictures, DragAFreeDelayWithoutSteps)
 {
     Tests::OpenEditor editor;
     startWithRoom (editor);
@@ -180,7 +196,7 @@ TEST (SoundPictures, DragAFreeDelayWithoutSteps)
     EXPECT_TRUE (editor.find ("DelayTime").isVisible());
 }
 
-TEST (OscillatorCards, AreCopiedAndSwappedByTheirTitles)
+TEST_F (SoundBandTest, CopiesAndSwapsOscillatorsByTheirTitles)
 {
     Tests::OpenEditor editor;
     auto& oscillators = soundOf (editor).synth.oscillators.oscillators;
@@ -212,7 +228,7 @@ TEST (OscillatorCards, AreCopiedAndSwappedByTheirTitles)
     EXPECT_EQ (third.tune.get(), 7);
 }
 
-TEST (SoundBand, IsFaintWhileTheSynthIsOffButCanBeEdited)
+TEST_F (SoundBandTest, IsFaintWhileTheSynthIsOffButCanBeEdited)
 {
     Tests::OpenEditor editor;
     auto& sound = soundOf (editor);
@@ -236,7 +252,7 @@ TEST (SoundBand, IsFaintWhileTheSynthIsOffButCanBeEdited)
     EXPECT_NE (sound.synth.adsr.decay.get(), before);
 }
 
-TEST (SoundBand, KeepsItsLineWhenItIsFolded)
+TEST_F (SoundBandTest, KeepsItsLineWhenItIsFolded)
 {
     Tests::OpenEditor editor;
     auto& master = editor.find ("Master");
@@ -254,7 +270,7 @@ TEST (SoundBand, KeepsItsLineWhenItIsFolded)
     EXPECT_TRUE (editor.find ("Osc1").isVisible());
 }
 
-TEST (SoundBand, TellsTheVoicesOfAnOscillatorAndLeadsToThem)
+TEST_F (SoundBandTest, TellsTheVoicesOfAnOscillatorAndLeadsToThem)
 {
     Tests::OpenEditor editor;
     auto& chip = editor.find ("Osc2Unison");
@@ -265,7 +281,7 @@ TEST (SoundBand, TellsTheVoicesOfAnOscillatorAndLeadsToThem)
     EXPECT_TRUE (chip.isVisible());
 }
 
-TEST (WavetableChoice, ListsTheTablesByCategory)
+TEST_F (SoundBandTest, ListsTheTablesByCategory)
 {
     Tests::OpenEditor editor;
     auto& type = soundOf (editor).synth.oscillators.oscillators[0].type;
@@ -289,7 +305,7 @@ TEST (WavetableChoice, ListsTheTablesByCategory)
     EXPECT_FALSE (menu.subItems[0].isTicked());
 }
 
-TEST (Meter, IsWorkedOutOnlyWhileItCanBeSeen)
+TEST_F (SoundBandTest, HasTheLevelWorkedOutOnlyWhileTheMeterCanBeSeen)
 {
     Audio::Plugins::Vornel::Processor processor (Audio::Plugins::Vornel::StartUp::empty);
     const auto& listeners = processor.getState().numMeterListeners;
@@ -312,7 +328,7 @@ TEST (Meter, IsWorkedOutOnlyWhileItCanBeSeen)
     EXPECT_EQ (listeners.load(), 0);
 }
 
-TEST (Meter, HoldsThePeakAndStaysRedUntilItIsClicked)
+TEST_F (SoundBandTest, HoldsThePeakOfTheMeterWhichStaysRedUntilItIsClicked)
 {
     MeterBallistics meter;
     const MeterBallistics::Settings settings;
