@@ -116,6 +116,9 @@ void LaneTool::drawRamp (const LanePointer& to)
 void LaneTool::moveHandle (float by)
 {
     editor.updateDrag ([&] (Drawing& drawing) {
+        if (! drawing.hasNote (pressed.note))
+            return;
+
         const auto before = valueOf (drawing.note (pressed.note).event, value);
         const auto after = std::clamp (before + by, 0.0f, 1.0f);
 

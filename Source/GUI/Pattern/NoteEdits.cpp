@@ -94,7 +94,7 @@ Sequencer::TimedNote newNote (const Drawing& drawing, const NoteGrid& grid, Roll
 {
     Sequencer::TimedNote note;
     note.time = grid.limited ({ .start = grid.snaps ? grid.columnStart (at.time) : at.time,
-                                .length = drawing.noteLength * grid.column() });
+                                .length = std::min (drawing.noteLength, 1.0) * grid.column() });
     note.event.noteNum = at.nearestRow();
     note.enabled = true;
     return note;

@@ -69,7 +69,7 @@ void RollTools::leave()
 
 void RollTools::down (const RollPointer& pointer)
 {
-    if (isDragging() || pointer.modifiers.isMiddleButtonDown())
+    if (isDragging() || pointer.modifiers.isMiddleButtonDown() || ! isUpToDate())
         return;
 
     pressed = pointer;
@@ -173,6 +173,14 @@ RollTool& RollTools::toolFor (const RollPointer& pointer) const
         return tools->chance;
 
     return pointer.modifiers.isCommandDown() ? static_cast<RollTool&> (tools->lasso) : tools->draw;
+}
+
+/** A project that is still being loaded comes in ahead of an edit; then the pointer is at something else. */
+bool RollTools::isUpToDate() const
+{
+    const auto seen = editor.getDrawing();
+    context.processor.finishPendingLoad();
+    return seen.playsAs (editor.getDrawing());
 }
 
 void RollTools::followBrush()

@@ -46,6 +46,7 @@ public:
 
 private:
     RollTool& toolFor (const RollPointer& pointer) const;
+    bool isUpToDate() const;
     void followBrush();
 
     EditorContext& context;
