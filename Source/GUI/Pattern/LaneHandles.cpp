@@ -27,7 +27,12 @@ float LaneGeometry::valueAt (float y) const noexcept
 {
     const auto top = padAbove * handle;
     const auto foot = height - padBelow * handle;
-    return std::clamp ((foot - y) / std::max (1.0f, foot - top), 0.0f, 1.0f);
+    return (foot - y) / std::max (1.0f, foot - top);
+}
+
+float LaneGeometry::offsetOfFan() const noexcept
+{
+    return firstOffset * handle;
 }
 
 std::vector<LaneHandle>

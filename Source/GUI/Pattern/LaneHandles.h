@@ -24,8 +24,11 @@ struct LaneGeometry
     /** Of a value 0 to 1. */
     float yOf (float value) const noexcept;
 
-    /** Limited to 0..1. */
+    /** Below the foot and above the top too. */
     float valueAt (float y) const noexcept;
+
+    /** Where handles of notes that start at a time begin, behind it. */
+    float offsetOfFan() const noexcept;
 
     /** One for each note, by their starts. Those that start together fan out to the right, by rows. */
     std::vector<LaneHandle>

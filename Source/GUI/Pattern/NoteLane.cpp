@@ -9,6 +9,7 @@ NoteLane::NoteLane (RollContext& contextToUse)
     : Element (contextToUse.editor.canvas, "NoteLane")
     , context (contextToUse)
     , picture ([this] (juce::Graphics& g) { paintLane (g); })
+    , tool (contextToUse.pattern, contextToUse.tools.laneValue)
 {
     setOpaque (true);
     setTitle ("Note lane");
@@ -22,6 +23,8 @@ NoteLane::NoteLane (RollContext& contextToUse)
 
 void NoteLane::refresh()
 {
+    handles =
+        lane.handlesOf (context.pattern.getDrawing(), context.tools.laneValue.get(), context.view.get());
     picture.invalidate();
     repaint();
 }
@@ -31,6 +34,66 @@ void NoteLane::schemeChanged()
     painter.load (getCanvas());
     lane = { .height = float (getHeight()), .handle = getCanvas().pixelsOf ("LaneHandle") };
     refresh();
+}
+
+LanePointer NoteLane::pointerOf (const juce::MouseEvent& event) const
+{
+    const auto& roll = context.view.get();
+    return { .time = roll.timeAt (double (event.position.x - lane.offsetOfFan())),
+             .value = lane.valueAt (event.position.y),
+             .note = lane.hit (event.position, handles),
+             .reach = double (lane.handle) / roll.pixelsPerTime(),
+             .modifiers = event.mods,
+             .numClicks = event.getNumberOfClicks() };
+}
+
+bool NoteLane::cancel()
+{
+    context.editor.overlay.hideReadout();
+    return tool.cancel();
+}
+
+void NoteLane::mouseMove (const juce::MouseEvent& event)
+{
+    setMouseCursor (lane.hit (event.position, handles) >= 0 ? juce::MouseCursor::UpDownResizeCursor
+                                                            : juce::MouseCursor::NormalCursor);
+}
+
+void NoteLane::mouseDown (const juce::MouseEvent& event)
+{
+    if (pressed != nullptr)
+        pressed();
+
+    if (! event.mods.isLeftButtonDown())
+        return;
+
+    tool.down (pointerOf (event));
+    showReadout (event);
+}
+
+void NoteLane::mouseDrag (const juce::MouseEvent& event)
+{
+    if (! tool.isDragging())
+        return;
+
+    tool.drag (pointerOf (event));
+    showReadout (event);
+}
+
+void NoteLane::mouseUp (const juce::MouseEvent& event)
+{
+    context.editor.overlay.hideReadout();
+
+    if (tool.isDragging())
+        tool.up (pointerOf (event));
+}
+
+void NoteLane::showReadout (const juce::MouseEvent& event)
+{
+    if (const auto readout = tool.getReadout(); readout.name.isNotEmpty())
+        context.editor.overlay.showReadout (readout.name, readout.value, event.getScreenPosition());
+    else
+        context.editor.overlay.hideReadout();
 }
 
 void NoteLane::paintLane (juce::Graphics& g) const
@@ -53,8 +116,6 @@ void NoteLane::paintLane (juce::Graphics& g) const
     g.setColour (scheme.colourOf ("Hairline"));
     g.fillRect (getLocalBounds().removeFromTop (line));
     g.fillRect (getLocalBounds().removeFromBottom (line));
-
-    const auto handles = lane.handlesOf (context.pattern.getDrawing(), context.tools.laneValue.get(), roll);
 
     for (auto each = handles.rbegin(); each != handles.rend(); ++each) // the first of a fan lies on top
         if (each->position.x > -lane.handle && each->position.x < float (getWidth()) + lane.handle)

@@ -2,6 +2,7 @@
 
 #include "GUI/Framework/AssetScheme/Element.h"
 #include "GUI/Pattern/LaneHandles.h"
+#include "GUI/Pattern/LaneTool.h"
 #include "GUI/Pattern/NotePainter.h"
 #include "GUI/Pattern/RollContext.h"
 #include "GUI/Pattern/ScaledImage.h"
@@ -18,6 +19,17 @@ public:
 
     void paint (juce::Graphics& g) override { picture.paint (g, getLocalBounds()); }
     void schemeChanged() override;
+
+    /** Esc: takes back what the drag has done; false when there is none. */
+    bool cancel();
+
+    /** Called when it is pressed. */
+    CallbackFunc pressed;
+
+    void mouseMove (const juce::MouseEvent& event) override;
+    void mouseDown (const juce::MouseEvent& event) override;
+    void mouseDrag (const juce::MouseEvent& event) override;
+    void mouseUp (const juce::MouseEvent& event) override;
     void mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel) override
     {
         context.view.turnWheel (event, wheel, event.position.x);
@@ -25,6 +37,8 @@ public:
 
 private:
     void refresh();
+    LanePointer pointerOf (const juce::MouseEvent& event) const;
+    void showReadout (const juce::MouseEvent& event);
     void paintLane (juce::Graphics& g) const;
     void paintHandle (juce::Graphics& g, const LaneHandle& handle) const;
 
@@ -35,6 +49,8 @@ private:
     ScaledImage picture;
     NotePainter painter;
     LaneGeometry lane;
+    std::vector<LaneHandle> handles;
+    LaneTool tool;
     std::vector<std::unique_ptr<Events::Listener>> listeners;
 };
 } // namespace Zn::GUI

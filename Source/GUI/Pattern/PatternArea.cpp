@@ -7,6 +7,7 @@ namespace Zn::GUI
 PatternArea::PatternArea (EditorContext& contextToUse)
     : Element (contextToUse.canvas, "ArpEditing")
     , context (contextToUse)
+    , keys (contextToUse, pattern, tools, viewOfKeys())
     , tables (contextToUse.state().pitchTables.getReader())
     , tableCount (tables.getChangeCount() - 1)
     , pollListener (contextToUse.polls, [this] { nameRows(); })
@@ -41,7 +42,50 @@ PatternArea::PatternArea (EditorContext& contextToUse)
                                                                 &lane })
         part->setVisible (true);
 
+    connect();
+}
+
+void PatternArea::connect()
+{
     playLine.moved = [this] (const auto& place) { drawing.showPlace (place); };
+    tools.menuAsked = [this] (const RollPointer& pointer) { menus.showForRoll (pointer); };
+    ruler.menuAsked = [this] { menus.showForRuler (ruler); };
+    pitches.menuAsked = [this] (int row) { menus.showForRow (row); };
+
+    drawing.keyAsked = [this] (const juce::KeyPress& key) { return pressKey (key); };
+    lane.pressed = [this] {
+        if (drawing.isShowing())
+            drawing.grabKeyboardFocus();
+    };
+    context.actions.endSelection = [this] { return escape(); };
+}
+
+bool PatternArea::pressKey (const juce::KeyPress& key)
+{
+    return key == juce::KeyPress::escapeKey ? escape() : keys.press (key);
+}
+
+bool PatternArea::escape()
+{
+    return lane.cancel() || keys.escape();
+}
+
+RollKeys::View PatternArea::viewOfKeys()
+{
+    return { .rowsPerCycle = [this] { return std::max (1, rowNames.get().heldKeys.size()); },
+             .pasteTime = [this] { return pasteTime(); },
+             .zoom = [this] (double factor) { view.zoomTime (factor, 0.5 * view.get().size.width); },
+             .fit = [this] { view.fit(); },
+             .reveal = [this] (double start, double end, int row) { view.showCell (start, end, row); } };
+}
+
+double PatternArea::pasteTime()
+{
+    if (const auto place = PlayPlace::of (context.state()); place && place->slot == context.shownSlot.get())
+        return place->time;
+
+    const auto pointer = drawing.getMouseXYRelative();
+    return drawing.isMouseOver() ? view.get().timeAt (pointer.x) : view.get().time.getStart();
 }
 
 void PatternArea::nameRows()

@@ -8,6 +8,8 @@
 #include "GUI/Pattern/PlayLine.h"
 #include "GUI/Pattern/PlayingElsewhere.h"
 #include "GUI/Pattern/RollHint.h"
+#include "GUI/Pattern/RollKeys.h"
+#include "GUI/Pattern/RollMenus.h"
 #include "GUI/Pattern/RollScrollBar.h"
 #include "GUI/Pattern/Ruler.h"
 #include "GUI/Widgets/Button.h"
@@ -23,17 +25,25 @@ public:
     PatternEditor& getPattern() noexcept { return pattern; }
     RollTools& getTools() noexcept { return tools; }
     RollView& getView() noexcept { return view; }
+    RollMenus& getMenus() noexcept { return menus; }
 
     void paint (juce::Graphics& g) override;
     void schemeChanged() override;
 
 private:
     void nameRows();
+    void connect();
+    bool pressKey (const juce::KeyPress& key);
+    bool escape();
+    RollKeys::View viewOfKeys();
+    double pasteTime();
 
     EditorContext& context;
     PatternEditor pattern { context };
     RollTools tools { context, pattern };
     RollView view { context.canvas };
+    RollKeys keys;
+    RollMenus menus { context, pattern };
     Events::Value<RowNames> rowNames;
     RollContext roll {
         .editor = context, .pattern = pattern, .tools = tools, .view = view, .rowNames = rowNames

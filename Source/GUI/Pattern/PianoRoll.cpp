@@ -13,9 +13,11 @@ PianoRoll::PianoRoll (RollContext& contextToUse)
     , context (contextToUse)
     , picture (contextToUse.editor.canvas)
     , mouse (contextToUse, *this)
+    , cells (contextToUse, *this)
 {
     setOpaque (true);
     setWantsKeyboardFocus (true);
+    setTitle ("Piano roll");
     picture.reload();
 
     for (auto* source : { &context.pattern.drawingChanged,
@@ -31,6 +33,9 @@ PianoRoll::PianoRoll (RollContext& contextToUse)
         paintedLasso = lassoBounds().expanded (2);
         repaint (paintedLasso);
     }));
+
+    listeners.push_back (
+        std::make_unique<Events::Listener> (context.pattern.cellCursor, [this] { followCell(); }));
 }
 
 void PianoRoll::schemeChanged()
@@ -40,6 +45,46 @@ void PianoRoll::schemeChanged()
     picture.reload();
     context.view.setSize ({ .width = getWidth(), .height = getHeight() });
     refresh();
+}
+
+bool PianoRoll::keyPressed (const juce::KeyPress& key)
+{
+    if (keyAsked == nullptr || ! keyAsked (key))
+        return false;
+
+    setKeysInUse (true);
+    return true;
+}
+
+void PianoRoll::setKeysInUse (bool areInUse)
+{
+    if (std::exchange (keysInUse, areInUse) != areInUse)
+        refresh();
+}
+
+juce::Rectangle<int> PianoRoll::boundsOfCursor() const
+{
+    const auto& cell = context.pattern.cellCursor.get();
+
+    if (! cell || ! keysInUse || ! context.pattern.getDrawing().selection.isEmpty())
+        return {};
+
+    const auto& geometry = context.view.get();
+    const auto start = cell->column * geometry.columnLength();
+    return geometry.boundsOfCell (start, start + geometry.columnLength(), cell->row);
+}
+
+void PianoRoll::followCell()
+{
+    const auto newCursor = boundsOfCursor();
+
+    if (newCursor == paintedCursor)
+        return;
+
+    constexpr auto edge = 2;
+    repaint (paintedCursor.expanded (edge));
+    repaint (newCursor.expanded (edge));
+    paintedCursor = newCursor;
 }
 
 void PianoRoll::showPlace (const std::optional<PlayPlace>& newPlace)
@@ -94,6 +139,8 @@ void PianoRoll::refresh()
 
     if (wasEmpty != isEmpty)
         repaint();
+
+    followCell();
 
     for (const auto& area : picture.show (gridLook(), noteLooks()))
         repaint (area);
@@ -153,6 +200,9 @@ void PianoRoll::addNotes (std::vector<NoteLook>& looks) const
     const auto& drawing = context.pattern.getDrawing();
     const auto seen = getLocalBounds().toFloat().expanded (context.editor.canvas.pixelsOf ("LaneHandle"));
     const auto sounds = ! isElsewhere();
+    const auto focused = keysInUse && drawing.selection.size() == 1 && hasKeyboardFocus (false)
+                             ? drawing.selection.first()
+                             : -1;
 
     for (auto index = 0; index < drawing.numNotes(); ++index)
     {
@@ -163,7 +213,8 @@ void PianoRoll::addNotes (std::vector<NoteLook>& looks) const
                               .isEnabled = note.enabled,
                               .isSelected = drawing.selection.contains (index),
                               .isHovered = context.pattern.getHoveredNote() == index,
-                              .isSounding = sounds && isSounding (index) };
+                              .isSounding = sounds && isSounding (index),
+                              .isFocused = focused == index };
 
         if (look.box.intersects (seen))
             looks.push_back (look);
@@ -183,6 +234,13 @@ void PianoRoll::paint (juce::Graphics& g)
 
     if (context.pattern.getLasso())
         paintLasso (g);
+
+    if (! paintedCursor.isEmpty())
+    {
+        const auto line = std::max (1.0f, context.editor.canvas.pixelsOf ("ThinnerStroke"));
+        g.setColour (AssetScheme::Base::get().colourOf ("Focus"));
+        g.drawRect (paintedCursor.toFloat().expanded (0.5f * line), line);
+    }
 }
 
 juce::Rectangle<int> PianoRoll::lassoBounds() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GUI/Framework/AssetScheme/Element.h"
+#include "GUI/Pattern/NoteCells.h"
 #include "GUI/Pattern/PlayPlace.h"
 #include "GUI/Pattern/RollContext.h"
 #include "GUI/Pattern/RollMouse.h"
@@ -17,6 +18,9 @@ public:
     /** Lights the notes that the play head is in. */
     void showPlace (const std::optional<PlayPlace>& newPlace);
 
+    /** Asked for each key while the roll has the focus; whether it was one of its own. */
+    std::function<bool (const juce::KeyPress&)> keyAsked;
+
     const RollPicture& getPicture() const noexcept { return picture; }
 
     void paint (juce::Graphics& g) override;
@@ -24,7 +28,11 @@ public:
 
     void mouseMove (const juce::MouseEvent& event) override { mouse.move (event); }
     void mouseExit (const juce::MouseEvent&) override { mouse.leave(); }
-    void mouseDown (const juce::MouseEvent& event) override { mouse.down (event); }
+    void mouseDown (const juce::MouseEvent& event) override
+    {
+        setKeysInUse (false);
+        mouse.down (event);
+    }
     void mouseDrag (const juce::MouseEvent& event) override { mouse.drag (event); }
     void mouseUp (const juce::MouseEvent& event) override { mouse.up (event); }
     void mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel) override
@@ -36,8 +44,19 @@ public:
         context.view.zoomTime (double (factor), double (event.position.x));
     }
 
+    bool keyPressed (const juce::KeyPress& key) override;
+    void focusGained (FocusChangeType) override { refresh(); }
+    void focusLost (FocusChangeType) override { refresh(); }
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return cells.createTable();
+    }
+
 private:
     void refresh();
+    void setKeysInUse (bool areInUse);
+    void followCell();
+    juce::Rectangle<int> boundsOfCursor() const;
     GridLook gridLook() const;
     std::vector<NoteLook> noteLooks() const;
     void addGhosts (std::vector<NoteLook>& looks) const;
@@ -52,8 +71,10 @@ private:
     RollContext& context;
     RollPicture picture;
     RollMouse mouse;
+    NoteCells cells;
     juce::Font font;
-    juce::Rectangle<int> paintedLasso;
+    juce::Rectangle<int> paintedLasso, paintedCursor;
+    bool keysInUse = false; // after the mouse they show no focus
     bool isEmpty = false;
 
     std::optional<PlayPlace> place;

@@ -13,6 +13,7 @@ PlayLine::PlayLine (RollContext& contextToUse)
 {
     setInterceptsMouseClicks (false, false);
     setAccessible (false);
+    setComponentID ("PlayLine"); // for tests: it has no place of its own
     setVisible (false);
 }
 

@@ -86,12 +86,12 @@ RollGeometry::Hit RollGeometry::hit (juce::Point<float> point,
     return {};
 }
 
-RollGeometry RollGeometry::resized (Dimensions<int> newSize, double newRowHeight) const noexcept
+RollGeometry RollGeometry::resized (Dimensions<int> newSize, double newRowHeight, double middle) const noexcept
 {
     auto result = *this;
     result.size = { .width = std::max (1, newSize.width), .height = std::max (1, newSize.height) };
     result.rowHeight = newRowHeight;
-    result.topRow = std::floor (centreRow() + 0.5 * result.rowsVisible() + 0.5);
+    result.topRow = std::floor (middle + 0.5 * result.rowsVisible() + 0.5);
     return result.limited();
 }
 

@@ -77,8 +77,8 @@ struct RollGeometry
     /** What lies under a point; of notes that lie over each other, the last one. */
     Hit hit (juce::Point<float> point, std::span<const Sequencer::TimedNote> notes) const noexcept;
 
-    /** Another size and row height around the same middle, by whole rows. */
-    RollGeometry resized (Dimensions<int> newSize, double newRowHeight) const noexcept;
+    /** Another size and row height around a middle, in rows; a whole row is uppermost. */
+    RollGeometry resized (Dimensions<int> newSize, double newRowHeight, double middle) const noexcept;
 
     /** Whole pattern; rows stay. */
     RollGeometry fitted() const noexcept;

@@ -33,6 +33,12 @@ void RollView::set (const RollGeometry& newGeometry)
     if (newGeometry == geometry)
         return;
 
+    const auto isScrolled =
+        newGeometry.topRow != geometry.topRow || newGeometry.rowHeight != geometry.rowHeight;
+
+    if (newGeometry.size == geometry.size && isScrolled)
+        middle = newGeometry.centreRow();
+
     geometry = newGeometry;
     callListeners();
 }
@@ -51,7 +57,7 @@ double RollView::pixelsOfRow (float units) const
 
 void RollView::setSize (Dimensions<int> rollPixels)
 {
-    auto changed = geometry.resized (rollPixels, pixelsOfRow (rowUnits));
+    auto changed = geometry.resized (rollPixels, pixelsOfRow (rowUnits), middle);
     changed.noteInset = canvas.pixelsOf ("NoteInset");
     changed.edgeGrab = canvas.pixelsOf ("NoteEdgeGrab");
     set (changed);

@@ -41,6 +41,7 @@ private:
 
     AssetScheme::Canvas& canvas;
     RollGeometry geometry;
+    double middle = RollGeometry::firstCentre; // of the rows, kept when the size changes
     float rowUnits = 0.0f; // thousandths of the editor's height
 };
 

@@ -1,0 +1,43 @@
+#include "GUI/Pattern/NoteText.h"
+
+#include <cmath>
+
+namespace Zn::GUI
+{
+namespace
+{
+juce::String percent (float proportion)
+{
+    constexpr auto hundred = 100.0f;
+    return juce::String (juce::roundToInt (proportion * hundred)) + " %";
+}
+
+/** With two decimals where it is no whole number. */
+juce::String columns (double length)
+{
+    constexpr auto hundred = 100.0;
+    return juce::String (std::round (length * hundred) / hundred);
+}
+} // namespace
+
+juce::String noteText (const Sequencer::TimedNote& note, const RowNames& names, const RollBeats& beats)
+{
+    const auto row = note.event.noteNum;
+    const auto pitch = names.heldKeys.isEmpty() ? juce::String() : names.of (row).text;
+
+    juce::StringArray parts { "Row " + juce::String (row - Midi::RowToPitchTable::rowOfLowestNote) };
+
+    if (pitch.isNotEmpty())
+        parts.add (pitch);
+
+    parts.add ("beat " + beats.nameOf (note.time.start));
+    parts.add ("length " + columns (note.time.length * beats.grid));
+    parts.add ("velocity " + percent (note.event.velocity));
+    parts.add ("chance " + percent (note.event.chance));
+
+    if (! note.enabled)
+        parts.add ("disabled");
+
+    return parts.joinIntoString (", ");
+}
+} // namespace Zn::GUI

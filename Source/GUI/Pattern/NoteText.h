@@ -1,0 +1,12 @@
+#pragma once
+
+#include "GUI/Pattern/RollBeats.h"
+#include "GUI/Pattern/RowNames.h"
+
+namespace Zn::GUI
+{
+/** A note as a screen reader tells it: "Row 3, G3, beat 2.2, length 1, velocity 74 %, chance 50 %". Rows count from the
+    lowest key, lengths are columns.
+*/
+juce::String noteText (const Sequencer::TimedNote& note, const RowNames& names, const RollBeats& beats);
+} // namespace Zn::GUI
