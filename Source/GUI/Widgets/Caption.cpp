@@ -58,7 +58,7 @@ void Caption::arrange()
     if (options.arrangement == Arrangement::stacked)
     {
         const auto line = font.getHeight();
-        const auto block = area.withSizeKeepingCentre (area.getWidth(), iconPixels + 2.0f * gap + line);
+        const auto block = area.withSizeKeepingCentre (area.getWidth(), iconPixels + gap + line);
         iconArea = square.withCentre ({ area.getCentreX(), block.getY() + iconPixels / 2.0f });
         textArea = block.withTop (block.getBottom() - line);
         return;

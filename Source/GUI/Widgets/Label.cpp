@@ -46,7 +46,9 @@ bool Label::labelFits() const
 
 void Label::setShortLabel (bool shouldBeShort)
 {
-    if (std::exchange (shortened, shouldBeShort && options.shortText.isNotEmpty()) != shortened)
+    const auto canBeShort = options.shortText.isNotEmpty();
+
+    if (std::exchange (shortened, shouldBeShort && canBeShort) != (shouldBeShort && canBeShort))
         repaint();
 }
 

@@ -54,6 +54,9 @@ void Toggle::schemeChanged()
     if (options.look == Look::box)
         captionArea.removeFromLeft (pixels ("IconSizeLarge") + pixels ("ControlInset"));
 
+    if (options.look == Look::power)
+        captionArea.removeFromLeft (pixels ("ThinStroke"));
+
     caption.layOut (context.canvas, captionArea);
 }
 
@@ -122,11 +125,21 @@ void Toggle::paintButton (juce::Graphics& g)
     caption.paint (g, on ? colour (accent) : colour ("TextSecondary"), colour (text));
 }
 
+juce::Rectangle<float> Toggle::pillArea() const
+{
+    const juce::Rectangle<float> pill { pixels ("SwitchWidth"), pixels ("SwitchHeight") };
+    return pill.withCentre ({ pill.getCentreX(), area().getCentreY() });
+}
+
+juce::Rectangle<float> Toggle::learnArea() const
+{
+    return options.look == Look::pill ? area().withWidth (pillArea().getWidth()) : area();
+}
+
 void Toggle::paintPill (juce::Graphics& g)
 {
     const auto on = isOn();
-    const auto pill = juce::Rectangle<float> (pixels ("SwitchWidth"), pixels ("SwitchHeight"))
-                          .withCentre ({ pixels ("SwitchWidth") / 2.0f, area().getCentreY() });
+    const auto pill = pillArea();
     const auto inset = pixels ("ThinStroke");
     const auto knob = pill.getHeight() - 2.0f * inset;
     const auto inner = pill.reduced (inset);

@@ -50,6 +50,8 @@ private:
     void enter() override { setOn (! isOn()); }
     bool isOfKindOf (const Toggle& other) const;
     void pressed (const juce::MouseEvent& event) override;
+    juce::Rectangle<float> learnArea() const override;
+    juce::Rectangle<float> pillArea() const;
     void paintButton (juce::Graphics& g);
     void paintPill (juce::Graphics& g);
     void paintBox (juce::Graphics& g);
