@@ -62,6 +62,15 @@ void PatternArea::connect()
 
 bool PatternArea::pressKey (const juce::KeyPress& key)
 {
+    const auto modifiers = key.getModifiers();
+
+    if (key.isKeyCode (juce::KeyPress::tabKey)
+        && modifiers.isCtrlDown()) // without it Tab goes from note to note
+    {
+        drawing.moveKeyboardFocusToSibling (! modifiers.isShiftDown());
+        return true;
+    }
+
     return key == juce::KeyPress::escapeKey ? escape() : keys.press (key);
 }
 
