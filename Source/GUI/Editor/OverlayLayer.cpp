@@ -15,6 +15,12 @@ int milliseconds (std::string_view secondsConstant)
     return juce::roundToInt (1000.0f * AssetScheme::Base::get().constantOf (secondsConstant));
 }
 
+int tooltipDelayOf (const juce::Component& owner)
+{
+    const auto delay = dynamic_cast<const TooltipSource&> (owner).getTooltipDelay();
+    return delay > 0 ? delay : milliseconds ("TooltipDelaySeconds");
+}
+
 template <typename Card>
 Card& addedTo (juce::Component& parent, Card& card)
 {
@@ -291,7 +297,7 @@ void OverlayLayer::look (juce::Component* underPointer, juce::Point<int> pointer
 
     const auto isShown = tooltip.isVisible() && owner == tooltipOwner;
 
-    if (owner == nullptr || (! isShown && restedMilliseconds < milliseconds ("TooltipDelaySeconds")))
+    if (owner == nullptr || (! isShown && restedMilliseconds < tooltipDelayOf (*owner)))
         return tooltip.setVisible (false);
 
     const auto text = dynamic_cast<const TooltipSource&> (*owner).getTooltipText();

@@ -27,6 +27,7 @@ HeaderBand::HeaderBand (EditorContext& contextToUse)
     : Element (contextToUse.canvas, "Header")
     , context (contextToUse)
     , logo (context, "Logo", [this] { toggle<AboutPopup> (context); })
+    , presets (context, PresetKind::patterns (context.state()))
     , undo (context, HistoryButton::Way::undo)
     , redo (context, HistoryButton::Way::redo)
     , learn (context,
@@ -45,8 +46,11 @@ HeaderBand::HeaderBand (EditorContext& contextToUse)
     context.actions.help = [this] { help.click(); };
     context.actions.settings = [this] { settings.click(); };
 
-    for (auto* part :
-         std::initializer_list<juce::Component*> { &logo, &undo, &redo, &learn, &help, &settings })
+    addAndMakeVisible (logo);
+    presets.addTo (*this);
+    presets.addKeys (context.actions);
+
+    for (auto* part : std::initializer_list<juce::Component*> { &undo, &redo, &learn, &help, &settings })
         addAndMakeVisible (part);
 }
 } // namespace Zn::GUI

@@ -2,6 +2,7 @@
 
 #include "GUI/Header/HistoryButton.h"
 #include "GUI/Header/Logo.h"
+#include "GUI/Presets/PresetBar.h"
 
 namespace Zn::GUI
 {
@@ -15,6 +16,7 @@ private:
     EditorContext& context;
 
     Logo logo;
+    PresetBar presets;
     HistoryButton undo, redo;
     Button learn, help, settings;
 };

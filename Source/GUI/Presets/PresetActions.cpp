@@ -2,6 +2,7 @@
 
 #include "GUI/Presets/SaveTarget.h"
 #include "GUI/Presets/SoundRandomiser.h"
+#include "Presets/PresetFile.h"
 #include "Presets/Reflection/JsonText.h"
 
 namespace Zn::GUI
@@ -136,6 +137,12 @@ juce::String PresetActions::save (const juce::File& target)
 
     context.processor.getUndo().keepSaved();
     return {};
+}
+
+bool PresetActions::bringsSound (const juce::File& file) const
+{
+    const auto document = Presets::PresetFile::read (file);
+    return document.is_object() && document.contains ("Params") && document.at ("Params").is_object();
 }
 
 void PresetActions::rescan()

@@ -41,6 +41,9 @@ public:
     bool canSaveInPlace();
     juce::String save (const juce::File& target);
 
+    /** Whether a pattern preset that is saved already has a sound with it. */
+    bool bringsSound (const juce::File& file) const;
+
     /** Searches the folders anew. */
     void rescan();
     void showFolder();

@@ -1,6 +1,7 @@
 #include "GUI/Presets/PresetCatalogue.h"
 
 #include <algorithm>
+#include <array>
 #include <set>
 
 namespace Zn::GUI
@@ -36,6 +37,16 @@ juce::StringArray wordsIn (const juce::String& text)
     auto words = juce::StringArray::fromTokens (text, true);
     words.removeEmptyStrings();
     return words;
+}
+using Folders = std::array<juce::File, 2>; // the user's first
+
+juce::String categoryIn (const Folders& folders, const juce::File& file)
+{
+    for (const auto& folder : folders)
+        if (const auto parent = file.getParentDirectory(); parent.isAChildOf (folder))
+            return parent.getRelativePathFrom (folder).replaceCharacter ('\\', '/');
+
+    return {};
 }
 } // namespace
 
@@ -95,11 +106,7 @@ int PresetCatalogue::count (const PresetGroup& group, const juce::String& words)
 
 juce::String categoryOf (const Presets::Base& library, const juce::File& file)
 {
-    for (const auto& folder : { library.getUserFolder(), library.getContentFolder() })
-        if (const auto parent = file.getParentDirectory(); parent.isAChildOf (folder))
-            return parent.getRelativePathFrom (folder).replaceCharacter ('\\', '/');
-
-    return {};
+    return categoryIn ({ library.getUserFolder(), library.getContentFolder() }, file);
 }
 
 bool isOwnFile (const Presets::Base& library, const juce::File& file)
@@ -109,8 +116,9 @@ bool isOwnFile (const Presets::Base& library, const juce::File& file)
 
 PresetCatalogue catalogueOf (Presets::Base& library, const juce::StringArray& favourites)
 {
+    const Folders folders { library.getUserFolder(), library.getContentFolder() };
+    const std::set<juce::String> keys (favourites.begin(), favourites.end());
     std::vector<CataloguedPreset> presets;
-    std::set<juce::String> keys (favourites.begin(), favourites.end());
 
     for (const auto& [file, id] : library.getList())
     {
@@ -118,8 +126,8 @@ PresetCatalogue catalogueOf (Presets::Base& library, const juce::StringArray& fa
         presets.push_back ({ .file = file,
                              .id = id,
                              .name = name,
-                             .category = categoryOf (library, file),
-                             .isOwn = isOwnFile (library, file),
+                             .category = categoryIn (folders, file),
+                             .isOwn = file.isAChildOf (folders.front()),
                              .isFavourite = keys.count (favouriteKey (library, name)) > 0 });
     }
 

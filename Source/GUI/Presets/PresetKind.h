@@ -2,6 +2,9 @@
 
 #include "Plugin/Vornel/State.h"
 
+#include <string>
+#include <string_view>
+
 namespace Zn::GUI
 {
 /** One of the two libraries of presets, and how the editor speaks of it and colours it. Thread: message. */
@@ -11,11 +14,11 @@ struct PresetKind
 
     State& state;
     Presets::Base& library;
-    bool hasPatterns;          // else it is the sound alone
-    juce::String elements;     // what the names of its bar in the scheme begin with
-    juce::String title;        // as "Pattern preset"
-    juce::String noun, plural; // as "preset"
-    juce::String accent, wash; // colours of the scheme
+    bool hasPatterns;              // else it is the sound alone
+    juce::String elements;         // what the names of its bar in the scheme begin with
+    juce::String title;            // as "Pattern preset"
+    juce::String noun, plural;     // as "preset"
+    std::string_view accent, wash; // colours of the scheme
 
     static PresetKind patterns (State& state)
     {

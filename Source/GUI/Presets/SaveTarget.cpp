@@ -6,18 +6,6 @@ namespace Zn::GUI::SaveTarget
 {
 namespace
 {
-juce::String withoutControlCharacters (const juce::String& text)
-{
-    juce::String kept;
-
-    for (auto c = text.getCharPointer(); ! c.isEmpty(); ++c)
-        if (constexpr juce::juce_wchar firstVisible = 32, deleteCharacter = 127;
-            *c >= firstVisible && *c != deleteCharacter)
-            kept += *c;
-
-    return kept;
-}
-
 /** "Crossing Lines" of "Crossing Lines 2". */
 juce::String withoutNumber (const juce::String& name)
 {
@@ -26,16 +14,27 @@ juce::String withoutNumber (const juce::String& name)
 }
 } // namespace
 
-juce::String typedName (const juce::String& text)
+juce::String allowedCharacters (const juce::String& text)
 {
-    constexpr auto longestName = 100; // leaves room for the extension within what file systems take
-    const auto legal = juce::File::createLegalFileName (withoutControlCharacters (text));
-    return legal.trimCharactersAtStart (" .").substring (0, longestName);
+    juce::String kept;
+
+    for (auto c = text.getCharPointer(); ! c.isEmpty(); ++c)
+        if (constexpr juce::juce_wchar firstVisible = 32, deleteCharacter = 127;
+            *c >= firstVisible && *c != deleteCharacter)
+            kept += *c;
+
+    return juce::File::createLegalFileName (kept);
 }
 
 juce::String legalName (const juce::String& text)
 {
-    return typedName (text).trimCharactersAtEnd (" ."); // which some systems drop
+    constexpr auto longestName = 100; // leaves room for the extension within what file systems take
+
+    // Some hide what begins with a point, others drop what is at the end.
+    return allowedCharacters (text)
+        .trimCharactersAtStart (" .")
+        .substring (0, longestName)
+        .trimCharactersAtEnd (" .");
 }
 
 juce::File fileFor (const Presets::Base& library, const juce::String& name, const juce::String& category)

@@ -12,8 +12,8 @@ namespace SaveTarget
 /** What of a text can be the name of a file or a folder everywhere. */
 juce::String legalName (const juce::String& text);
 
-/** What may stand in a field while a name is typed: legalName() but with the space that is about to be followed. */
-juce::String typedName (const juce::String& text);
+/** What of a text may be typed into a name. */
+juce::String allowedCharacters (const juce::String& text);
 
 /** The file of a name and a category, a path below the user's folder; no file without a name. */
 juce::File fileFor (const Presets::Base& library, const juce::String& name, const juce::String& category);

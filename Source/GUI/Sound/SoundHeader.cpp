@@ -19,13 +19,15 @@ SoundHeader::SoundHeader (EditorContext& contextToUse)
               "SynthEnable",
               Parameters::createForwarder (contextToUse.state().params.sound.synthEnable),
               { .icon = "power.svg", .text = "Synth", .accent = "Sound" })
+    , sounds (contextToUse, PresetKind::sounds (contextToUse.state()))
     , fold (contextToUse,
             "SoundFold",
             { .text = "", .icon = "down.svg", .look = Button::Look::quiet },
             [&actions = contextToUse.actions] { actions.fold(); })
 {
-    for (auto* child : std::initializer_list<juce::Component*> { &enable, &fold })
-        addAndMakeVisible (child);
+    addAndMakeVisible (enable);
+    sounds.addTo (*this);
+    addAndMakeVisible (fold);
 }
 
 void SoundHeader::schemeChanged()

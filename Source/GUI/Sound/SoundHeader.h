@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GUI/Presets/PresetBar.h"
 #include "GUI/Widgets/Button.h"
 #include "GUI/Widgets/Toggle.h"
 
@@ -16,6 +17,7 @@ public:
 private:
     EditorContext& context;
     Toggle enable;
+    PresetBar sounds;
     Button fold;
 };
 } // namespace Zn::GUI

@@ -20,5 +20,8 @@ class TooltipSource
 public:
     virtual ~TooltipSource() = default;
     virtual TooltipText getTooltipText() const = 0;
+
+    /** How long the pointer rests on it first, in milliseconds; 0: as long as on most. */
+    virtual int getTooltipDelay() const { return 0; }
 };
 } // namespace Zn::GUI

@@ -82,6 +82,6 @@ TEST (SaveTarget, KeepsWhatEveryFileSystemTakes)
                                                                   { "7.5 Steps", "7.5 Steps" } })
         EXPECT_EQ (SaveTarget::legalName (typed), kept) << typed;
 
-    EXPECT_EQ (SaveTarget::typedName ("Two "), "Two ") << "the next word is on its way";
+    EXPECT_EQ (SaveTarget::allowedCharacters ("Two/ "), "Two ") << "the next word is on its way";
 }
 } // namespace Zn::GUI

@@ -1,0 +1,145 @@
+#include "GUI/Presets/SavePopup.h"
+
+#include "GUI/Presets/SaveTarget.h"
+#include "Parameters/BoolRef.h"
+
+namespace Zn::GUI
+{
+namespace
+{
+/** Lets nothing be typed that a file cannot be called. */
+struct NameFilter : juce::TextEditor::InputFilter
+{
+    juce::String filterNewText (juce::TextEditor&, const juce::String& typed) override
+    {
+        return SaveTarget::allowedCharacters (typed);
+    }
+};
+
+juce::StringArray categoriesOf (Presets::Base& library)
+{
+    juce::StringArray categories;
+
+    for (const auto& entry : library.getList())
+        categories.addIfNotAlreadyThere (categoryOf (library, entry.file));
+
+    return categories;
+}
+
+juce::String currentCategory (PresetActions& actions)
+{
+    const auto file = actions.getCurrentFile();
+    return file ? categoryOf (actions.getLibrary(), *file) : juce::String();
+}
+
+/** The same editor, but what is done here is remembered by another undo. */
+EditorContext withEdits (const EditorContext& context, Edits& edits)
+{
+    return { .processor = context.processor,
+             .canvas = context.canvas,
+             .settings = context.settings,
+             .edits = edits,
+             .overlay = context.overlay,
+             .learning = context.learning,
+             .polls = context.polls,
+             .shownSlot = context.shownSlot,
+             .actions = context.actions };
+}
+} // namespace
+
+SavePopup::SavePopup (PresetActions& actionsToUse, std::function<void (const juce::File&)> saveTo)
+    : Popup (actionsToUse.getContext(), "SavePopup", "Save " + actionsToUse.getKind().title.toLowerCase())
+    , actions (actionsToUse)
+    , save (std::move (saveTo))
+    , formContext (withEdits (context, noEdits))
+    , withSound (actions.getKind().state.savesParams)
+    , category (std::make_shared<CategoryParam> (
+          categoriesOf (actions.getLibrary()), currentCategory (actions), [this] { askForCategory(); }))
+    , nameLabel (formContext, "SaveNameLabel", "Name")
+    , name (context.canvas, "SaveName")
+    , categoryLabel (formContext, "SaveCategoryLabel", "Category")
+    , categoryField (formContext, "SaveCategory", category)
+    , cancelButton (formContext, "SaveCancel", { .text = "Cancel" }, [this] { close(); })
+    , confirmButton (formContext,
+                     "SaveConfirm",
+                     { .text = "Save", .look = Button::Look::primary, .accent = actions.getKind().accent },
+                     [this] { confirm(); })
+    , pollListener (context.polls, [this] { update(); })
+{
+    if (actions.getKind().hasPatterns)
+        withSoundToggle.emplace (
+            formContext,
+            "SaveWithSound",
+            std::make_shared<Parameters::BoolRef> (withSound, "Keep the sound", true),
+            Toggle::Options { .look = Toggle::Look::box, .text = "Keep the sound and arp settings with it" });
+
+    for (auto* part : std::initializer_list<juce::Component*> { &nameLabel,
+                                                                &name,
+                                                                &categoryLabel,
+                                                                &categoryField,
+                                                                &cancelButton,
+                                                                &confirmButton })
+        addAndMakeVisible (part);
+
+    if (withSoundToggle)
+        addAndMakeVisible (*withSoundToggle);
+
+    name.setTitle ("Name");
+    name.setInputFilter (new NameFilter(), true);
+    name.setText (SaveTarget::freeName (actions.getLibrary(), actions.getLibrary().getName()), false);
+    name.onKey = [this] (const juce::KeyPress& key) {
+        return key == juce::KeyPress::returnKey && (confirm(), true);
+    };
+    update();
+}
+
+juce::File SavePopup::getTarget() const
+{
+    return SaveTarget::fileFor (actions.getLibrary(), name.getText(), category->get());
+}
+
+void SavePopup::update()
+{
+    const auto target = getTarget();
+    confirmButton.setLabel (target.existsAsFile() ? "Replace" : "Save");
+    confirmButton.setEnabled (target != juce::File());
+}
+
+void SavePopup::confirm()
+{
+    const auto target = getTarget();
+
+    if (target == juce::File())
+        return;
+
+    if (withSoundToggle)
+        actions.getKind().state.savesParams = withSound;
+
+    const auto saveTo = save; // this may be gone once the pop-up is closed
+    close();
+    saveTo (target);
+}
+
+void SavePopup::askForCategory()
+{
+    const std::weak_ptr<CategoryParam> asked (category);
+
+    context.overlay.enterValue (categoryField, {}, [asked] (const juce::String& typed) {
+        if (const auto param = asked.lock())
+            param->set (typed);
+
+        return true;
+    });
+}
+
+void SavePopup::paint (juce::Graphics& g)
+{
+    Popup::paint (g);
+    paintHeading (g, getCanvas().boundsOf ("SaveTitle") - getCanvas().boundsOf (getElement()).getPosition());
+}
+
+bool SavePopup::keyPressed (const juce::KeyPress& key)
+{
+    return key == juce::KeyPress::escapeKey && (close(), true);
+}
+} // namespace Zn::GUI
