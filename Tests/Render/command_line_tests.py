@@ -171,6 +171,20 @@ class CommandLine(unittest.TestCase):
             with self.subTest(option=option, message=message):
                 self.expect_failure(1, message, option, file, "--state-out", self.folder / "new")
 
+    def test_plays_the_chords_of_a_project(self):
+        state, notes = self.folder / "state", self.folder / "notes.jsonl"
+        self.assertEqual(self.call("--set", "Arp-Active=Off", "--state-out", state).stderr, "")
+
+        project = json.loads(state.read_bytes()[8:].rstrip(b"\0"))
+        project["MidiPlayer"] = {"Resource": {"name": "Chords 1 - Pop", "type": "SharedBinary", "data": ""},
+                                 "playing": True, "active": True}
+        text = json.dumps(project).encode() + b"\0"
+        state.write_bytes(b"VC2!" + struct.pack("<i", len(text)) + text)
+
+        self.assertEqual(self.call(CHORALE, "--state-in", state, "--out-events", notes, *QUICK).stderr, "")
+        lines = map(json.loads, notes.read_text().splitlines())
+        self.assertEqual([line["bytes"][1] for line in lines if line["bytes"][0] == 0x90][:6], [48, 64, 67, 55, 62, 71])
+
     def test_repeats_a_render_with_the_same_seed(self):
         renders = []
 

@@ -36,6 +36,7 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
 
     addAndMakeVisible (resizer);
     addAndMakeVisible (overlay);
+    addChildComponent (drops.getTarget());
     fillActions();
 
     if (settings.get().ownColours)

@@ -3,11 +3,13 @@
 #include "GUI/Arp/ArpHeader.h"
 #include "GUI/Arp/ArpParams.h"
 #include "GUI/Arp/BrushBand.h"
+#include "GUI/Editor/FileDrops.h"
 #include "GUI/Editor/OverlayLayer.h"
 #include "GUI/Editor/Resizer.h"
 #include "GUI/Framework/AssetScheme/UserColours.h"
 #include "GUI/Header/HeaderBand.h"
 #include "GUI/Pattern/PatternArea.h"
+#include "GUI/Player/MidiDrop.h"
 #include "GUI/Player/PlayerBand.h"
 #include "GUI/Sound/SoundBand.h"
 #include "GUI/Widgets/EditorLook.h"
@@ -21,7 +23,7 @@ namespace Zn::GUI
 
     Its size is the editor's; the scheme places everything in it. Thread: message.
 */
-class Page : public juce::Component
+class Page : public juce::Component, public juce::FileDragAndDropTarget
 {
 public:
     explicit Page (Audio::Plugins::Vornel::Processor& processor);
@@ -39,6 +41,14 @@ public:
     void paint (juce::Graphics& g) override;
     void resized() override;
     bool keyPressed (const juce::KeyPress& key) override;
+
+    bool isInterestedInFileDrag (const juce::StringArray& files) override
+    {
+        return drops.isInterestedIn (files);
+    }
+    void fileDragEnter (const juce::StringArray& files, int, int) override { drops.enter (files); }
+    void fileDragExit (const juce::StringArray&) override { drops.exit(); }
+    void filesDropped (const juce::StringArray& files, int, int) override { drops.drop (files); }
 
 private:
     void fillActions();
@@ -70,6 +80,7 @@ private:
     };
 
     Resizer resizer { context };
+    FileDrops drops { context, { midiDrop (player.getActions()) } };
 
     std::optional<AssetScheme::UserColours> userColours;
     Events::Listener settingsListener { settings, [this] { followSettings(); } };

@@ -1,0 +1,216 @@
+#include "GUI/Player/PlayerTimeline.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Zn::GUI
+{
+PlayerTimeline::PlayerTimeline (EditorContext& contextToUse) : Control (contextToUse, "PlayerTimeline")
+{
+    setEnabledWhen ([this] { return song != nullptr; });
+    readSong();
+}
+
+TooltipText PlayerTimeline::getTooltipText() const
+{
+    auto tooltip = Control::getTooltipText();
+
+    if (pointed >= 0)
+        tooltip.value = chords[static_cast<std::size_t> (pointed)].name;
+
+    if (! canJump())
+        tooltip.help = "The host's clock decides where the file plays.";
+
+    return tooltip;
+}
+
+void PlayerTimeline::schemeChanged()
+{
+    font = context.canvas.fontOf ("FontSmall");
+    layOut();
+}
+
+void PlayerTimeline::readSong()
+{
+    song = context.state().player.getSong();
+    middleC = context.settings.get().middleC;
+    chords = song != nullptr ? chordsOf (*song, middleC) : std::vector<SongChord>();
+    lit = pointed = -1;
+    layOut();
+}
+
+void PlayerTimeline::layOut()
+{
+    chips.clear();
+
+    const auto gap = pixels ("SegmentInset");
+    const auto inset = pixels ("CaptionGap");
+    const auto row = area().reduced (0.0f, gap);
+
+    for (const auto& chord : chords)
+    {
+        const auto xOf = [&] (double time) {
+            return row.getX() + row.getWidth() * static_cast<float> (time / song->slot.playLength);
+        };
+        const auto left = std::round (xOf (chord.time.start));
+        const auto right = std::max (std::round (xOf (chord.time.end())) - gap, left + 1.0f);
+        const auto fits = font.getStringWidthFloat (chord.name) <= right - left - inset;
+
+        chips.push_back ({ row.withLeft (left).withRight (right), fits ? chord.name : juce::String() });
+    }
+
+    repaint();
+}
+
+void PlayerTimeline::paintControl (juce::Graphics& g)
+{
+    const auto inset = std::round (pixels ("CaptionGap") / 2.0f);
+
+    for (auto index = 0; const auto& [chip, text] : chips)
+    {
+        const auto isLit = index == lit;
+        const auto isPointed = index == pointed && canJump();
+
+        paintField (g, chip, colour (isLit ? "MidiDeep" : isPointed ? "ControlHover" : "Control"));
+        g.setFont (font);
+        g.setColour (colour (isLit ? "Text" : "TextSecondary"));
+
+        const auto isWide = chip.getWidth() >= font.getHeight() * 4.0f;
+        g.drawText (text,
+                    chip.reduced (isWide ? 3.0f * inset : inset, 0.0f),
+                    isWide ? juce::Justification::centredLeft : juce::Justification::centred,
+                    false);
+        ++index;
+    }
+}
+
+void PlayerTimeline::poll()
+{
+    if (song != context.state().player.getSong() || middleC != context.settings.get().middleC)
+        readSong();
+
+    const auto now = chordNow();
+
+    if (const auto before = std::exchange (lit, now); before != now)
+    {
+        repaintChip (before);
+        repaintChip (now);
+    }
+}
+
+/** Where it is heard: as the engine does, from the song's beginning. */
+int PlayerTimeline::chordNow() const
+{
+    const auto& playHead = *context.state().playHead;
+
+    if (song == nullptr || ! context.state().player.isHeard() || ! playHead.isPlaying.load())
+        return -1;
+
+    const auto position = std::fmod (playHead.positionPpq.load(), song->slot.playLength);
+    const auto playing = std::ranges::find_if (chords, [position] (const SongChord& chord) {
+        return chord.time.start <= position && position < chord.time.end();
+    });
+
+    return playing != chords.end() ? static_cast<int> (playing - chords.begin()) : -1;
+}
+
+bool PlayerTimeline::canJump() const
+{
+    auto* const host = context.processor.getPlayHead();
+    return context.state().playHead->internalClock.load() || host == nullptr;
+}
+
+int PlayerTimeline::chordAt (juce::Point<float> position) const
+{
+    const auto found = std::ranges::find_if (chips, [position] (const Chip& chip) {
+        return chip.area.getX() <= position.x && position.x < chip.area.getRight();
+    });
+
+    return found != chips.end() ? static_cast<int> (found - chips.begin()) : -1;
+}
+
+void PlayerTimeline::pointAt (juce::Point<float> position)
+{
+    const auto now = chordAt (position);
+
+    if (const auto before = std::exchange (pointed, now); before != now)
+    {
+        repaintChip (before);
+        repaintChip (now);
+    }
+}
+
+void PlayerTimeline::mouseExit (const juce::MouseEvent& event)
+{
+    pointAt ({ -1.0f, 0.0f });
+    Control::mouseExit (event);
+}
+
+void PlayerTimeline::mouseDown (const juce::MouseEvent& event)
+{
+    ring.mousePressed();
+
+    if (isEnabled() && ! event.mods.isPopupMenu())
+        jumpTo (chordAt (event.position));
+}
+
+bool PlayerTimeline::keyPressed (const juce::KeyPress& key)
+{
+    const auto step = key == juce::KeyPress (juce::KeyPress::rightKey)  ? 1
+                      : key == juce::KeyPress (juce::KeyPress::leftKey) ? -1
+                                                                        : 0;
+
+    if (step == 0 || chords.empty())
+        return false;
+
+    const auto count = static_cast<int> (chords.size());
+    ring.keyPressed();
+    jumpTo ((std::max (chordNow(), 0) + step + count) % count);
+    return true;
+}
+
+/** The position first: it is the changed sample count that tells the audio thread of it. */
+void PlayerTimeline::jumpTo (int chord)
+{
+    if (chord < 0 || ! canJump())
+        return;
+
+    auto& playHead = *context.state().playHead;
+    playHead.positionPpq.store (chords[static_cast<std::size_t> (chord)].time.start);
+    playHead.positionSamples.fetch_add (1);
+}
+
+void PlayerTimeline::repaintChip (int chord)
+{
+    if (chord >= 0 && chord < static_cast<int> (chips.size()))
+        repaint (chips[static_cast<std::size_t> (chord)].area.getSmallestIntegerContainer());
+}
+
+std::unique_ptr<juce::AccessibilityHandler> PlayerTimeline::createAccessibilityHandler()
+{
+    struct Spoken : juce::AccessibilityTextValueInterface
+    {
+        explicit Spoken (const PlayerTimeline& timelineToSpeak) : timeline (timelineToSpeak) {}
+
+        bool isReadOnly() const override { return true; }
+        void setValueAsString (const juce::String&) override {}
+        juce::String getCurrentValueAsString() const override
+        {
+            juce::StringArray names;
+
+            for (const auto& chord : timeline.getChords())
+                names.add (chord.name);
+
+            return names.joinIntoString (", ");
+        }
+
+        const PlayerTimeline& timeline;
+    };
+
+    return std::make_unique<juce::AccessibilityHandler> (
+        *this,
+        juce::AccessibilityRole::staticText,
+        juce::AccessibilityActions(),
+        juce::AccessibilityHandler::Interfaces { std::make_unique<Spoken> (*this) });
+}
+} // namespace Zn::GUI

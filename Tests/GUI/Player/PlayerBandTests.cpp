@@ -1,0 +1,146 @@
+#include "GUI/Player/PlayerBand.h"
+
+#include "GUI/Support/OpenEditor.h"
+#include "Sequencer/MidiPlayer/ReadResource.h"
+
+#include <gmock/gmock.h>
+
+namespace Zn::GUI
+{
+namespace
+{
+using Tests::Hand::click;
+
+juce::StringArray namesOf (const PlayerTimeline& timeline)
+{
+    juce::StringArray names;
+
+    for (const auto& chord : timeline.getChords())
+        names.add (chord.name);
+
+    return names;
+}
+
+struct PlayerStrip : Tests::OpenEditor
+{
+    Sequencer::MidiPlayer::Settings settings() { return getState().player.get(); }
+
+    void undo() { page.getContext().edits.undo(); }
+
+    PlayerFile& file = find<PlayerFile> ("PlayerFile");
+    PlayerTimeline& timeline = find<PlayerTimeline> ("PlayerTimeline");
+    int changes = 0;
+    Events::Listener listener { getState().projectChanged, [this] { ++changes; } };
+};
+} // namespace
+
+TEST (PlayerBand, StepsThroughTheFilesAndShowsTheirChords)
+{
+    PlayerStrip editor;
+    EXPECT_EQ (editor.file.getShownName(), "None");
+
+    click (editor.find ("PlayerPrevious"));
+    click (editor.find ("PlayerNext"));
+    EXPECT_EQ (editor.settings().resource.name, "Chords 1 - Pop");
+    EXPECT_EQ (editor.changes, 2);
+
+    for (auto i = 0; i < 6; ++i)
+        Tests::Hand::press (editor.file, "cursor down");
+
+    editor.poll();
+    EXPECT_EQ (editor.file.getShownName(), "Chords 7 - Neo Soul");
+    EXPECT_EQ (editor.file.getShownLength(), "4 bars");
+    EXPECT_EQ (namesOf (editor.timeline).joinIntoString (" "), "Am7 Dm9 G13 Cmaj7 F6 E7");
+
+    editor.undo();
+    EXPECT_EQ (editor.settings().resource.name, "") << "steps that follow each other are one";
+}
+
+TEST (PlayerBand, SwitchesTogetherWithTheKey)
+{
+    PlayerStrip editor;
+
+    click (editor.find ("PlayerActive"));
+    EXPECT_TRUE (editor.settings().active);
+    EXPECT_TRUE (editor.getState().keyMode.load());
+
+    click (editor.find ("PlayerSync"));
+    EXPECT_FALSE (editor.settings().playing);
+    EXPECT_EQ (editor.changes, 2);
+
+    editor.undo();
+    EXPECT_TRUE (editor.settings().playing);
+    editor.undo();
+    EXPECT_FALSE (editor.settings().active);
+    EXPECT_FALSE (editor.getState().keyMode.load());
+}
+
+TEST (PlayerBand, LightsTheChordThatPlaysAndJumps)
+{
+    PlayerStrip editor;
+    auto& playHead = *editor.getState().playHead;
+    editor.getState().player.set ({ Sequencer::MidiPlayer::embedded ("Chords 1 - Pop"), true, true });
+    playHead.isPlaying = true;
+    playHead.internalClock = true;
+
+    for (const auto& [position, lit] : { std::pair (0.0, 0), { 9.5, 2 }, { 20.0, 1 } })
+    {
+        playHead.positionPpq = position;
+        editor.poll();
+        EXPECT_EQ (editor.timeline.getLit(), lit) << position;
+    }
+
+    const auto samples = playHead.positionSamples.load();
+    const auto bounds = editor.timeline.getLocalBounds().toFloat();
+    click (editor.timeline, bounds.getRelativePoint (0.9f, 0.5f));
+    EXPECT_EQ (playHead.positionPpq.load(), 12.0);
+    EXPECT_NE (playHead.positionSamples.load(), samples);
+
+    editor.getState().player.setActive (false);
+    editor.poll();
+    EXPECT_EQ (editor.timeline.getLit(), -1);
+}
+
+TEST (PlayerBand, PlaysWhatIsDroppedOnTheWindow)
+{
+    PlayerStrip editor;
+    const auto target = [&] { return editor.find ("DropTarget").isVisible(); };
+    const auto good = juce::File::createTempFile (".mid"), bad = juce::File::createTempFile (".MID");
+    juce::MidiFile song;
+    juce::MidiMessageSequence track;
+    track.addEvent (juce::MidiMessage::noteOn (1, 60, juce::uint8 (100)));
+    song.setTicksPerQuarterNote (96);
+    song.addTrack (track);
+    track.addEvent (juce::MidiMessage::noteOff (1, 60), 96.0);
+    song.addTrack (track);
+
+    {
+        juce::FileOutputStream stream (good);
+        song.writeTo (stream);
+    }
+
+    bad.replaceWithText ("MThd");
+
+    EXPECT_FALSE (editor.page.isInterestedInFileDrag ({ "/song.wav" }));
+    ASSERT_TRUE (editor.page.isInterestedInFileDrag ({ "/song.wav", good.getFullPathName() }));
+
+    editor.page.fileDragEnter ({ good.getFullPathName() }, 1, 1);
+    EXPECT_TRUE (target());
+    editor.page.fileDragExit ({});
+    EXPECT_FALSE (target());
+
+    editor.page.filesDropped ({ good.getFullPathName() }, 1, 1);
+    EXPECT_TRUE (editor.settings().active);
+    EXPECT_EQ (editor.settings().resource.name, good.getFileNameWithoutExtension().toStdString());
+
+    editor.page.filesDropped ({ bad.getFullPathName() }, 1, 1);
+    EXPECT_EQ (editor.settings().resource, Sequencer::MidiPlayer::Resource());
+
+    editor.undo();
+    editor.undo();
+    EXPECT_FALSE (editor.settings().active) << "a drop is one step";
+
+    good.deleteFile();
+    bad.deleteFile();
+}
+} // namespace Zn::GUI
