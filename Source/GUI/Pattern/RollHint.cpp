@@ -18,6 +18,7 @@ RollHint::RollHint (RollContext& contextToUse)
     , namesListener (contextToUse.rowNames, [this] { followKeys(); })
 {
     setInterceptsMouseClicks (false, false);
+    setBufferedToImage (true); // the play head runs over it
     appear (! hadKeys && context.editor.settings.get().chordsPlayed < chordsToLearn);
 }
 
@@ -45,12 +46,14 @@ void RollHint::appear (bool shouldBeSeen)
     constexpr auto millisecondsPerSecond = 1000.0f;
     const auto seconds = AssetScheme::Base::get().constantOf ("PopupFadeSeconds");
 
+    auto& animator = juce::Desktop::getInstance().getAnimator();
+    animator.cancelAnimation (this, false);
+    setAlpha (1.0f); // a fade leaves it at 0
+
     if (isWanted || context.editor.settings.get().reducedMotion || ! isShowing())
         setVisible (isWanted);
     else
-        juce::Desktop::getInstance().getAnimator().fadeOut (
-            this,
-            juce::roundToInt (seconds * millisecondsPerSecond));
+        animator.fadeOut (this, juce::roundToInt (seconds * millisecondsPerSecond));
 }
 
 void RollHint::schemeChanged()
