@@ -175,6 +175,7 @@ int run (const juce::ArgumentList& arguments)
     if (arguments.containsOption ("--menu"))
         click (page, option ("--menu"), juce::ModifierKeys::rightButtonModifier);
 
+    page.createComponentSnapshot (page.getLocalBounds()); // what is drawn may ask for more to be read
     serveMessages (milliseconds);
 
     if (write (page.createComponentSnapshot (page.getLocalBounds()), arguments[0].resolveAsFile()))
