@@ -41,6 +41,10 @@ endif()
 set_source_files_properties ("${JUCE_MODULES_DIR}/juce_core/juce_core.cpp"
                              PROPERTIES COMPILE_DEFINITIONS JUCE_DISABLE_JUCE_VERSION_PRINTING=1)
 
+# By which other programs on the JACK server know the standalone one.
+set_source_files_properties ("${JUCE_MODULES_DIR}/juce_audio_devices/juce_audio_devices.cpp"
+                             PROPERTIES COMPILE_DEFINITIONS JUCE_JACK_CLIENT_NAME="Vornel")
+
 # Whatever a program does not use is left out of it.
 target_compile_options (zn_juce PRIVATE -w -ffunction-sections -fdata-sections)
 target_link_options (zn_juce INTERFACE -Wl,--gc-sections)
