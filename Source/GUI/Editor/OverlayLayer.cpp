@@ -15,12 +15,6 @@ int milliseconds (std::string_view secondsConstant)
     return juce::roundToInt (1000.0f * AssetScheme::Base::get().constantOf (secondsConstant));
 }
 
-int tooltipDelayOf (const juce::Component& owner)
-{
-    const auto delay = dynamic_cast<const TooltipSource&> (owner).getTooltipDelay();
-    return delay > 0 ? delay : milliseconds ("TooltipDelaySeconds");
-}
-
 template <typename Card>
 Card& addedTo (juce::Component& parent, Card& card)
 {
@@ -52,7 +46,7 @@ OverlayLayer::OverlayLayer (juce::Component& pageToCover,
     , settings (settingsToUse)
     , readoutShadow (addedTo (*this, readout), canvas)
     , messageShadow (addedTo (*this, message), canvas)
-    , tooltipShadow (addedTo (*this, tooltip), canvas)
+    , tooltips (*this, canvasToUse, settingsToUse, polls)
     , pollListener (polls, [this] { poll(); })
 {
     setInterceptsMouseClicks (false, true);
@@ -68,7 +62,7 @@ void OverlayLayer::resized()
 {
     backdrop.setBounds (getLocalBounds());
     message.place();
-    tooltip.setVisible (false);
+    tooltips.hide();
     closeEntry (ValueEntry::End::cancelled, {});
 }
 
@@ -80,7 +74,7 @@ void OverlayLayer::closeAll()
     closedEntry.reset();
     message.setVisible (false);
     readout.setVisible (false);
-    tooltip.setVisible (false);
+    tooltips.hide();
 
     if (std::exchange (menuIsOpen, false))
         juce::PopupMenu::dismissAllActiveMenus();
@@ -90,19 +84,21 @@ void OverlayLayer::poll()
 {
     closedPopup.reset();
     closedEntry.reset();
-    pollTooltip();
 
     if (message.isVisible() && juce::Time::getMillisecondCounter() > messageEnd && ! message.isBusy())
         message.setVisible (false);
 }
 
-void OverlayLayer::appear (juce::Component& card) const
+void OverlayLayer::appear (juce::Component& card, juce::Component& shadow) const
 {
-    if (card.isShowing() && mayMove())
+    if (! card.isShowing() || ! mayMove())
+        return;
+
+    for (auto* part : { &card, &shadow })
     {
-        card.setAlpha (0.0f);
-        juce::Desktop::getInstance().getAnimator().animateComponent (&card,
-                                                                     card.getBounds(),
+        part->setAlpha (0.0f);
+        juce::Desktop::getInstance().getAnimator().animateComponent (part,
+                                                                     part->getBounds(),
                                                                      1.0f,
                                                                      milliseconds ("PopupFadeSeconds"),
                                                                      false,
@@ -125,7 +121,7 @@ void OverlayLayer::openPopup (std::unique_ptr<juce::Component> newPopup)
     if (closedPopup != nullptr)
         removeChildComponent (closedPopup.get());
 
-    tooltip.setVisible (false);
+    tooltips.hide();
     addAndMakeVisible (*popup);
     popupShadow = std::make_unique<CardShadow> (*popup, canvas);
     backdrop.setVisible (true);
@@ -135,7 +131,7 @@ void OverlayLayer::openPopup (std::unique_ptr<juce::Component> newPopup)
     message.toFront (false);
 
     if (! isReplaced)
-        appear (*popup);
+        appear (*popup, *popupShadow);
 
     focusPopup();
 }
@@ -184,11 +180,16 @@ void OverlayLayer::showMenu (const juce::PopupMenu& menu,
                              std::function<void (int)> chosen)
 {
     hideReadout();
-    tooltip.setVisible (false);
+    tooltips.hide();
+
+    if (juce::Desktop::getInstance().getDisplays().displays.isEmpty())
+        return; // JUCE's menus need a screen
+
     menuIsOpen = true;
 
     const auto options = menuOptions (menu, page, beside, canvas.boundsOf ("ControlMenu").getWidth());
     auto shown = menu;
+    shown.setLookAndFeel (&page.getLookAndFeel()); // it would look for one before it lies in the page
     shown.showMenuAsync (options, [safe = SafePointer (this), chosenFunc = std::move (chosen)] (int result) {
         if (safe == nullptr)
             return;
@@ -205,7 +206,7 @@ void OverlayLayer::showReadout (const juce::String& name,
                                 const juce::String& value,
                                 juce::Point<int> onScreen)
 {
-    tooltip.setVisible (false);
+    tooltips.hide();
     readout.show (name, value, getLocalPoint (nullptr, onScreen));
     readout.setVisible (true);
     readout.toFront (false);
@@ -221,7 +222,7 @@ void OverlayLayer::showMessage (const juce::String& text, const juce::String& ac
     message.show (text, actionText, std::move (action), [this] { message.setVisible (false); });
     message.setVisible (true);
     message.toFront (false);
-    appear (message);
+    appear (message, messageShadow);
 
     messageEnd = juce::Time::getMillisecondCounter() + juce::uint32 (milliseconds ("MessageSeconds"));
     juce::AccessibilityHandler::postAnnouncement (text,
@@ -235,7 +236,7 @@ void OverlayLayer::enterValue (juce::Component& over,
                                CallbackFunc next)
 {
     closeEntry (ValueEntry::End::cancelled, {});
-    tooltip.setVisible (false);
+    tooltips.hide();
 
     ValueEntry::Asked asked { .text = text,
                               .accept = std::move (accept),
@@ -268,7 +269,6 @@ void OverlayLayer::closeEntry (ValueEntry::End end, const CallbackFunc& next)
         nextFunc();
 }
 
-//======================================================================================================================
 void OverlayLayer::pollTooltip()
 {
     const auto mouse = juce::Desktop::getInstance().getMainMouseSource();
@@ -322,4 +322,5 @@ void OverlayLayer::look (juce::Component* underPointer, juce::Point<int> pointer
     if (! isShown)
         appear (tooltip);
 }
+=======
 } // namespace Zn::GUI

@@ -2,10 +2,10 @@
 
 #include "Foundation/Events/Listener.h"
 #include "GUI/Editor/Cards.h"
+#include "GUI/Editor/Tooltips.h"
 #include "GUI/Editor/ValueEntry.h"
 #include "GUI/Widgets/Card.h"
 #include "GUI/Widgets/Overlay.h"
-#include "GUI/Widgets/UserSettings.h"
 
 namespace Zn::GUI
 {
@@ -38,12 +38,9 @@ public:
     /** Closes everything at once, menus too. */
     void closeAll();
 
-    /** What the pointer is on, and how long it has rested: shows the tooltip of it, or takes that away. */
-    void look (juce::Component* underPointer, juce::Point<int> pointer, int restedMilliseconds);
-
-    /** The line of the message that is shown, and the tooltip's heading; empty while there is none. */
+    /** The line of the message that is shown; empty while there is none. */
     juce::String getMessage() const { return message.isVisible() ? message.getTitle() : juce::String(); }
-    juce::String getTooltip() const { return tooltip.isVisible() ? tooltip.getTitle() : juce::String(); }
+    Tooltips& getTooltips() noexcept { return tooltips; }
     ValueEntry* getValueEntry() const noexcept { return entry.get(); }
 
     void resized() override;
@@ -60,8 +57,7 @@ private:
     };
 
     void poll();
-    void pollTooltip();
-    void appear (juce::Component& card) const;
+    void appear (juce::Component& card, juce::Component& shadow) const;
     void focusPopup();
     void closeEntry (ValueEntry::End end, const CallbackFunc& next);
     bool mayMove() const { return ! settings.get().reducedMotion; }
@@ -79,15 +75,10 @@ private:
 
     ReadoutCard readout { canvas };
     MessageCard message { canvas };
-    TooltipCard tooltip { canvas };
-    CardShadow readoutShadow, messageShadow, tooltipShadow;
+    CardShadow readoutShadow, messageShadow;
     juce::uint32 messageEnd = 0; // milliseconds
-    TooltipText tooltipText;
-    juce::Component::SafePointer<juce::Component> tooltipOwner, pressed;
-    juce::Point<int> lastPointer;
-    juce::uint32 restsSince = 0; // milliseconds
-
     bool menuIsOpen = false;
+    Tooltips tooltips;
     Events::Listener pollListener;
 };
 } // namespace Zn::GUI

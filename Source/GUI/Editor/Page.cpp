@@ -37,7 +37,9 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
     addAndMakeVisible (resizer);
     addAndMakeVisible (overlay);
     addChildComponent (drops.getTarget());
-    fillActions();
+
+    if (processor.wrapperType == juce::AudioProcessor::wrapperType_Standalone)
+        actions.play = [&isPlaying = context.state().playHead->isPlaying] { isPlaying = ! isPlaying; };
 
     if (settings.get().ownColours)
         followSettings();
@@ -61,20 +63,36 @@ void Page::followSettings()
     AssetScheme::Base::get().resetUserColours();
 }
 
-void Page::fillActions()
+PageActions Page::ownActions()
 {
-    actions.undo = [this] { edits.undo(); };
-    actions.redo = [this] { edits.redo(); };
-    actions.learn = [this] { learning.setActive (! learning.isActive()); };
-    actions.nextBand = [this] { focusBand (1); };
-    actions.previousBand = [this] { focusBand (-1); };
-    actions.fold = [this] {
+    PageActions own;
+    own.undo = [this] { edits.undo(); };
+    own.redo = [this] { edits.redo(); };
+    own.learn = [this] { learning.setActive (! learning.isActive()); };
+    own.nextBand = [this] { focusBand (1); };
+    own.previousBand = [this] { focusBand (-1); };
+    own.fold = [this] {
         using AssetScheme::Fold;
         canvas.setFold (canvas.getFold() == Fold::open ? Fold::folded : Fold::open);
     };
+    own.openSlot = [this] (int slot) { shownSlot.set (slot); };
+    own.playSlot = [this] (int slot) {
+        shownSlot.set (slot);
+        context.state().slotParam.setInt (slot);
+    };
+    own.leaveLearning = [this] {
+        if (! learning.isActive())
+            return false;
 
-    if (context.processor.wrapperType == juce::AudioProcessor::wrapperType_Standalone)
-        actions.play = [&isPlaying = context.state().playHead->isPlaying] { isPlaying = ! isPlaying; };
+        if (learning.getMap().getLearning())
+            learning.disarm();
+        else
+            learning.setActive (false);
+
+        return true;
+    };
+
+    return own;
 }
 
 Page::~Page()

@@ -51,7 +51,8 @@ public:
     void filesDropped (const juce::StringArray& files, int, int) override { drops.drop (files); }
 
 private:
-    void fillActions();
+    /** Those that need no band; a band may put its own in their place. */
+    PageActions ownActions();
     void followSettings();
     bool escape();
     void focusBand (int direction);
@@ -63,7 +64,7 @@ private:
     Learning learning;
     Events::Broadcaster polls;
     Events::Value<int> shownSlot;
-    PageActions actions;
+    PageActions actions { ownActions() };
     OverlayLayer overlay;
     EditorContext context;
 

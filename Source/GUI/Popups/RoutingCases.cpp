@@ -63,7 +63,7 @@ constexpr RoutingCase cases[] = {
       Offer::internalClock },
     { "I hear nothing",
       "Five things to look at",
-      { keys, { "Vornel", "plays a slot", "Pattern" }, { "Synth", "or an instrument", "Sound" } },
+      { keys, { "Vornel", "plays a slot", "Pattern" }, { "Sound", "synth or track", "Sound" } },
       { "Clock", "MIDI" },
       { "Keys: while you hold a chord, its name stands left of the ruler.",
         "Clock: the host runs, or the clock is Internal and Play is lit.",

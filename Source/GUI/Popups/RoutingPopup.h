@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GUI/Popups/RoutingCases.h"
+#include "GUI/Popups/RoutingPicture.h"
 #include "GUI/Widgets/Button.h"
 #include "GUI/Widgets/Popup.h"
 
@@ -26,37 +26,14 @@ public:
 private:
     class Row;
 
-    /** The way that the notes take. */
-    struct Picture : AssetScheme::Element<>
-    {
-        explicit Picture (RoutingPopup& popup);
-        void schemeChanged() override;
-        void paint (juce::Graphics& g) override;
-
-        RoutingPopup& owner;
-        juce::Font nameFont, detailFont;
-    };
-
-    struct Steps : AssetScheme::Element<>
-    {
-        explicit Steps (RoutingPopup& popup);
-        void schemeChanged() override;
-        void paint (juce::Graphics& g) override;
-        void show (const RoutingCase& shown);
-
-        RoutingPopup& owner;
-        juce::Font numberFont;
-        std::vector<juce::TextLayout> lines;
-    };
-
     const RoutingCase& current() const;
     void acceptOffer();
 
     AssetScheme::Element<> list;
     std::vector<std::unique_ptr<Row>> rows;
     Button closeButton;
-    Picture picture { *this };
-    Steps steps { *this };
+    RoutingPicture picture { context.canvas };
+    RoutingSteps steps { context.canvas };
     std::optional<Button> offer;
     int chosen = 1;
 };

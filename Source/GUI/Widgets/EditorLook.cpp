@@ -14,6 +14,12 @@ juce::Colour colour (std::string_view name)
     return AssetScheme::Base::get().colourOf (name);
 }
 
+/** That of the other fields, but no rounder than a card where the field is tall. */
+float fieldCornerOf (const AssetScheme::Canvas& canvas, juce::Rectangle<float> area)
+{
+    return std::min (canvas.cornerOf ("ControlCorner", area), canvas.pixelsOf ("PopupRadius"));
+}
+
 juce::LookAndFeel_V4::ColourScheme colourScheme()
 {
     return { colour ("Window"),      colour ("Control"),    colour ("Popup"),
@@ -216,7 +222,7 @@ void EditorLook::fillTextEditorBackground (juce::Graphics& g, int width, int hei
 {
     const auto area = juce::Rectangle<int> (width, height).toFloat();
     g.setColour (colour ("Inset"));
-    g.fillRoundedRectangle (area, canvas.cornerOf ("ControlCorner", area));
+    g.fillRoundedRectangle (area, fieldCornerOf (canvas, area));
 }
 
 void EditorLook::drawTextEditorOutline (juce::Graphics& g, int width, int height, juce::TextEditor& field)
@@ -228,7 +234,7 @@ void EditorLook::drawTextEditorOutline (juce::Graphics& g, int width, int height
     const auto area = juce::Rectangle<int> (width, height).toFloat();
 
     g.setColour (colour (isRefused ? "Danger" : isFocused ? "Focus" : "ControlEdge"));
-    g.drawRoundedRectangle (area.reduced (stroke / 2.0f), canvas.cornerOf ("ControlCorner", area), stroke);
+    g.drawRoundedRectangle (area.reduced (stroke / 2.0f), fieldCornerOf (canvas, area), stroke);
 }
 
 //======================================================================================================================

@@ -172,24 +172,24 @@ TEST (Menus, HaveTheLinesOfTheirItems)
 TEST (Tooltips, ComeWhenThePointerRestsAndGoWithIt)
 {
     Tests::OpenEditor editor;
-    auto& overlay = overlayOf (editor);
+    auto& tooltips = overlayOf (editor).getTooltips();
     auto& settings = editor.page.getContext().settings;
     auto& help = editor.find ("Help");
 
-    overlay.look (&help, {}, 100);
-    EXPECT_EQ (overlay.getTooltip(), "");
-    overlay.look (&help, {}, 1000);
-    EXPECT_EQ (overlay.getTooltip(), "Help");
-    overlay.look (&help, {}, 0); // moves on it
-    EXPECT_EQ (overlay.getTooltip(), "Help");
-    overlay.look (nullptr, {}, 1000);
-    EXPECT_EQ (overlay.getTooltip(), "");
+    tooltips.look (&help, {}, 100);
+    EXPECT_EQ (tooltips.getShown(), "");
+    tooltips.look (&help, {}, 1000);
+    EXPECT_EQ (tooltips.getShown(), "Help");
+    tooltips.look (&help, {}, 0); // moves on it
+    EXPECT_EQ (tooltips.getShown(), "Help");
+    tooltips.look (nullptr, {}, 1000);
+    EXPECT_EQ (tooltips.getShown(), "");
 
     auto values = settings.get();
     values.tooltips = false;
     settings.set (values);
-    overlay.look (&help, {}, 1000);
-    EXPECT_EQ (overlay.getTooltip(), "");
+    tooltips.look (&help, {}, 1000);
+    EXPECT_EQ (tooltips.getShown(), "");
 }
 
 TEST (Messages, DoWhatTheyOfferOnceAndGo)

@@ -1,0 +1,89 @@
+#include "GUI/Editor/Tooltips.h"
+
+#include "GUI/Framework/AssetScheme/Base.h"
+
+#include <utility>
+
+namespace Zn::GUI
+{
+namespace
+{
+TooltipCard& addedTo (juce::Component& parent, TooltipCard& card)
+{
+    parent.addChildComponent (card);
+    return card;
+}
+
+int delayOf (const juce::Component& owner) // milliseconds
+{
+    if (const auto own = dynamic_cast<const TooltipSource&> (owner).getTooltipDelay(); own > 0)
+        return own;
+
+    return juce::roundToInt (1000.0f * AssetScheme::Base::get().constantOf ("TooltipDelaySeconds"));
+}
+} // namespace
+
+Tooltips::Tooltips (juce::Component& layerToUse,
+                    const AssetScheme::Canvas& canvas,
+                    const UserSettings& settingsToUse,
+                    Events::Broadcaster& polls)
+    : layer (layerToUse)
+    , settings (settingsToUse)
+    , card (canvas)
+    , shadow (addedTo (layer, card), canvas)
+    , pollListener (polls, [this] { poll(); })
+{}
+
+void Tooltips::poll()
+{
+    const auto mouse = juce::Desktop::getInstance().getMainMouseSource();
+    auto* const under = mouse.getComponentUnderMouse();
+    const auto pointer = layer.getLocalPoint (nullptr, mouse.getScreenPosition()).roundToInt();
+    const auto now = juce::Time::getMillisecondCounter();
+    const auto* const page = layer.getParentComponent();
+
+    if (mouse.isDragging())
+        pressed = under; // what has been clicked needs no explanation
+    else if (under != pressed)
+        pressed = nullptr;
+
+    if (std::exchange (lastPointer, pointer) != pointer)
+        restsSince = now;
+
+    const auto isAsked =
+        under != nullptr && pressed == nullptr && page != nullptr && page->isParentOf (under);
+    look (isAsked ? under : nullptr, pointer, int (now - restsSince));
+}
+
+void Tooltips::look (juce::Component* underPointer, juce::Point<int> pointer, int restedMilliseconds)
+{
+    auto* owner = settings.get().tooltips ? underPointer : nullptr;
+
+    while (owner != nullptr && dynamic_cast<const TooltipSource*> (owner) == nullptr)
+        owner = owner->getParentComponent();
+
+    const auto isShown = card.isVisible() && owner == explained;
+
+    if (owner == nullptr || (! isShown && restedMilliseconds < delayOf (*owner)))
+        return hide();
+
+    const auto newText = dynamic_cast<const TooltipSource&> (*owner).getTooltipText();
+
+    if (newText.title.isEmpty() && newText.help.isEmpty())
+        return hide();
+
+    if (isShown && newText == text)
+        return;
+
+    const auto staysThere = isShown && newText.title == text.title;
+    explained = owner;
+    text = newText;
+    card.setText (text);
+
+    if (! staysThere)
+        card.place (layer.getLocalArea (owner, owner->getLocalBounds()), pointer, layer.getLocalBounds());
+
+    card.setVisible (true);
+    card.toFront (false);
+}
+} // namespace Zn::GUI
