@@ -12,9 +12,18 @@ namespace Zn::Sequencer
 */
 struct PlayHead
 {
+    enum class Control
+    {
+        nobody, // it always runs
+        editor,
+        host
+    };
+
     std::atomic<bool> isPlaying { false };     // written: audio; GUI while the internal clock is in force
     std::atomic<float> bpm { 100.0f };         // written: audio from the host; GUI otherwise
     std::atomic<bool> internalClock { false }; // true: ignore the host's clock; written: GUI
+    std::atomic<Control> control { Control::nobody }; // who starts and stops it now; written: audio
+    std::atomic<bool> hasHostTempo { false };         // bpm comes from the host; written: audio
     std::atomic<double> positionPpq { 0.0 };   // quarter notes at the end of the last block
     std::atomic<std::int64_t> positionSamples { 0 }; // samples at the end of the last block
 };

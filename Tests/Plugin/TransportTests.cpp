@@ -353,20 +353,23 @@ TEST (ClockSelection, FollowsTheHostOnlyWhileItPlaysOrKeysWaitForIt)
         bool hasPosition, hostPlays, keyMode, internalClock;
         ClockSource expected;
         bool plays;
+        Sequencer::PlayHead::Control control;
     };
 
-    for (const auto& row : { Row { false, false, false, false, ClockSource::internal, true },
-                             Row { false, false, true, false, ClockSource::internal, true },
-                             Row { true, false, false, false, ClockSource::internal, true },
-                             Row { true, false, true, false, ClockSource::host, false },
-                             Row { true, true, false, false, ClockSource::host, true },
-                             Row { true, true, true, false, ClockSource::host, true },
-                             Row { true, true, false, true, ClockSource::internal, false },
-                             Row { true, false, true, true, ClockSource::internal, false } })
+    using enum Sequencer::PlayHead::Control;
+
+    for (const auto& row : { Row { false, false, false, false, ClockSource::internal, true, nobody },
+                             Row { false, false, true, false, ClockSource::internal, true, nobody },
+                             Row { true, false, false, false, ClockSource::internal, true, nobody },
+                             Row { true, false, true, false, ClockSource::host, false, host },
+                             Row { true, true, false, false, ClockSource::host, true, host },
+                             Row { true, true, true, false, ClockSource::host, true, host },
+                             Row { true, true, false, true, ClockSource::internal, false, editor },
+                             Row { true, false, true, true, ClockSource::internal, false, editor } })
     {
-        TestPlayHead host;
-        host.answers = row.hasPosition;
-        host.isPlaying = row.hostPlays;
+        TestPlayHead hostsPlayHead;
+        hostsPlayHead.answers = row.hasPosition;
+        hostsPlayHead.isPlaying = row.hostPlays;
 
         Clock clock;
         clock.keyMode = row.keyMode;
@@ -374,9 +377,11 @@ TEST (ClockSelection, FollowsTheHostOnlyWhileItPlaysOrKeysWaitForIt)
 
         const auto name = ::testing::PrintToString (
             std::vector<bool> { row.hasPosition, row.hostPlays, row.keyMode, row.internalClock });
-        EXPECT_EQ (clock.run (host), row.expected) << name;
+        EXPECT_EQ (clock.run (hostsPlayHead), row.expected) << name;
         EXPECT_EQ (clock.internal.isPlaying(), row.plays) << name;
         EXPECT_EQ (clock.shared.isPlaying, row.plays) << name;
+        EXPECT_EQ (clock.shared.control, row.control) << name;
+        EXPECT_EQ (clock.shared.hasHostTempo, row.hasPosition) << name;
     }
 }
 

@@ -1,7 +1,13 @@
 #pragma once
 
-#include "GUI/Framework/AssetScheme/Element.h"
-#include "GUI/Widgets/EditorContext.h"
+#include "GUI/Arp/BpmField.h"
+#include "GUI/Arp/PlayButton.h"
+#include "GUI/Arp/SlotBank.h"
+#include "GUI/Widgets/Choice.h"
+#include "GUI/Widgets/Divider.h"
+#include "GUI/Widgets/Label.h"
+#include "GUI/Widgets/Segments.h"
+#include "GUI/Widgets/Toggle.h"
 
 namespace Zn::GUI
 {
@@ -11,7 +17,24 @@ class ArpHeader : public AssetScheme::Element<>
 public:
     explicit ArpHeader (EditorContext& contextToUse);
 
+    void paint (juce::Graphics& g) override;
+    void paintOverChildren (juce::Graphics& g) override { slots.paintEdges (g); }
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+
 private:
     EditorContext& context;
+
+    Toggle active;
+    SlotBank slots { context };
+
+    Label quantizeLabel, retriggerLabel;
+    Choice quantize;
+    Toggle retrigger;
+
+    Divider divider { context, "TransportDivider" };
+    PlayButton play { context };
+    Label bpmLabel, clockLabel;
+    BpmField bpm { context };
+    Segments clock;
 };
 } // namespace Zn::GUI

@@ -1,8 +1,105 @@
 #include "GUI/Arp/ArpParams.h"
 
+#include "GUI/Arp/NamedSwitch.h"
+#include "GUI/Framework/AssetScheme/Base.h"
+#include "Parameters/CreateForwarder.h"
+
 namespace Zn::GUI
 {
+namespace
+{
+std::shared_ptr<Parameters::Parameter> forwarderTo (Audio::ParamHolderBase& holder)
+{
+    return Parameters::createForwarder (holder);
+}
+
+/** A parameter that the state owns. */
+std::shared_ptr<Parameters::Parameter> unowned (Parameters::Parameter& parameter)
+{
+    return { std::shared_ptr<void>(), &parameter };
+}
+} // namespace
+
 ArpParams::ArpParams (EditorContext& contextToUse)
-    : Element (contextToUse.canvas, "ArpParamModule"), context (contextToUse)
-{}
+    : Element (contextToUse.canvas, "ArpParamModule")
+    , context (contextToUse)
+    , keyMode (context,
+               "KeyMode",
+               std::make_shared<NamedSwitch> (
+                   context.state().keyMode,
+                   "Key mode",
+                   NamedSwitch::Texts { "Transpose", "Key" },
+                   [&state = context.state()] { state.projectChanged.callListeners(); }))
+    , transpose (context, "Transpose", forwarderTo (context.state().params.transpose))
+    , key (context, "Key", forwarderTo (context.state().params.key))
+    , octaveLabel (context, "OctaveLabel", controlText ("Octave").label)
+    , octave (context, "Octave", forwarderTo (context.state().params.octave))
+    , swingLabel (context, "SwingLabel", controlText ("Swing").label)
+    , swingValue (context, "SwingValue", {}, { .colour = "Text" })
+    , swing (context, "Swing", forwarderTo (context.state().params.swing), { .fromMiddle = true })
+    , swingRef (context, "SwingRef", forwarderTo (context.state().params.swingRef))
+    , rangeLabel (context, "OctaveRangeLabel", controlText ("OctaveRange").label)
+    , rangeValue (context, "OctaveRangeValue", {}, { .colour = "Text" })
+    , range (context,
+             "OctaveRange",
+             unowned (context.state().lowestOctave),
+             unowned (context.state().highestOctave))
+{
+    setTitle ("Pitch, swing and range");
+
+    for (auto* child : std::initializer_list<juce::Component*> { &keyMode,
+                                                                 &transpose,
+                                                                 &key,
+                                                                 &afterKey,
+                                                                 &octaveLabel,
+                                                                 &octave,
+                                                                 &afterOctave,
+                                                                 &swingLabel,
+                                                                 &swing,
+                                                                 &swingValue,
+                                                                 &swingRef,
+                                                                 &afterSwing,
+                                                                 &rangeLabel,
+                                                                 &range,
+                                                                 &rangeValue })
+        addAndMakeVisible (child);
+
+    poll();
+}
+
+void ArpParams::paint (juce::Graphics& g)
+{
+    g.fillAll (AssetScheme::Base::get().colourOf ("Band"));
+}
+
+std::unique_ptr<juce::AccessibilityHandler> ArpParams::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
+}
+
+void ArpParams::poll()
+{
+    const auto followsKey = context.state().keyMode.load();
+    transpose.setVisible (! followsKey);
+    key.setVisible (followsKey);
+    swingValue.setText (swing.getShownText());
+    rangeValue.setText (rangeText());
+}
+
+/** From the lowest pitch to the highest, or that all are allowed. */
+juce::String ArpParams::rangeText() const
+{
+    using Audio::Plugins::Vornel::OctaveRange;
+    const auto limits = context.state().octaveRange.limits();
+
+    if (limits.low <= 0 && limits.high >= OctaveRange::highest * 12)
+        return "All";
+
+    const auto nameOf = [this] (int pitch) {
+        return juce::MidiMessage::getMidiNoteName (pitch, false, true, context.settings.get().middleC);
+    };
+
+    return nameOf (limits.low) + juce::String (juce::CharPointer_UTF8 (" \xe2\x80\x93 "))
+           + nameOf (limits.high - 1);
+}
 } // namespace Zn::GUI

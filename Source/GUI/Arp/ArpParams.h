@@ -1,17 +1,48 @@
 #pragma once
 
-#include "GUI/Framework/AssetScheme/Element.h"
-#include "GUI/Widgets/EditorContext.h"
+#include "GUI/Widgets/Choice.h"
+#include "GUI/Widgets/Divider.h"
+#include "GUI/Widgets/Label.h"
+#include "GUI/Widgets/NumberField.h"
+#include "GUI/Widgets/RangeSlider.h"
+#include "GUI/Widgets/Segments.h"
+#include "GUI/Widgets/Slider.h"
+#include "GUI/Widgets/Stepper.h"
 
 namespace Zn::GUI
 {
-/** Pitch, swing and range of what the pattern plays. Thread: message. */
+/** What shapes every pattern: pitch, swing and the range of octaves. Thread: message. */
 class ArpParams : public AssetScheme::Element<>
 {
 public:
     explicit ArpParams (EditorContext& contextToUse);
 
+    void paint (juce::Graphics& g) override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+
 private:
+    void poll();
+    juce::String rangeText() const;
+
     EditorContext& context;
+
+    Segments keyMode;
+    NumberField transpose; // in one place with the key
+    Choice key;
+    Divider afterKey { context, "ArpParamDivider1" };
+
+    Label octaveLabel;
+    Stepper octave;
+    Divider afterOctave { context, "ArpParamDivider2" };
+
+    Label swingLabel, swingValue;
+    Slider swing;
+    Segments swingRef;
+    Divider afterSwing { context, "ArpParamDivider3" };
+
+    Label rangeLabel, rangeValue;
+    RangeSlider range;
+
+    Events::Listener polls { context.polls, [this] { poll(); } };
 };
 } // namespace Zn::GUI

@@ -1,17 +1,46 @@
 #pragma once
 
-#include "GUI/Framework/AssetScheme/Element.h"
-#include "GUI/Widgets/EditorContext.h"
+#include "GUI/Arp/DragMidi.h"
+#include "GUI/Pattern/PatternParams.h"
+#include "GUI/Pattern/SlotEdits.h"
+#include "GUI/Widgets/Divider.h"
+#include "GUI/Widgets/Label.h"
+#include "GUI/Widgets/NumberField.h"
+#include "GUI/Widgets/Segments.h"
+#include "GUI/Widgets/Toggle.h"
 
 namespace Zn::GUI
 {
-/** The tools of the roll, its grid and its time. Thread: message. */
+/** The tools, and the grid and time of the pattern that is open. Thread: message. */
 class BrushBand : public AssetScheme::Element<>
 {
 public:
     explicit BrushBand (EditorContext& contextToUse);
 
+    void paint (juce::Graphics& g) override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+
 private:
+    void poll();
+
     EditorContext& context;
+    PatternParams params { context };
+    SlotEdits slotEdits { context };
+
+    Segments tools;
+    Button clear;
+    Divider afterTools { context, "BrushDivider1" };
+
+    Toggle snap;
+    Label gridLabel, noteLengthLabel;
+    NumberField grid, noteLength;
+    Divider afterGrid { context, "BrushDivider2" };
+
+    Label timeLabel, timeSlash, patternLength;
+    NumberField timeNum, timeDenum;
+    Toggle multiply;
+    DragMidi dragMidi { context };
+
+    Events::Listener polls { context.polls, [this] { poll(); } };
 };
 } // namespace Zn::GUI

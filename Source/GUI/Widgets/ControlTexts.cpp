@@ -59,7 +59,7 @@ constexpr Row rows[] = {
     { "ClearAll", "Clear pattern", "Erase every note of this pattern.", "", "Clear" },
     { "Snap", "Snap", "Keep notes on the grid. Alt: the opposite.", "G", "Snap" },
     { "Grid", "Grid", "Columns in the pattern.", "", "Grid" },
-    { "NoteLength", "Note length", "Length of new notes, as part of a column.", "", "Length", "", percent },
+    { "NoteLength", "Note length", "Length of new notes, as part of a column.", "", "Length", "", wholePercent },
     { "TimeNum", "Time numerator", "Length of the pattern, or of one column with \xc3\x97.", "", "Time" },
     { "TimeDenum", "Time denominator", "Length of the pattern, or of one column with \xc3\x97." },
     { "Multiply", "Multiply time", "Time is one column's length instead of the pattern's." },

@@ -304,7 +304,13 @@ void ValueControl::typeFrom (const juce::KeyPress& key)
 
 void ValueControl::changeJoining (const std::function<void (Parameters::Parameter&)>& change)
 {
-    context.edits.join (parameter.get(), getText().title, [&] { return changeAtOnce (*parameter, change); });
+    if (isUndoable)
+        context.edits.join (parameter.get(), getText().title, [&] {
+            return changeAtOnce (*parameter, change);
+        });
+    else
+        changeAtOnce (*parameter, change);
+
     poll();
 }
 

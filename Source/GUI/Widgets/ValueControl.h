@@ -25,6 +25,9 @@ public:
     /** Shows another value of the same kind from now on, for instance that of another slot. */
     void setParameter (std::shared_ptr<Parameters::Parameter> newParameter);
 
+    /** What it chooses is how one works, and not what plays: its changes are no steps of undo. */
+    void setUndoable (bool shouldBeUndoable) noexcept { isUndoable = shouldBeUndoable; }
+
     juce::String getShownText (ValueDetail detail = ValueDetail::shown) const;
     juce::String getDefaultText() const;
 
@@ -113,6 +116,7 @@ private:
     std::shared_ptr<Parameters::Parameter> parameter;
     const ValueText valueText;
     std::optional<Drag> drag;
+    bool isUndoable = true;
     float wheelRemainder = 0.0f; // of a step
 
     juce::String drawnText;

@@ -5,6 +5,7 @@ namespace Zn::Audio
 namespace
 {
 using PositionInfo = juce::AudioPlayHead::PositionInfo;
+using Control = Sequencer::PlayHead::Control;
 
 ClockSource
 chooseClock (const juce::Optional<PositionInfo>& position, Sequencer::PlayHead& shared, bool keyMode) noexcept
@@ -12,10 +13,24 @@ chooseClock (const juce::Optional<PositionInfo>& position, Sequencer::PlayHead& 
     if (! position.hasValue() || ! (keyMode || position->getIsPlaying()))
     {
         shared.isPlaying = true;
+        shared.control = Control::nobody;
         return ClockSource::internal;
     }
 
-    return shared.internalClock ? ClockSource::internal : ClockSource::host;
+    const auto isInternal = shared.internalClock.load();
+    shared.control = isInternal ? Control::editor : Control::host;
+    return isInternal ? ClockSource::internal : ClockSource::host;
+}
+
+/** Tells the editor whether there is one. */
+void takeTempo (const juce::Optional<PositionInfo>& position, Sequencer::PlayHead& shared) noexcept
+{
+    const auto tempo = position.hasValue() ? position->getBpm() : juce::Optional<double>();
+    const auto isUsable = tempo.hasValue() && InternalPlayHead::isUsableTempo (*tempo);
+    shared.hasHostTempo = isUsable;
+
+    if (isUsable)
+        shared.bpm = static_cast<float> (*tempo);
 }
 
 void runInternalClock (InternalPlayHead& clock, const Sequencer::PlayHead& shared, int numSamples) noexcept
@@ -48,11 +63,7 @@ ClockSource updateClock (InternalPlayHead& clock,
 {
     const auto position = host != nullptr ? host->getPosition() : juce::nullopt;
 
-    if (position.hasValue())
-        if (const auto tempo = position->getBpm();
-            tempo.hasValue() && InternalPlayHead::isUsableTempo (*tempo))
-            shared.bpm = static_cast<float> (*tempo);
-
+    takeTempo (position, shared);
     const auto source = chooseClock (position, shared, keyMode);
 
     // What a host without a tempo plays at, as our own clock does.
