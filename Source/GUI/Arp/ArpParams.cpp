@@ -83,23 +83,6 @@ void ArpParams::poll()
     transpose.setVisible (! followsKey);
     key.setVisible (followsKey);
     swingValue.setText (swing.getShownText());
-    rangeValue.setText (rangeText());
-}
-
-/** From the lowest pitch to the highest, or that all are allowed. */
-juce::String ArpParams::rangeText() const
-{
-    using Audio::Plugins::Vornel::OctaveRange;
-    const auto limits = context.state().octaveRange.limits();
-
-    if (limits.low <= 0 && limits.high >= OctaveRange::highest * 12)
-        return "All";
-
-    const auto nameOf = [this] (int pitch) {
-        return juce::MidiMessage::getMidiNoteName (pitch, false, true, context.settings.get().middleC);
-    };
-
-    return nameOf (limits.low) + juce::String (juce::CharPointer_UTF8 (" \xe2\x80\x93 "))
-           + nameOf (limits.high - 1);
+    rangeValue.setText (range.getShownText());
 }
 } // namespace Zn::GUI

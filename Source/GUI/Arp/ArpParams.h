@@ -22,7 +22,6 @@ public:
 
 private:
     void poll();
-    juce::String rangeText() const;
 
     EditorContext& context;
 

@@ -1,5 +1,7 @@
 #include "GUI/Arp/BpmField.h"
 
+#include "GUI/Widgets/ControlMenu.h"
+
 namespace Zn::GUI
 {
 namespace
@@ -85,23 +87,12 @@ void BpmField::poll()
 void BpmField::showTempoMenu()
 {
     const juce::Component::SafePointer<BpmField> self (this);
-    const auto add = [self] (juce::PopupMenu& menu, const juce::String& text, void (BpmField::*action)()) {
-        menu.addItem (text, [self, action] {
-            if (self != nullptr)
-                (self.getComponent()->*action)();
-        });
-    };
+    auto menu = controlMenu (context, *this);
 
-    juce::PopupMenu menu;
-    add (menu, "Tap tempo", &BpmField::startTapping);
     menu.addSeparator();
-    menu.addItem ("Type a value" + juce::String::charToString (0x2026), [self] {
+    menu.addItem ("Tap tempo", [self] {
         if (self != nullptr)
-            self->typeValue();
-    });
-    menu.addItem ("Reset", [self] {
-        if (self != nullptr)
-            self->resetToDefault();
+            self->startTapping();
     });
     context.overlay.showMenu (menu, this);
 }

@@ -1,7 +1,7 @@
 #include "GUI/Arp/SlotBank.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
-#include "GUI/Widgets/ControlMenu.h"
+#include "GUI/Widgets/ValueKeys.h"
 
 #include <algorithm>
 #include <cmath>
@@ -123,7 +123,7 @@ bool SlotBank::tileKeyPressed (SlotTile& tile, const juce::KeyPress& key)
     const auto code = key.getKeyCode();
     const auto digit = code - '1';
 
-    if (isMenuKey (key))
+    if (ValueKey::of (key).wish == ValueKey::Wish::menu)
         return showMenu (tile), true;
 
     if (key.getModifiers().isCtrlDown() || key.getModifiers().isShiftDown())

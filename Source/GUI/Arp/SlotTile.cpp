@@ -111,6 +111,14 @@ void SlotTile::schemeChanged()
                                                       static_cast<int> (lengths.size()));
 }
 
+void SlotTile::mouseDown (const juce::MouseEvent& event)
+{
+    ring.mousePressed();
+
+    if (! takeLearnPress (event))
+        owner.tilePressed (*this, event);
+}
+
 bool SlotTile::keyPressed (const juce::KeyPress& key)
 {
     ring.keyPressed();

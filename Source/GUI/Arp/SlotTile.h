@@ -55,7 +55,11 @@ public:
     void paintEdge (juce::Graphics& g) const;
     juce::Rectangle<int> edgeBounds() const;
 
-    void mouseDown (const juce::MouseEvent& event) override { owner.tilePressed (*this, event); }
+    std::optional<Learning::Target> getLearnTarget() const override
+    {
+        return Learning::Target::forSlot (index);
+    }
+    void mouseDown (const juce::MouseEvent& event) override;
     void mouseDrag (const juce::MouseEvent& event) override { owner.tileDragged (*this, event); }
     void mouseUp (const juce::MouseEvent& event) override { owner.tileReleased (*this, event); }
     bool keyPressed (const juce::KeyPress& key) override;

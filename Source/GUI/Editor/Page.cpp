@@ -35,6 +35,7 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
         addAndMakeVisible (band);
 
     addAndMakeVisible (resizer);
+    addChildComponent (learnMode);
     addAndMakeVisible (overlay);
     addChildComponent (drops.getTarget());
 

@@ -8,6 +8,7 @@
 #include "GUI/Editor/Resizer.h"
 #include "GUI/Framework/AssetScheme/UserColours.h"
 #include "GUI/Header/HeaderBand.h"
+#include "GUI/Learn/LearnMode.h"
 #include "GUI/Pattern/PatternArea.h"
 #include "GUI/Player/MidiDrop.h"
 #include "GUI/Player/PlayerBand.h"
@@ -82,6 +83,7 @@ private:
 
     Resizer resizer { context };
     FileDrops drops { context, { midiDrop (player.getActions()) } };
+    LearnMode learnMode { context, *this };
 
     std::optional<AssetScheme::UserColours> userColours;
     Events::Listener settingsListener { settings, [this] { followSettings(); } };

@@ -88,6 +88,8 @@ void Control::paintLearning (juce::Graphics& g) const
                             ? edge.getWidth() / 2.0f
                             : context.canvas.cornerOf ("ControlCorner", edge);
 
+    g.setColour (schemeColour ("LearnDim"));
+    g.fillRect (getLocalBounds()); // as all around it
     g.setColour (schemeColour (isArmed ? "Midi" : isFilled ? "MidiDeep" : "MidiWash"));
     g.fillRoundedRectangle (edge, corner);
     g.setColour (schemeColour ("Midi"));

@@ -55,7 +55,7 @@ juce::String Learning::textOf (const Target& target) const
     if (found == bindings.end())
         return {};
 
-    return target.isSlot() ? juce::MidiMessage::getMidiNoteName (found->number, true, true, 3)
+    return target.isSlot() ? juce::MidiMessage::getMidiNoteName (found->number, false, true, middleC)
                            : juce::String ("Pedal");
 }
 } // namespace Zn::GUI

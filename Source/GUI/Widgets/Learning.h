@@ -31,14 +31,18 @@ public:
 
     void forget (const Target& target);
 
-    /** As "C3" or "Pedal"; empty while nothing is learned for a target. */
+    /** As "Db3" or "Pedal"; empty while nothing is learned for a target. */
     juce::String textOf (const Target& target) const;
+
+    /** The octave that note 60 stands in, for the names of keys. */
+    void setMiddleC (int octave) noexcept { middleC = octave; }
 
     LearnMap& getMap() noexcept { return map; }
 
 private:
     LearnMap& map;
     bool active = false;
+    int middleC = 3;
     Events::Listener listener;
 };
 } // namespace Zn::GUI

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "GUI/Framework/SVGPainter.h"
+#include "GUI/Widgets/Button.h"
+
+namespace Zn::GUI
+{
+/** Takes the header's place while keys are learned: says how, and ends it. Thread: message. */
+class LearnBar : public AssetScheme::Element<>
+{
+public:
+    explicit LearnBar (EditorContext& contextToUse);
+
+    void paint (juce::Graphics& g) override;
+    void schemeChanged() override;
+
+private:
+    EditorContext& context;
+    SVGPainter icon { "learn.svg" };
+    Button done;
+    juce::Font titleFont, textFont;
+    juce::Rectangle<float> iconArea, titleArea, textArea;
+};
+} // namespace Zn::GUI
