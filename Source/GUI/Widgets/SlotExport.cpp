@@ -1,12 +1,9 @@
 #include "GUI/Widgets/SlotExport.h"
 
+#include "Plugin/Vornel/ExportSlot.h"
+
 namespace Zn::GUI
 {
-juce::MidiFile exportSlot (Audio::Plugins::Vornel::State&, int)
-{
-    return {};
-}
-
 void SlotExport::drag (int slot, juce::Component& source)
 {
     const auto file =
@@ -20,6 +17,9 @@ void SlotExport::drag (int slot, juce::Component& source)
 
 void SlotExport::saveAs (int slot)
 {
+    if (context.state().patterns.getSlots()[static_cast<std::size_t> (slot)].pattern.steps.empty())
+        return context.overlay.showMessage ("This pattern is empty");
+
     const auto folder = juce::File::getSpecialLocation (juce::File::userDocumentsDirectory);
     chooser =
         std::make_unique<juce::FileChooser> ("Save as MIDI", folder.getChildFile (fileName (slot)), "*.mid");
@@ -45,7 +45,7 @@ juce::String SlotExport::fileName (int slot) const
 
 bool SlotExport::write (int slot, const juce::File& file) const
 {
-    const auto midi = exportSlot (context.state(), slot);
+    const auto midi = Audio::Plugins::Vornel::exportSlot (context.state(), slot);
 
     if (midi.getNumTracks() == 0)
         return false;

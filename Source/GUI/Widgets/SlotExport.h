@@ -2,15 +2,10 @@
 
 #include "GUI/Widgets/EditorContext.h"
 
-#include <juce_audio_basics/juce_audio_basics.h>
-
 #include <memory>
 
 namespace Zn::GUI
 {
-/** One pass of a slot's pattern as it would sound; without tracks when there is nothing to play. Thread: message. */
-juce::MidiFile exportSlot (Audio::Plugins::Vornel::State& state, int slot);
-
 /** Takes patterns out of the editor as MIDI files, by a drag into the host or a dialogue. Thread: message. */
 class SlotExport
 {
