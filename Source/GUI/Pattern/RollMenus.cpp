@@ -164,8 +164,10 @@ void RollMenus::addEmptyLines (Menu& menu, RollPoint at)
         [this] { SlotEdits (context).eraseNotes (context.shownSlot.get()); },
         hasNotes);
 
-    if (saveAsMidi != nullptr)
-        menu.add (juce::String::fromUTF8 ("Save as MIDI…"), saveAsMidi);
+    menu.add (
+        juce::String::fromUTF8 ("Save as MIDI…"),
+        [this] { slotExport.saveAs (context.shownSlot.get()); },
+        hasNotes);
 }
 
 void RollMenus::showForRuler (juce::Component& ruler)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GUI/Pattern/PatternEditor.h"
+#include "GUI/Widgets/SlotExport.h"
 
 namespace Zn::GUI
 {
@@ -10,8 +11,8 @@ namespace Zn::GUI
 class RollMenus
 {
 public:
-    RollMenus (EditorContext& contextToUse, PatternEditor& editorToUse) noexcept
-        : context (contextToUse), editor (editorToUse)
+    RollMenus (EditorContext& contextToUse, PatternEditor& editorToUse)
+        : context (contextToUse), editor (editorToUse), slotExport (contextToUse)
     {}
 
     /** Of the note under the pointer, which becomes the selection if it is not part of it, or of an empty place. */
@@ -19,9 +20,6 @@ public:
 
     void showForRuler (juce::Component& ruler);
     void showForRow (int row);
-
-    /** Saves the slot that is shown; without it there is no line for that. */
-    CallbackFunc saveAsMidi;
 
 private:
     class Menu;
@@ -32,6 +30,7 @@ private:
 
     EditorContext& context;
     PatternEditor& editor;
+    SlotExport slotExport;
     const std::shared_ptr<int> token = std::make_shared<int>(); // gone with us
 };
 } // namespace Zn::GUI
