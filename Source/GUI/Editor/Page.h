@@ -12,6 +12,7 @@
 #include "GUI/Pattern/PatternArea.h"
 #include "GUI/Player/MidiDrop.h"
 #include "GUI/Player/PlayerBand.h"
+#include "GUI/Presets/PresetDrop.h"
 #include "GUI/Sound/SoundBand.h"
 #include "GUI/Widgets/EditorLook.h"
 
@@ -82,7 +83,8 @@ private:
     };
 
     Resizer resizer { context };
-    FileDrops drops { context, { midiDrop (player.getActions()) } };
+    PresetDrop presetFiles { context };
+    FileDrops drops { context, { midiDrop (player.getActions()), presetDrop (presetFiles) } };
     LearnMode learnMode { context, *this };
 
     std::optional<AssetScheme::UserColours> userColours;

@@ -34,4 +34,12 @@ bool PresetDrop::drop (const juce::StringArray& files)
 
     return false;
 }
+
+FileDrops::Kind presetDrop (PresetDrop& drop)
+{
+    return { .invitation = "Load this preset",
+             .accent = "Pattern",
+             .accepts = [&drop] (const juce::StringArray& files) { return drop.accepts (files); },
+             .drop = [&drop] (const juce::StringArray& files) { drop.drop (files); } };
+}
 } // namespace Zn::GUI

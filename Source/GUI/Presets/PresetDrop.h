@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GUI/Editor/FileDrops.h"
 #include "GUI/Presets/PresetActions.h"
 
 namespace Zn::GUI
@@ -19,4 +20,7 @@ public:
 private:
     PresetActions patterns, sounds;
 };
+
+/** For the window; the drop outlives it. */
+FileDrops::Kind presetDrop (PresetDrop& drop);
 } // namespace Zn::GUI
