@@ -204,7 +204,8 @@ TooltipText LearnMode::getTooltipText() const
     return { .title = titleOf (found->target),
              .value = context.learning.textOf (found->target),
              .help = found->target.isSlot() ? "Click, then play the key that switches to it."
-                                            : "Click, then press the pedal that moves it." };
+                                            : "Click, then press the pedal that moves it.",
+             .shortcut = {} };
 }
 
 std::unique_ptr<juce::AccessibilityHandler> LearnMode::createAccessibilityHandler()
