@@ -148,15 +148,16 @@ void EditorLook::drawPopupMenuItem (juce::Graphics& g,
     if (hasSubMenu)
         more.paint (g, square (line.removeFromRight (side)), ink);
 
-    if (isTicked || icon != nullptr)
-    {
-        const auto place = square (line.removeFromLeft (side));
-        line.removeFromLeft (menuItemInset() / 2.0f);
+    if (isTicked)
+        tick.paint (g, square (line.removeFromRight (side)), colour ("Pattern"));
 
-        if (icon != nullptr)
-            icon->drawWithin (g, place, juce::RectanglePlacement::centred, isActive ? 1.0f : 0.5f);
-        else
-            tick.paint (g, place, colour ("Pattern"));
+    if (icon != nullptr)
+    {
+        icon->drawWithin (g,
+                          square (line.removeFromLeft (side)),
+                          juce::RectanglePlacement::centred,
+                          isActive ? 1.0f : 0.5f);
+        line.removeFromLeft (menuItemInset() / 2.0f);
     }
 
     if (shortcut.isNotEmpty())
@@ -213,8 +214,11 @@ void EditorLook::preparePopupMenuWindow (juce::Component& window)
 {
     std::erase_if (menuShadows, [] (const auto& shadow) { return ! shadow->isNeeded(); });
 
-    if (window.getParentComponent() != nullptr)
-        menuShadows.push_back (std::make_unique<CardShadow> (window, canvas));
+    if (window.getParentComponent() == nullptr)
+        return;
+
+    window.setOpaque (false); // round corners, also where windows could have none
+    menuShadows.push_back (std::make_unique<CardShadow> (window, canvas));
 }
 
 //======================================================================================================================

@@ -58,8 +58,8 @@ TEST (SettingsPopup, ChangesWhatTheUserWantsAndNothingOfTheProject)
     EXPECT_TRUE (context.settings.get() == wanted);
     EXPECT_FALSE (context.edits.getUndo().canUndo());
 
-    Tests::Hand::press (editor.find ("SettingsWindowSize"), "cursor up");
-    EXPECT_EQ (editor.page.getWidth(), 1375); // 125 %
+    editor.find<Choice> ("SettingsWindowSize").getParameter()->setFromText ("125 %");
+    EXPECT_EQ (editor.page.getWidth(), 1375);
     context.settings.set (before);
 }
 
