@@ -277,11 +277,12 @@ void SlotBank::showStates()
 bool SlotBank::takeFlash (int slot, bool isHeard)
 {
     const auto index = static_cast<std::size_t> (slot);
-    auto& pattern = context.state().patterns.getSlots()[index].pattern;
-    const auto fired = pattern.getEmitter().getPosition()->fired.exchange (false);
+    const auto& pattern = context.state().patterns.getSlots()[index].pattern;
+    const auto position = pattern.getEmitter().getPosition()->position.load();
+    const auto lastPosition = std::exchange (lastPositions[index], position);
     const auto now = juce::Time::getMillisecondCounter();
 
-    if (fired)
+    if (position >= 0.0 && position < lastPosition)
         flashEnds[index] = now + flashMilliseconds;
 
     return isHeard && now < flashEnds[index] && ! context.settings.get().reducedMotion;

@@ -55,6 +55,7 @@ private:
     SlotEdits slotEdits { context };
     SlotExport slotExport { context };
     std::array<std::unique_ptr<SlotTile>, Sequencer::numSlots> tiles;
+    std::array<double, Sequencer::numSlots> lastPositions {};   // quarter notes in each pattern
     std::array<juce::uint32, Sequencer::numSlots> flashEnds {}; // milliseconds, 0 none
     std::optional<Drag> dragged;
     int lastHeard;

@@ -10,7 +10,8 @@ struct Segments::Segment : juce::Component, TooltipSource
         , text (item.element.empty() ? row.getText() : controlText (item.element))
         , caption ({ .text = item.text, .icon = item.icon })
     {
-        setComponentID (item.element.empty() ? item.text : juce::String (item.element));
+        setComponentID (item.element.empty() ? juce::String (row.getElement()) + item.text
+                                             : juce::String (item.element));
         setTitle (item.text);
         setDescription (text.help);
         setWantsKeyboardFocus (false);

@@ -156,7 +156,7 @@ TEST (ArpBands, ChangesToolsWithoutAStepOfUndo)
         EXPECT_EQ (state.brush.get(), brush) << element;
     }
 
-    Tests::Hand::click (editor.find ("Internal"));
+    Tests::Hand::click (editor.find ("ClockInternal"));
     EXPECT_TRUE (state.playHead->internalClock);
     EXPECT_FALSE (editor.processor.getUndo().canUndo());
 }
@@ -192,6 +192,6 @@ TEST (ArpBands, ShowsTheGridAndTheLengthOfTheOpenPattern)
 
     EXPECT_EQ (slots[0].pattern.grid, 12);
     EXPECT_EQ (length.getText(), "= 6 beats");
-    EXPECT_EQ (valueOf (editor, "NoteLength").getShownText(), "100 %");
+    EXPECT_EQ (valueOf (editor, "NoteLength").getShownText(), "98 %");
 }
 } // namespace Zn::GUI
