@@ -76,7 +76,7 @@ void PlayButton::mouseUp (const juce::MouseEvent&)
 
 bool PlayButton::keyPressed (const juce::KeyPress& key)
 {
-    if (! isEnabled() || (key.getKeyCode() != juce::KeyPress::returnKey && key != juce::KeyPress::spaceKey))
+    if (! isEnabled() || (key.getKeyCode() != juce::KeyPress::returnKey && ! isPressKey (key)))
         return false;
 
     ring.keyPressed();

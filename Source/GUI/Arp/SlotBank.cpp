@@ -64,6 +64,10 @@ std::unique_ptr<juce::AccessibilityHandler> SlotBank::createAccessibilityHandler
 void SlotBank::tilePressed (SlotTile& tile, const juce::MouseEvent& event)
 {
     dragged.reset();
+    moveFocus (tile.getIndex(), 0);
+
+    if (tile.isShowing())
+        tile.grabKeyboardFocus();
 
     if (event.mods.isPopupMenu())
         showMenu (tile);
@@ -122,6 +126,14 @@ bool SlotBank::tileKeyPressed (SlotTile& tile, const juce::KeyPress& key)
     const auto slot = tile.getIndex();
     const auto code = key.getKeyCode();
     const auto digit = code - '1';
+
+    if (code == juce::KeyPress::escapeKey && dragged)
+    {
+        dragged.reset();
+        tile.setMouseCursor (juce::MouseCursor::PointingHandCursor);
+        showStates();
+        return true;
+    }
 
     if (ValueKey::of (key).wish == ValueKey::Wish::menu)
         return showMenu (tile), true;
@@ -241,6 +253,9 @@ void SlotBank::poll()
 /** Opens a pattern when it begins to play; what is opened meanwhile stays open until then. */
 void SlotBank::followPlayingSlot (int heard)
 {
+    if (juce::ModifierKeys::getCurrentModifiers().isAnyMouseButtonDown())
+        return; // whatever is dragged belongs to the slot that is open
+
     if (std::exchange (lastHeard, heard) != heard && context.settings.get().followsPlayingSlot)
         context.shownSlot.set (heard);
 }

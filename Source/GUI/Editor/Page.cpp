@@ -100,6 +100,7 @@ Page::~Page()
 {
     timer.setActive (false);
     overlay.closeAll();
+    learning.disarm(); // nobody would see what the next key is bound to
     setLookAndFeel (nullptr);
 }
 
@@ -127,7 +128,7 @@ bool Page::escape()
 
 void Page::focusBand (int direction)
 {
-    if (overlay.getPopup() != nullptr) // keeps the focus to itself
+    if (overlay.getPopup() != nullptr || learning.isActive()) // keep the focus to themselves
         return;
 
     constexpr auto count = int (std::tuple_size_v<decltype (bands)>);

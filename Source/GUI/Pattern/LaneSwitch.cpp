@@ -49,7 +49,7 @@ void LaneSwitch::mouseDown (const juce::MouseEvent& event)
 
 bool LaneSwitch::keyPressed (const juce::KeyPress& key)
 {
-    if (key != juce::KeyPress::spaceKey && key != juce::KeyPress::returnKey)
+    if (! isPressKey (key))
         return false;
 
     ring.keyPressed();

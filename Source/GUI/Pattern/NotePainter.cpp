@@ -115,9 +115,15 @@ void NotePainter::paintHatch (juce::Graphics& g, const NoteLook& look, juce::Col
     const auto width = across * fullStripe * look.chance;
     const auto& box = look.box;
 
+    // A note may be far longer than what is seen of it.
+    const auto seen = g.getClipBounds().toFloat();
+    const auto first = box.getX() - box.getHeight();
+    const auto numSkipped = std::floor (std::max (0.0f, seen.getX() - box.getHeight() - first) / across);
+    const auto end = std::min (box.getRight(), seen.getRight());
+
     juce::Path stripes;
 
-    for (auto x = box.getX() - box.getHeight(); x < box.getRight(); x += across)
+    for (auto x = first + numSkipped * across; x < end; x += across)
         stripes.addQuadrilateral (x,
                                   box.getBottom(),
                                   x + width,
@@ -181,8 +187,9 @@ void NotePainter::paintGhost (juce::Graphics& g, const NoteLook& look) const
         return;
 
     juce::Path outline, dashes;
-    outline.addRoundedRectangle (look.box.reduced (0.5f * hairline), round);
     const std::array dashLengths { 4.0f * hairline, 3.0f * hairline };
+    const auto seen = g.getClipBounds().toFloat().expanded (look.box.getHeight());
+    outline.addRoundedRectangle (look.box.reduced (0.5f * hairline).getIntersection (seen), round);
     juce::PathStrokeType (hairline).createDashedStroke (dashes, outline, dashLengths.data(), 2);
     g.setColour (ghost);
     g.fillPath (dashes);

@@ -23,7 +23,9 @@ juce::String columns (double length)
 juce::String noteText (const Sequencer::TimedNote& note, const RowNames& names, const RollBeats& beats)
 {
     const auto row = note.event.noteNum;
-    const auto pitch = names.heldKeys.isEmpty() ? juce::String() : names.of (row).text;
+    const auto isInDrawing =
+        juce::isPositiveAndBelow (row, Midi::RowToPitchTable::numRows); // files may say others
+    const auto pitch = names.heldKeys.isEmpty() || ! isInDrawing ? juce::String() : names.of (row).text;
 
     juce::StringArray parts { "Row " + juce::String (row - Midi::RowToPitchTable::rowOfLowestNote) };
 

@@ -57,7 +57,10 @@ void PatternArea::connect()
         if (drawing.isShowing())
             drawing.grabKeyboardFocus();
     };
-    context.actions.endSelection = [this] { return escape(); };
+    context.actions.endSelection = [this] {
+        context.overlay.hideReadout();
+        return escape();
+    };
 }
 
 bool PatternArea::pressKey (const juce::KeyPress& key)
@@ -71,7 +74,22 @@ bool PatternArea::pressKey (const juce::KeyPress& key)
         return true;
     }
 
-    return key == juce::KeyPress::escapeKey ? escape() : keys.press (key);
+    return key == juce::KeyPress::escapeKey ? escape() : pressSlot (key) || keys.press (key);
+}
+
+/** 1 to 8, here without Ctrl. */
+bool PatternArea::pressSlot (const juce::KeyPress& key)
+{
+    const auto modifiers = key.getModifiers();
+    const auto slot = key.getKeyCode() - '1';
+
+    if (! juce::isPositiveAndBelow (slot, Sequencer::numSlots) || modifiers.isCommandDown()
+        || modifiers.isCtrlDown() || modifiers.isShiftDown())
+        return false;
+
+    const auto& act = modifiers.isAltDown() ? context.actions.openSlot : context.actions.playSlot;
+    act (slot);
+    return true;
 }
 
 bool PatternArea::escape()

@@ -34,6 +34,7 @@ private:
     void nameRows();
     void connect();
     bool pressKey (const juce::KeyPress& key);
+    bool pressSlot (const juce::KeyPress& key);
     bool escape();
     RollKeys::View viewOfKeys();
     double pasteTime();

@@ -220,6 +220,8 @@ void PatternEditor::followSlot()
     if (slotIndex == newIndex)
         return;
 
+    context.edits.finish(); // the next nudge is one of another pattern
+
     endDrag();
     setLasso ({});
     setHoveredNote (-1);

@@ -56,7 +56,7 @@ void PlayingElsewhere::mouseDown (const juce::MouseEvent& event)
 
 bool PlayingElsewhere::keyPressed (const juce::KeyPress& key)
 {
-    if (key != juce::KeyPress::spaceKey && key != juce::KeyPress::returnKey)
+    if (! isPressKey (key))
         return false;
 
     open();

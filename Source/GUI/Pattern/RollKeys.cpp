@@ -71,6 +71,9 @@ bool RollKeys::escape()
 
 bool RollKeys::pressLetter (const KeyPress& key)
 {
+    if (key.getModifiers().isShiftDown())
+        return false;
+
     switch (letterOf (key))
     {
     case U'D':
@@ -86,7 +89,10 @@ bool RollKeys::pressLetter (const KeyPress& key)
         take (Brush::chance);
         return true;
     case U'G':
-        context.state().snapParam.setBool (! context.state().snap);
+        context.edits.perform ("Snap", [&state = context.state()] {
+            state.snapParam.setBool (! state.snap);
+            return true;
+        });
         return true;
     case U'0':
         editor.perform ("Switch notes", [] (Drawing& drawing) {
@@ -132,6 +138,9 @@ bool RollKeys::pressCommand (const KeyPress& key)
 
 bool RollKeys::pressZoom (const KeyPress& key)
 {
+    if (key.getModifiers().isAltDown())
+        return false;
+
     constexpr auto step = 1.25;
     const auto character = letterOf (key);
 
@@ -153,6 +162,9 @@ bool RollKeys::pressArrow (const KeyPress& key)
     const auto modifiers = key.getModifiers();
 
     if (columns == 0 && rows == 0)
+        return false;
+
+    if (modifiers.isCommandDown() && modifiers.isShiftDown())
         return false;
 
     if (modifiers.isAltDown())

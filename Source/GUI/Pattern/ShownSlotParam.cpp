@@ -67,6 +67,9 @@ Parameters::Parameter& ShownSlotParam::target() const
 
 void ShownSlotParam::change (const Parameter& parameter, const std::function<void()>& set)
 {
+    if (gesture)
+        return set(); // who holds it tells of the difference at its end
+
     Undo::Transaction transaction (undo, parameter.getName());
     const auto before = parameter.getFloat();
     set();

@@ -50,8 +50,14 @@ bool SlotExport::write (int slot, const juce::File& file) const
     if (midi.getNumTracks() == 0)
         return false;
 
-    file.deleteFile();
-    juce::FileOutputStream stream (file);
-    return stream.openedOk() && midi.writeTo (stream);
+    // Whole or not at all: a file that was there stays until the new one is complete.
+    const juce::TemporaryFile temporary (file);
+    juce::FileOutputStream stream (temporary.getFile());
+
+    if (! stream.openedOk() || ! midi.writeTo (stream))
+        return false;
+
+    stream.flush();
+    return stream.getStatus().wasOk() && temporary.overwriteTargetFileWithTemporary();
 }
 } // namespace Zn::GUI

@@ -129,14 +129,14 @@ TEST_F (RollKeysTest, NotesKeepTheirColumnsInAnotherGrid)
     start ({ 0, 1 });
     NoteClip::copySelected (editor.getDrawing());
 
-    Drawing longer;
+    auto longer = Drawing::of (Sequencer::PatternSlot());
     longer.grid = 32;
     NoteClip::paste (longer, { .columns = 32 }, 0.99, 64);
     EXPECT_EQ (Tests::asText (longer.notes), "64 @0.8125+0.03125, 66 @0.9375+0.0625")
         << "as far as there is room";
     EXPECT_EQ (longer.selection, NoteSelection::all (2));
 
-    Drawing shorter;
+    auto shorter = Drawing::of (Sequencer::PatternSlot());
     shorter.grid = 3;
     NoteClip::paste (shorter, { .columns = 3 }, 0.0);
     EXPECT_EQ (shorter.numNotes(), 1) << "what has no room is left out";
