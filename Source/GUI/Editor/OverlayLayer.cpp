@@ -156,10 +156,11 @@ void OverlayLayer::closePopup()
     if (popup == nullptr)
         return;
 
+    const auto hadFocus = popup->hasKeyboardFocus (true); // fading out takes it away
+
     if (popup->isShowing() && mayMove())
         juce::Desktop::getInstance().getAnimator().fadeOut (popup.get(), milliseconds ("PopupFadeSeconds"));
 
-    const auto hadFocus = popup->hasKeyboardFocus (true);
     popupShadow.reset();
     closedPopup = std::move (popup);
     removeChildComponent (closedPopup.get());

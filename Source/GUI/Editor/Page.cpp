@@ -44,6 +44,8 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
 
     if (settings.get().ownColours)
         followSettings();
+    else
+        AssetScheme::Base::get().resetUserColours(); // of an editor that closed before they were switched off
 
     if (UpdateNotice::isDue (UpdateNotice::defaultFile(), Build::version))
         overlay.openPopup (std::make_unique<UpdateNotice> (context));

@@ -207,8 +207,7 @@ bool PresetName::act (const juce::KeyPress& key)
 {
     using juce::KeyPress;
 
-    if (key == KeyPress::returnKey || key == KeyPress::spaceKey
-        || key == KeyPress (KeyPress::downKey, juce::ModifierKeys::altModifier, 0))
+    if (isPressKey (key) || key == KeyPress (KeyPress::downKey, juce::ModifierKeys::altModifier, 0))
         return callbacks.openBrowser(), true;
 
     if (key == KeyPress::downKey || key == KeyPress::rightKey)

@@ -146,7 +146,8 @@ void KeyboardStrip::handleNoteOn (juce::MidiKeyboardState*, int channel, int not
 
 void KeyboardStrip::handleNoteOff (juce::MidiKeyboardState*, int channel, int note, float velocity)
 {
-    context.state().inbox.push (juce::MidiMessage::noteOff (channel, note, velocity));
+    if (! context.state().inbox.push (juce::MidiMessage::noteOff (channel, note, velocity)))
+        context.state().panic(); // nothing has been heard for long; nothing must hang when it is again
 }
 
 void KeyboardStrip::takeColours()

@@ -67,12 +67,7 @@ void StandaloneView::paint (juce::Graphics& g)
 
 bool StandaloneView::keyPressed (const juce::KeyPress& key)
 {
-    if (! key.isKeyCode (juce::KeyPress::spaceKey))
-        return false;
-
-    auto& isPlaying = page.getContext().state().playHead->isPlaying;
-    isPlaying = ! isPlaying;
-    return true;
+    return page.keyPressed (key); // what nobody takes in the strip is meant for the editor
 }
 
 void StandaloneView::childBoundsChanged (juce::Component* child)

@@ -7,8 +7,8 @@
 
 namespace Zn::GUI
 {
-/** What the window of the program shows: the editor, and below it the keyboard strip. The space bar starts and stops
-    the clock, as there is no host to do it. Thread: message.
+/** What the window of the program shows: the editor, and below it the keyboard strip. The editor's keys act wherever
+    the focus is. Thread: message.
 */
 class StandaloneView : public juce::Component
 {
@@ -27,6 +27,7 @@ public:
     void resized() override;
     void paint (juce::Graphics& g) override;
     bool keyPressed (const juce::KeyPress& key) override;
+    void focusGained (FocusChangeType) override { page.grabKeyboardFocus(); }
     void childBoundsChanged (juce::Component* child) override;
 
 private:

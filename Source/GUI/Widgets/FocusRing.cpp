@@ -41,7 +41,7 @@ void FocusRing::focusGained (juce::Component::FocusChangeType cause)
 
 void FocusRing::show()
 {
-    if (isShown() || ! owner.isShowing())
+    if (isShown() || ! owner.isShowing() || ! owner.hasKeyboardFocus (true)) // the key may have moved it away
         return;
 
     outline = std::make_unique<juce::FocusOutline> (std::make_unique<Ring> (canvas));

@@ -296,7 +296,7 @@ void ValueControl::setLimit (float normalised)
 
 void ValueControl::typeFrom (const juce::KeyPress& key)
 {
-    typeValue();
+    enter();
 
     if (auto* entry = dynamic_cast<juce::TextEditor*> (getCurrentlyFocusedComponent()))
         entry->keyPressed (key); // takes the place of what is selected

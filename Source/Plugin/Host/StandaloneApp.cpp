@@ -38,8 +38,14 @@ public:
     {
         auto& processor = static_cast<HostedProcessor&> (*holder->processor);
         processor.getState().playHead->internalClock = true;
-        processor.setPlayHead (&transport);
 
+        {
+            // While a block runs, JUCE's player has a play head of its own there, and takes it away afterwards.
+            const juce::ScopedLock betweenBlocks (processor.getCallbackLock());
+            processor.setPlayHead (&transport);
+        }
+
+        setWantsKeyboardFocus (false); // the editor does
         setUsingNativeTitleBar (true);
         setContentOwned (makeView().release(), true);
         GUI::StandaloneView::limit (limits);
@@ -128,7 +134,16 @@ public:
     void systemRequestedQuit() override
     {
         window->save();
-        quit();
+
+        // The dialogue for devices must not outlive them; it goes by itself, a moment later.
+        if (! juce::ModalComponentManager::getInstance()->cancelAllModalComponents())
+            return quit();
+
+        constexpr auto milliseconds = 100;
+        juce::Timer::callAfterDelay (milliseconds, [] {
+            if (auto* const application = juce::JUCEApplicationBase::getInstance())
+                application->systemRequestedQuit();
+        });
     }
 
 private:

@@ -18,6 +18,10 @@ void UserColours::reset()
 {
     const auto& file = watcher.getFile();
 
+#if JUCE_LINUX || JUCE_BSD
+    juce::File ("~/.local/share/Trash/files").createDirectory(); // where nobody has thrown away anything yet
+#endif
+
     if (file.existsAsFile() && ! file.moveToTrash())
         file.deleteFile();
 
