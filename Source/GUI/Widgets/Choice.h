@@ -24,6 +24,7 @@ public:
     void openMenu();
 
     void schemeChanged() override;
+    void mouseDoubleClick (const juce::MouseEvent&) override {} // two quick clicks are two
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 
 private:

@@ -45,14 +45,21 @@ void addValueLines (juce::PopupMenu& menu, ValueControl& control)
     menu.addItem (std::move (paste));
 }
 
-void addLearnLine (juce::PopupMenu& menu, Learning& learning, const Target& target)
+void addLearnLine (juce::PopupMenu& menu, ValueControl& control, Learning& learning, const Target& target)
 {
     const auto learned = learning.textOf (target);
+    const juce::Component::SafePointer<ValueControl> self (&control); // lives no longer than what learns
 
     if (learned.isNotEmpty())
-        menu.addItem (line ("Forget " + learned, [&learning, target] { learning.forget (target); }));
+        menu.addItem (line ("Forget " + learned, [self, &learning, target] {
+            if (self != nullptr)
+                learning.forget (target);
+        }));
     else
-        menu.addItem (line ("Learn MIDI" + ellipsis(), [&learning, target] {
+        menu.addItem (line ("Learn MIDI" + ellipsis(), [self, &learning, target] {
+            if (self == nullptr)
+                return;
+
             learning.setActive (true);
             learning.arm (target);
         }));
@@ -84,7 +91,7 @@ juce::PopupMenu controlMenu (EditorContext& context, ValueControl& control)
     addValueLines (menu, control);
 
     if (const auto target = control.getLearnTarget())
-        addLearnLine (menu, context.learning, *target);
+        addLearnLine (menu, control, context.learning, *target);
 
     addHostLines (menu, control);
     return menu;

@@ -36,4 +36,10 @@ void Stepper::pressed (const juce::MouseEvent& event)
     else
         stepBy (event.position.x < area().getCentreX() ? -1 : 1);
 }
+
+void Stepper::mouseDoubleClick (const juce::MouseEvent& event)
+{
+    if (value.contains (event.getPosition())) // on a sign two quick clicks are two
+        ValueControl::mouseDoubleClick (event);
+}
 } // namespace Zn::GUI

@@ -14,6 +14,7 @@ public:
              std::shared_ptr<Parameters::Parameter> parameterToShow);
 
     void schemeChanged() override;
+    void mouseDoubleClick (const juce::MouseEvent& event) override;
 
 private:
     void paintControl (juce::Graphics& g) override;

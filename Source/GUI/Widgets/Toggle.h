@@ -42,12 +42,20 @@ public:
     void schemeChanged() override;
     void mouseDrag (const juce::MouseEvent& event) override;
     void mouseUp (const juce::MouseEvent& event) override;
+    void mouseDoubleClick (const juce::MouseEvent&) override {} // two quick clicks are two
     bool keyPressed (const juce::KeyPress& key) override;
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 
 private:
     void paintControl (juce::Graphics& g) override;
     void enter() override { setOn (! isOn()); }
+
+    /** Up is on and down is off, whatever steps the parameter has. */
+    void moveBy (int steps) override
+    {
+        changeJoining ([steps] (auto& target) { target.setBool (steps > 0); });
+    }
+
     bool isOfKindOf (const Toggle& other) const;
     void pressed (const juce::MouseEvent& event) override;
     juce::Rectangle<float> learnArea() const override;

@@ -3,6 +3,7 @@
 #include "GUI/Widgets/Knob.h"
 #include "GUI/Widgets/RangeSlider.h"
 #include "GUI/Widgets/Segments.h"
+#include "GUI/Widgets/Stepper.h"
 #include "GUI/Widgets/Toggle.h"
 #include "Parameters/Connector.h"
 
@@ -133,6 +134,22 @@ TEST_F (Controls, DoubleClickAndCommandClickGoBackToTheDefault)
     EXPECT_EQ (bench.overlay.offered, "8.00 kHz") << "the value opens the text entry";
 }
 
+TEST_F (Controls, TwoQuickClicksAreTwo)
+{
+    const auto voices = bench.of (synth.sub.subOctave); // by default -2
+    const auto stepper = bench.make<Stepper> ("Octave", voices);
+    Hand::doubleClick (
+        *stepper,
+        stepper->getLocalBounds().toFloat().getCentre().withX (static_cast<float> (stepper->getWidth() - 3)));
+    EXPECT_EQ (voices->getInt(), 0);
+
+    const auto enable = bench.of (synth.filter.enable);
+    const auto toggle = bench.make<Toggle> ("FilterEnable", enable, Toggle::Options {});
+    enable->setBool (false);
+    Hand::doubleClick (*toggle, toggle->getLocalBounds().toFloat().getCentre());
+    EXPECT_FALSE (enable->getBool());
+}
+
 TEST_F (Controls, TogglesPaintOverOthersOfTheirKindInOneStep)
 {
     auto& oscillators = synth.oscillators.oscillators;
@@ -174,7 +191,7 @@ TEST_F (Controls, ChoicesAndSegmentsGoToTheOneBeforeAndAfter)
 
     Hand::press (*segments, "cursor right");
     EXPECT_EQ (segments->getShownText(), "Free");
-    Hand::click (Hand::find<juce::Component> (*segments, "Sync"));
+    Hand::click (Hand::find<juce::Component> (*segments, "DelayModeSync"));
     EXPECT_EQ (segments->getShownText(), "Sync");
 }
 
