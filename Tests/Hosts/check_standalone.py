@@ -90,8 +90,8 @@ def demand_that(condition, what):
 
 def steps_of(preset):
     """The notes of the first pattern of a preset file."""
-    document = json.loads(preset.read_text(encoding="utf-8"))
-    return document["Patterns"][0]["Pattern"]["Steps"] if isinstance(document["Patterns"], list) else None
+    document = json.loads(preset.read_text(encoding="utf-8").split("\0")[0])
+    return document["Patterns"]["Patterns"][0]["Pattern"]["Steps"]
 
 
 @contextmanager

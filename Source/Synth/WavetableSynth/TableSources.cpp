@@ -46,8 +46,8 @@ std::vector<TableSource> factorySources()
 
 std::vector<TableSource> userSources (const juce::File& folder)
 {
-    auto files =
-        folder.findChildFiles (juce::File::findFiles | juce::File::ignoreHiddenFiles, false, "*.wav;*.tnq");
+    auto files = folder.findChildFiles (juce::File::findFiles | juce::File::ignoreHiddenFiles, false);
+    files.removeIf ([] (const juce::File& file) { return ! file.hasFileExtension ("wav;tnq"); });
 
     // Names that differ in case only are told apart too, so that the order never depends on the file system.
     std::sort (files.begin(), files.end(), [] (const juce::File& a, const juce::File& b) {
