@@ -34,6 +34,7 @@ StandaloneView::StandaloneView (std::unique_ptr<juce::AudioProcessorEditor> edit
 StandaloneView::~StandaloneView()
 {
     strip.setLookAndFeel (nullptr);
+    editor->processor.editorBeingDeleted (editor.get());
 }
 
 void StandaloneView::limit (juce::ComponentBoundsConstrainer& constrainer)

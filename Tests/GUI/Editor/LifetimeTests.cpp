@@ -1,0 +1,161 @@
+#include "GUI/Editor/Page.h"
+#include "GUI/Support/Hand.h"
+#include "Plugin/Bases/StateEditor.h"
+#include "Plugin/Bases/WithEditor.h"
+#include "Support/MessageLoop.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+
+namespace Zn::GUI
+{
+namespace
+{
+using Audio::Plugins::Vornel::Processor;
+using Audio::Plugins::Vornel::StartUp;
+using Editor = Audio::Plugin::StateEditor<Processor, Page>;
+using Hosted = Audio::Plugin::WithEditor<Processor, Editor>;
+
+/** More of them find more: VORNEL_EDITOR_ROUNDS=500 under the sanitizers. */
+int numRounds()
+{
+    constexpr auto usual = "20";
+    return juce::SystemStats::getEnvironmentVariable ("VORNEL_EDITOR_ROUNDS", usual).getIntValue();
+}
+
+/** A host that plays the plug-in on a thread of its own, as long as this lives. */
+class PlayingHost
+{
+public:
+    explicit PlayingHost (juce::AudioProcessor& processorToPlay) : processor (processorToPlay)
+    {
+        processor.setPlayConfigDetails (2, 2, 48000.0, 256);
+        processor.prepareToPlay (48000.0, 256);
+        thread = std::thread ([this] { play(); });
+    }
+
+    ~PlayingHost()
+    {
+        ends = true;
+        thread.join();
+    }
+
+private:
+    void play()
+    {
+        juce::AudioBuffer<float> audio (2, 256);
+        juce::MidiBuffer midi;
+
+        for (auto block = 0; ! ends; ++block)
+        {
+            midi.clear();
+
+            if (block % 200 == 0) // chords come and go
+                midi.addEvent (juce::MidiMessage::noteOn (1, 60 + block / 200 % 12, 0.8f), 0);
+            else if (block % 200 == 150)
+                midi.addEvent (juce::MidiMessage::noteOff (1, 60 + block / 200 % 12), 0);
+
+            processor.processBlock (audio, midi);
+            std::this_thread::sleep_for (std::chrono::microseconds (200));
+        }
+    }
+
+    juce::AudioProcessor& processor;
+    std::atomic<bool> ends { false };
+    std::thread thread;
+};
+
+/** Closes an editor as hosts do. */
+struct Close
+{
+    void operator() (Editor* editor) const
+    {
+        editor->processor.editorBeingDeleted (editor);
+        delete editor;
+    }
+};
+
+std::unique_ptr<Editor, Close> open (Hosted& processor)
+{
+    return std::unique_ptr<Editor, Close> (dynamic_cast<Editor*> (processor.createEditorIfNeeded()));
+}
+
+void draw (juce::Component& editor)
+{
+    editor.createComponentSnapshot (editor.getLocalBounds());
+}
+} // namespace
+
+TEST (EditorLifetime, ClosesInTheMiddleOfAnythingWhileItPlays)
+{
+    const Singleton::UserToken singletonsStay;
+    Hosted processor { StartUp::empty };
+    PlayingHost host { processor };
+
+    // Each is pressed and never let go; some open pop-ups, start drags or ask for a menu.
+    const juce::StringArray pressed { "PianoRoll", "NoteLane", "Osc1Volume", "PresetName",
+                                      "Settings",  "Logo",     "Slot3",      "Bpm",
+                                      "MidiLearn", "Help",     "Grid",       "FilterCurve" };
+
+    for (auto round = 0; round < numRounds(); ++round)
+    {
+        const auto editor = open (processor);
+        ASSERT_NE (editor, nullptr);
+
+        if (round % 5 == 0)
+            draw (*editor);
+
+        const auto& name = pressed[round % pressed.size()];
+        auto* part = Tests::Hand::findOrNull (*editor, name);
+        ASSERT_NE (part, nullptr) << name;
+
+        const auto centre = part->getLocalBounds().toFloat().getCentre();
+        const auto button = round % 3 == 2 ? Tests::Hand::rightButton : Tests::Hand::leftButton;
+        part->mouseDown (Tests::Hand::mouseEvent (*part, centre, centre, button));
+        part->mouseDrag (Tests::Hand::mouseEvent (*part, centre.translated (20, 9), centre, button, 1, true));
+        Zn::Test::runPendingMessages();
+    }
+
+    EXPECT_EQ (processor.getActiveEditor(), nullptr);
+    EXPECT_EQ (processor.getState().numMeterListeners.load(), 0) << "a closed editor costs nothing";
+}
+
+TEST (EditorLifetime, StaysOpenWhileProjectsAreLoadedAndSavedOnOtherThreads)
+{
+    const Singleton::UserToken singletonsStay;
+    Hosted processor { StartUp::presets };
+    juce::MemoryBlock project;
+    processor.getStateInformation (project);
+    PlayingHost host { processor };
+
+    std::atomic<bool> loads { true };
+    std::thread worker ([&] {
+        for (auto round = 0; round < numRounds(); ++round)
+        {
+            processor.setStateInformation (project.getData(), static_cast<int> (project.getSize()));
+            juce::MemoryBlock copy;
+            processor.getStateInformation (copy);
+        }
+
+        loads = false;
+    });
+
+    auto numOpened = 0;
+
+    while (loads)
+    {
+        const auto editor = open (processor);
+        ++numOpened;
+        processor.getState().step (1);
+        draw (*editor);
+        editor->getPage().getContext().polls.callListeners();
+        Zn::Test::runPendingMessages();
+        editor->getPage().getContext().edits.undo();
+    }
+
+    worker.join();
+    EXPECT_GT (numOpened, 0);
+}
+} // namespace Zn::GUI
