@@ -5,11 +5,11 @@
     make_chords.py --check    fail if a file differs from what would be written, or should not be there
 """
 
-import sys
 from pathlib import Path
 
 from chords.progressions import PROGRESSIONS
 from chords.symbols import chords
+from made_files import run
 
 ROOT = Path(__file__).resolve().parent.parent
 FOLDER = ROOT / "Resources" / "Chords"
@@ -86,35 +86,5 @@ def made_files():
             LIST: (HEAD + rows).encode()}
 
 
-def strangers(files):
-    """What lies in the folder without being made here."""
-    return sorted(path for path in set(FOLDER.rglob("*")) - set(files) if path.is_file())
-
-
-def faults(files):
-    for path, data in files.items():
-        if not path.is_file():
-            yield f"{path.name} is missing"
-        elif path.read_bytes() != data:
-            yield f"{path.name} differs from what Tools/make_chords.py writes"
-
-    for path in strangers(files):
-        yield f"{path.name} has no progression"
-
-
-def main():
-    files = made_files()
-
-    if "--check" in sys.argv:
-        sys.exit("\n".join(faults(files)) or 0)
-
-    for path in strangers(files):
-        path.unlink()
-
-    for path, data in files.items():
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_bytes(data)
-
-
 if __name__ == "__main__":
-    main()
+    run(made_files(), FOLDER, "make_chords.py", "progression")
