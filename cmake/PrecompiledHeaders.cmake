@@ -1,6 +1,7 @@
-# JUCE's headers, parsed once instead of in every file: a build with sanitizers takes half the time.
+# JUCE's headers, parsed once instead of in every file: a file of the editor then takes two seconds instead of six.
 #
-# Off in what is shipped. There each file is compiled from its own includes, which shows one that is missing.
+# Off in the debug preset and without a preset. There each file is compiled from its own includes, which shows one that
+# is missing.
 
 option (VORNEL_PRECOMPILED_HEADERS "Parse the headers of JUCE once" OFF)
 
