@@ -34,7 +34,7 @@ void LaneSwitch::paintControl (juce::Graphics& g)
     paintText (g,
                getText().label,
                font,
-               area().withTrimmedRight (padOfText * handle),
+               area().withTrimmedRight (padOfText * handle).withTrimmedLeft (2.5f * bar),
                juce::Justification::centredRight,
                colour (isBright ? "Text" : "TextSecondary"));
 }

@@ -26,8 +26,8 @@ constexpr RoutingCase cases[] = {
       { "MIDI", "MIDI" },
       { "Put Vornel on a track of its own and play it from your keyboard.",
         "Turn Synth off here, so that only the other instrument sounds.",
-        "On the instrument's track, choose Vornel's track as MIDI input and its output \xe2\x80\x9cVornel "
-        "Out\xe2\x80\x9d, all channels. Set monitoring to on.",
+        "On the instrument's track, choose Vornel's track as MIDI input and, where the host asks, "
+        "Vornel's own MIDI output. Set monitoring to on.",
         "Hold a chord and start the host: the pattern plays the instrument." },
       "Turn Synth off for me",
       Offer::synthOff },
