@@ -1,10 +1,13 @@
 #include "Foundation/Singleton.h"
 #include "GUI/Editor/Page.h"
+#include "GUI/Standalone/StandaloneView.h"
+#include "Plugin/Bases/StateEditor.h"
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
-#include <functional>
 #include <iostream>
+#include <memory>
+#include <optional>
 
 namespace juce
 {
@@ -19,16 +22,32 @@ using Audio::Plugins::Vornel::Processor;
 constexpr auto usage = R"(Usage: vornel-screenshot FILE.png [OPTIONS]
 
   --width=PIXELS   of the editor; 1100 unless told
+  --scale=FACTOR   pixels of the picture for one of the editor; 1 unless told
+  --part=A,B,...   only these parts of the editor, by their names, and what lies between them
+  --standalone     the window of the program that needs no host, with its keyboard
   --preset=FILE    a pattern preset to load
+  --sound=FILE     a sound preset to load after it
   --hold=NOTES     keys that are held, such as 45,52,60
   --bpm=TEMPO      of the internal clock; 100 unless told
   --play=SECONDS   plays so long before the picture is taken
   --slot=1..8      the slot that is open
   --fold           folds the sound away
   --brush=0..4     pencil, cursor, velocity, -, chance
+  --learn=NOTE     eight keys from this one on switch slots, and the pedal moves the filter
   --click=A,B,...  clicks parts of the editor by their names, one after the other
   --menu=NAME      clicks a part with the right button
 )";
+
+/** A host whose song plays on: with it the editor's own clock can be started and stopped. */
+struct Transport : juce::AudioPlayHead
+{
+    juce::Optional<PositionInfo> getPosition() const override
+    {
+        PositionInfo position;
+        position.setIsPlaying (true);
+        return position;
+    }
+};
 
 struct Player
 {
@@ -108,11 +127,84 @@ void click (juce::Component& page, const juce::String& name, juce::ModifierKeys 
     target->mouseUp (event);
 }
 
+/** The editor by itself, or in the program's own window. */
+class View
+{
+public:
+    View (Processor& processor, bool isStandalone)
+    {
+        if (! isStandalone)
+        {
+            bare.emplace (processor);
+            return;
+        }
+
+        auto editor = std::make_unique<Audio::Plugin::StateEditor<Processor, GUI::Page>> (processor);
+        pageInWindow = &editor->getPage();
+        window.emplace (std::move (editor), *pageInWindow, [] {});
+    }
+
+    GUI::Page& page() { return bare ? *bare : *pageInWindow; }
+    juce::Component& whole() { return bare ? static_cast<juce::Component&> (*bare) : *window; }
+
+    void setWidth (int width)
+    {
+        const auto [usualWidth, usualHeight] = GUI::Page::defaultSize();
+        const auto height = juce::roundToInt (double (width) * usualHeight / usualWidth);
+        pageParent().setSize (width, height); // the window follows its editor
+    }
+
+    /** In the window it is the keyboard that is played, so that its keys are seen. */
+    void hold (int note, juce::MidiBuffer& midi)
+    {
+        constexpr auto velocity = 0.8f;
+
+        if (window)
+            window->getStrip().getKeys().noteOn (1, note, velocity);
+        else
+            midi.addEvent (juce::MidiMessage::noteOn (1, note, velocity), 0);
+    }
+
+    /** What lies between some parts of it; all of it for none. */
+    juce::Rectangle<int> areaOf (const juce::StringArray& parts)
+    {
+        juce::Rectangle<int> area;
+
+        for (const auto& name : parts)
+            if (auto* part = find (whole(), name))
+                area = area.getUnion (whole().getLocalArea (part, part->getLocalBounds()));
+
+        return area.isEmpty() ? whole().getLocalBounds() : area;
+    }
+
+private:
+    juce::Component& pageParent()
+    {
+        return bare ? static_cast<juce::Component&> (*bare) : *pageInWindow->getParentComponent();
+    }
+
+    std::optional<GUI::Page> bare;
+    GUI::Page* pageInWindow = nullptr;
+    std::optional<GUI::StandaloneView> window;
+};
+
 bool write (const juce::Image& image, const juce::File& file)
 {
     file.deleteFile();
     juce::FileOutputStream stream (file);
     return stream.openedOk() && juce::PNGImageFormat().writeImageToStream (image, stream);
+}
+
+juce::StringArray namesIn (const juce::String& list)
+{
+    return juce::StringArray::fromTokens (list, ",", {});
+}
+
+void learnFrom (Processor& processor, int lowestKey)
+{
+    auto& map = processor.getState().learnMap;
+    map.bindKeySwitches (lowestKey);
+    map.bind ({ Midi::Learn::Target::forParam ("Filter-Cutoff"), 64 });
 }
 
 int run (const juce::ArgumentList& arguments)
@@ -123,62 +215,79 @@ int run (const juce::ArgumentList& arguments)
         return 2;
     }
 
+    const auto has = [&] (const char* name) { return arguments.containsOption (name); };
     const auto option = [&] (const char* name) { return arguments.getValueForOption (name); };
+    const auto isStandalone = has ("--standalone");
 
+    if (isStandalone)
+        juce::AudioProcessor::setTypeOfNextNewPlugin (juce::AudioProcessor::wrapperType_Standalone);
+
+    Transport transport;
     Processor processor;
+    processor.setPlayHead (&transport);
     auto& state = processor.getState();
+    state.playHead->internalClock = true;
 
-    if (arguments.containsOption ("--preset")
-        && state.load (arguments.getFileForOption ("--preset")).is_null())
+    const auto canLoad = [&] (const char* name, Presets::Base& library) {
+        return ! has (name) || ! library.load (arguments.getFileForOption (name)).is_null();
+    };
+
+    if (! canLoad ("--preset", state) || ! canLoad ("--sound", state.synthPreset))
     {
         std::cerr << "Cannot load the preset\n";
         return 1;
     }
 
-    const auto [defaultWidth, defaultHeight] = GUI::Page::defaultSize();
-    const auto width = arguments.containsOption ("--width") ? option ("--width").getIntValue() : defaultWidth;
+    if (has ("--learn"))
+        learnFrom (processor, option ("--learn").getIntValue());
 
-    GUI::Page page { processor };
-    page.setSize (width, juce::roundToInt (double (width) * defaultHeight / defaultWidth));
-    page.setVisible (true);
+    View view { processor, isStandalone };
+    auto& page = view.page();
+    view.setWidth (has ("--width") ? option ("--width").getIntValue() : GUI::Page::defaultSize().width);
+    view.whole().setVisible (true);
 
     if (juce::SystemStats::getEnvironmentVariable ("DISPLAY", {})
             .isNotEmpty()) // focus and menus need a window
-        page.addToDesktop (juce::ComponentPeer::windowIsTemporary);
+        view.whole().addToDesktop (juce::ComponentPeer::windowIsTemporary);
 
-    if (arguments.containsOption ("--fold"))
+    if (has ("--fold"))
         page.getContext().canvas.setFold (GUI::AssetScheme::Fold::folded);
 
-    if (arguments.containsOption ("--slot"))
+    if (has ("--slot"))
         state.slotParam.setInt (option ("--slot").getIntValue() - 1);
 
-    if (arguments.containsOption ("--brush"))
+    if (has ("--brush"))
         state.brushParam.setInt (option ("--brush").getIntValue());
 
     Player player { processor };
 
-    for (const auto& note : juce::StringArray::fromTokens (option ("--hold"), ",", {}))
-        player.midi.addEvent (juce::MidiMessage::noteOn (1, note.getIntValue(), 0.8f), 0);
+    for (const auto& note : namesIn (option ("--hold")))
+        view.hold (note.getIntValue(), player.midi);
 
-    if (arguments.containsOption ("--bpm"))
+    if (has ("--bpm"))
         state.bpm.setDouble (option ("--bpm").getDoubleValue());
 
-    state.playHead->isPlaying = arguments.containsOption ("--play");
+    state.playHead->isPlaying = has ("--play");
     player.run (juce::jmax (0.1, option ("--play").getDoubleValue()));
 
     constexpr auto milliseconds = 300; // for all timers to come round
     serveMessages (milliseconds);
 
-    for (const auto& name : juce::StringArray::fromTokens (option ("--click"), ",", {}))
-        click (page, name, juce::ModifierKeys::leftButtonModifier);
+    for (const auto& name : namesIn (option ("--click")))
+        click (view.whole(), name, juce::ModifierKeys::leftButtonModifier);
 
-    if (arguments.containsOption ("--menu"))
-        click (page, option ("--menu"), juce::ModifierKeys::rightButtonModifier);
+    if (has ("--menu"))
+        click (view.whole(), option ("--menu"), juce::ModifierKeys::rightButtonModifier);
 
-    page.createComponentSnapshot (page.getLocalBounds()); // what is drawn may ask for more to be read
+    const auto scale = has ("--scale") ? option ("--scale").getFloatValue() : 1.0f;
+    const auto picture = [&] {
+        return view.whole().createComponentSnapshot (view.areaOf (namesIn (option ("--part"))), true, scale);
+    };
+
+    picture(); // what is drawn may ask for more to be read
     serveMessages (milliseconds);
 
-    if (write (page.createComponentSnapshot (page.getLocalBounds()), arguments[0].resolveAsFile()))
+    if (write (picture(), arguments[0].resolveAsFile()))
         return 0;
 
     std::cerr << "Cannot write the picture\n";
