@@ -1,0 +1,104 @@
+#!/usr/bin/env python3
+"""Installs what was built as a packager does, and as a musician does from the archive, into folders of its own.
+
+    check_installation.py BUILD
+"""
+
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+BUILD = Path(sys.argv.pop(1))
+SOURCE = Path(__file__).resolve().parents[2]
+PROGRAMS = ("vornel", "vornel-presets", "vornel-render")
+
+# Of everything else there may be more with time.
+ESSENTIAL = {
+    *(f"bin/{program}" for program in PROGRAMS),
+    *(f"share/man/man1/{program}.1" for program in PROGRAMS),
+    f"lib/vst3/Vornel.vst3/Contents/{os.uname().machine}-linux/Vornel.so",
+    *(f"lib/lv2/Vornel.lv2/{name}" for name in ("libVornel.so", "manifest.ttl", "dsp.ttl", "ui.ttl")),
+    "share/applications/example.brenvik.vornel.desktop",
+    "share/icons/hicolor/scalable/apps/example.brenvik.vornel.svg",
+    "share/metainfo/example.brenvik.vornel.metainfo.xml",
+    *(f"share/doc/vornel/{name}" for name in ("CHANGELOG.md", "copyright", "factory-presets.md")),
+}
+
+
+def files_in(folder):
+    return {path.relative_to(folder).as_posix() for path in folder.rglob("*") if not path.is_dir()}
+
+
+def output_of(*command, **environment):
+    return subprocess.run(command, env=os.environ | environment, text=True, check=True, timeout=60,
+                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT).stdout
+
+
+class Installation(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.scratch = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(cls.scratch.cleanup)
+        cls.folder = Path(cls.scratch.name)
+        output_of("cmake", "--install", BUILD, "--prefix", "/usr", DESTDIR=str(cls.folder / "staged"))
+        cls.staged = cls.folder / "staged/usr"
+        cls.installer = cls.staged / "install.sh"
+        shutil.copy(SOURCE / "packaging/tar/install.sh", cls.installer)
+
+    def test_has_everything_in_its_place(self):
+        staged = files_in(self.staged)
+        self.assertLessEqual(ESSENTIAL, staged)
+        self.assertEqual({name.split("/")[0] for name in staged}, {"bin", "lib", "share", "install.sh"})
+        self.assertEqual(files_in(self.folder / "staged"), {f"usr/{name}" for name in staged})
+        self.assertNotIn("@", (self.staged / "share/man/man1/vornel.1").read_text(encoding="utf-8"))
+
+    def test_describes_itself_to_desktops(self):
+        for program, *arguments, file in (
+                ("desktop-file-validate", "applications/example.brenvik.vornel.desktop"),
+                ("appstreamcli", "validate", "--no-net", "metainfo/example.brenvik.vornel.metainfo.xml")):
+            with self.subTest(program):
+                if shutil.which(program) is None:
+                    self.skipTest(f"there is no {program}")
+                output_of(program, *arguments, self.staged / "share" / file)
+
+    def test_installer_leaves_only_what_is_not_its_own(self):
+        for arguments, folders in (
+                ([], (".vst3", ".lv2", ".local/bin", ".local/share")),
+                (["--prefix", "{home}/else where"], ("else where/lib", "else where/bin", "else where/share"))):
+            with self.subTest(arguments), tempfile.TemporaryDirectory(dir=self.folder) as home:
+                home = Path(home)
+                arguments = [argument.format(home=home) for argument in arguments]
+                call = lambda *more: output_of(self.installer, *arguments, *more, HOME=str(home), XDG_DATA_HOME="")
+
+                call()
+                installed = files_in(home)
+                self.assertTrue(all(name.startswith(folders) for name in installed))
+                self.assertEqual(len(installed), len(files_in(self.staged)))  # the list instead of the installer
+
+                entry = next(home.rglob("*.desktop")).read_text(encoding="utf-8")
+                program = next(path for path in home.rglob("bin/vornel"))
+                self.assertIn(f'\nExec="{program}"\nTryExec={program}\n', entry)
+                self.assertIn("Usage", output_of(program.with_name("vornel-presets"), "--help"))
+
+                foreign = next(home.rglob("Vornel.lv2")) / "mine.ttl"
+                foreign.touch()
+                call()  # over itself
+                self.assertEqual(files_in(home), installed | {foreign.relative_to(home).as_posix()})
+                call("--uninstall")
+                self.assertEqual(files_in(home), {foreign.relative_to(home).as_posix()})
+                self.assertEqual([path for path in home.rglob("*") if path.is_dir() and not any(path.iterdir())], [])
+
+    def test_installer_explains_itself(self):
+        self.assertIn("--uninstall", output_of(self.installer, "--help"))
+        for arguments in (["--frobnicate"], ["--prefix"], ["--prefix", str(self.folder / "nowhere"), "--uninstall"]):
+            with self.subTest(arguments):
+                self.assertEqual(subprocess.run([self.installer, *arguments], stderr=subprocess.DEVNULL,
+                                                check=False).returncode, 2)
+
+
+if __name__ == "__main__":
+    unittest.main()
