@@ -11,6 +11,7 @@ import sys
 from pathlib import Path
 
 FONT = re.compile(r"\\f[BIR]")
+CALL = re.compile(r"--|[a-z]")  # how an option and a command begin
 MACRO = re.compile(r"\.(?:B|I|BR|RB|BI|IB|IR|RI) ")
 
 
@@ -30,13 +31,13 @@ def words_of(line):
 def told_by_page(page):
     lines = page.read_text(encoding="utf-8").splitlines()
     heads = [words_of(line) for before, line in zip(lines, lines[1:]) if before == ".TP"]
-    return {head for head in heads if re.match(r"--|[a-z]", head)}
+    return {head for head in heads if CALL.match(head)}
 
 
 def told_by(program):
     text = subprocess.run([program, "--help"], text=True, capture_output=True, check=True, timeout=60).stdout
     calls = re.findall(r"^  (\S.*?)(?:  .*)?$", text, re.MULTILINE)
-    return {call.strip() for call in calls}
+    return {call.strip() for call in calls if CALL.match(call)}
 
 
 def faults_of(page, program):
@@ -54,7 +55,7 @@ def faults_of(page, program):
 
 def main():
     folder, *programs = map(Path, sys.argv[1:])
-    faults = [fault for program in programs for fault in faults_of(folder / f"{program.name}.1.in", program)]
+    faults = [fault for program in programs for fault in faults_of(folder / f"{program.name.lower()}.1.in", program)]
     print("\n".join(faults) or "The manual pages tell what the programs do.")
     return 1 if faults else 0
 
