@@ -1,7 +1,7 @@
 #pragma once
 
-#include "OutputFile.h"
 #include "OutputWriter.h"
+#include "Support/OutputFile.h"
 
 namespace Zn::Render
 {
@@ -15,7 +15,7 @@ public:
     void finish() override { file.finish(); }
 
 private:
-    OutputFile file;
+    Tools::OutputFile file;
     std::string line; // reused
 };
 } // namespace Zn::Render

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "OutputFile.h"
 #include "OutputWriter.h"
 #include "SongMarks.h"
+#include "Support/OutputFile.h"
 
 namespace Zn::Render
 {
@@ -30,7 +30,7 @@ private:
     void writeQuantity (juce::uint32);
     void patchLength();
 
-    OutputFile file;
+    Tools::OutputFile file;
     const SongTimeline& timeline;
     SongMarks marks;
     juce::int64 lastTick = 0;

@@ -1,7 +1,7 @@
 #include "StateFiles.h"
 
 #include "Errors.h"
-#include "OutputFile.h"
+#include "Support/OutputFile.h"
 
 namespace Zn::Render
 {
@@ -80,7 +80,7 @@ void writeStateFile (juce::AudioProcessor& processor, const Options& options)
     juce::MemoryBlock state;
     processor.getStateInformation (state);
 
-    OutputFile file (*options.newStateFile);
+    Tools::OutputFile file (*options.newStateFile);
     file.write (state.getData(), state.getSize());
     file.finish();
 }

@@ -9,25 +9,10 @@ namespace
 {
 constexpr int floatBits = 32;
 
-/** The writer deletes its stream, the file must outlive it. */
-class Forwarder final : public juce::OutputStream
-{
-public:
-    explicit Forwarder (OutputFile& fileToUse) : file (fileToUse) {}
-
-    bool write (const void* data, std::size_t size) override { return file.write (data, size); }
-    bool setPosition (juce::int64 position) override { return file.setPosition (position); }
-    juce::int64 getPosition() override { return file.getPosition(); }
-    void flush() override {}
-
-private:
-    OutputFile& file;
-};
-
 std::unique_ptr<juce::AudioFormatWriter>
-makeWriter (OutputFile& file, double sampleRate, int channels, int bits)
+makeWriter (Tools::OutputFile& file, double sampleRate, int channels, int bits)
 {
-    auto stream = std::make_unique<Forwarder> (file);
+    auto stream = file.createStream();
     std::unique_ptr<juce::AudioFormatWriter> writer (
         juce::WavAudioFormat()
             .createWriterFor (stream.get(), sampleRate, static_cast<unsigned int> (channels), bits, {}, 0));

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "OutputFile.h"
 #include "OutputWriter.h"
+#include "Support/OutputFile.h"
 
 #include <juce_audio_formats/juce_audio_formats.h>
 
@@ -28,7 +28,7 @@ public:
 private:
     void convert (const juce::AudioBuffer<float>&);
 
-    OutputFile file;
+    Tools::OutputFile file;
     int bits;
     std::unique_ptr<juce::AudioFormatWriter> writer;
     std::vector<std::vector<int>> converted; // per channel, the value in the highest bits

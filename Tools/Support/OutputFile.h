@@ -6,10 +6,9 @@
 #include <memory>
 #include <string>
 
-namespace Zn::Render
+namespace Zn::Tools
 {
-/** A file that appears under its name only when it is complete; until then, and on an
-    error, the old one stays.
+/** A file that appears under its name only when it is complete; until then, and on an error, the old one stays.
 
     As a stream it never throws: the first failure is kept, later writes do nothing, and `throwIfFailed` and
     `finish` report it as FileError.
@@ -24,6 +23,12 @@ public:
     bool setPosition (juce::int64 newPosition) override;
     juce::int64 getPosition() override { return position; }
     void flush() override {}
+
+    /** What has been written there; false if it is not so much. The next write needs a new position. */
+    bool read (juce::int64 start, void* data, std::size_t size);
+
+    /** Passes on to this file, which must outlive it: for a writer that deletes its stream. */
+    std::unique_ptr<juce::OutputStream> createStream();
 
     void throwIfFailed() const;
 
@@ -48,4 +53,4 @@ private:
     juce::int64 position = 0;
     int error = 0; // errno of the first failure
 };
-} // namespace Zn::Render
+} // namespace Zn::Tools

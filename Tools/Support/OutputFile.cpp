@@ -1,15 +1,29 @@
-#include "OutputFile.h"
+#include "Support/OutputFile.h"
 
-#include "Errors.h"
+#include "Support/Errors.h"
 
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
 
-namespace Zn::Render
+namespace Zn::Tools
 {
 namespace
 {
+class Forwarder final : public juce::OutputStream
+{
+public:
+    explicit Forwarder (OutputFile& fileToUse) : file (fileToUse) {}
+
+    bool write (const void* data, std::size_t size) override { return file.write (data, size); }
+    bool setPosition (juce::int64 position) override { return file.setPosition (position); }
+    juce::int64 getPosition() override { return file.getPosition(); }
+    void flush() override {}
+
+private:
+    OutputFile& file;
+};
+
 juce::File behindLinks (const juce::File& file)
 {
     return file.isSymbolicLink() ? file.getLinkedTarget() : file;
@@ -24,7 +38,7 @@ std::string reason (int error)
 OutputFile::OutputFile (const juce::File& given) : target (behindLinks (given)), temporary (target)
 {
     checkTarget();
-    file.reset (std::fopen (temporary.getFile().getFullPathName().toRawUTF8(), "wb"));
+    file.reset (std::fopen (temporary.getFile().getFullPathName().toRawUTF8(), "w+b"));
 
     if (file == nullptr)
         fail (reason (errno));
@@ -43,6 +57,16 @@ bool OutputFile::setPosition (juce::int64 newPosition)
 {
     position = newPosition;
     return error == 0 && succeeds (std::fseek (file.get(), static_cast<long> (newPosition), SEEK_SET) == 0);
+}
+
+bool OutputFile::read (juce::int64 start, void* data, std::size_t size)
+{
+    return setPosition (start) && std::fread (data, 1, size, file.get()) == size;
+}
+
+std::unique_ptr<juce::OutputStream> OutputFile::createStream()
+{
+    return std::make_unique<Forwarder> (*this);
 }
 
 void OutputFile::throwIfFailed() const
@@ -94,4 +118,4 @@ bool OutputFile::succeeds (bool success)
 
     return success;
 }
-} // namespace Zn::Render
+} // namespace Zn::Tools
