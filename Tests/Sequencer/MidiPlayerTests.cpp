@@ -13,6 +13,7 @@
 
 #include <sys/stat.h>
 
+#include <array>
 #include <cmath>
 
 namespace Zn::Sequencer::MidiPlayer
@@ -109,6 +110,25 @@ const FileRow fileRows[] = {
     { "another kind of file", Bytes (100, 'R'), "none" },
 };
 
+/** A file with one note, behind a header that is as long as it says, and other chunks. */
+Bytes wordyFile (std::uint32_t headerSize, std::uint32_t numTracks, std::uint32_t sizeOfChunk)
+{
+    Bytes file { 'M', 'T', 'h', 'd' };
+    Test::append (file, headerSize, 4);
+    Test::append (file, 0, 2);
+    Test::append (file, numTracks, 2);
+    Test::append (file, division, 2);
+    file.resize (8 + headerSize, 1);
+    file.insert (file.end(), { 'X', 'F', 'I', 'H' });
+    Test::append (file, sizeOfChunk, 4);
+    file.insert (file.end(), { 1, 2, 3 });
+
+    const auto plain = midiFile (0, division, { plainTrack });
+    file.insert (file.end(), plain.begin() + 14, plain.end());
+    file.insert (file.end(), { 'e', 'n', 'd' });
+    return file;
+}
+
 /** An endless stream of notes: a delta of so many ticks, then `numNotes` of a tick each. */
 Bytes manyNotes (int numNotes, std::uint8_t delta, std::uint8_t length)
 {
@@ -128,6 +148,25 @@ TEST (MidiPlayerSong, ReadsWhatFilesBring)
 {
     for (const auto& row : fileRows)
         EXPECT_EQ (text (read (row.file)), row.expected) << row.name;
+}
+
+TEST (MidiPlayerSong, IsFoundBehindHeadersOfOtherKinds)
+{
+    const auto* note = "1 bars of 4: 60 0+4 v100";
+
+    EXPECT_EQ (text (read (wordyFile (6, 1, 3))), note);
+    EXPECT_EQ (text (read (wordyFile (60, 1, 3))), note);
+
+    for (const auto& [headerSize, numTracks, sizeOfChunk] :
+         std::initializer_list<std::array<std::uint32_t, 3>> {
+             { 4, 1, 3 }, // too short for what it has to say
+             { 6, 2, 3 }, // promises more tracks
+             { 6, 65535, 3 },
+             { 6, 1, 4 }, // runs into the track
+             { 6, 1, 0x7FFFFFFF },
+             { 6, 1, 0xFFFFFFFF } })
+        EXPECT_EQ (text (read (wordyFile (headerSize, numTracks, sizeOfChunk))), "none")
+            << headerSize << " " << numTracks << " " << sizeOfChunk;
 }
 
 TEST (MidiPlayerSong, OfAFileThatIsCutAnywhereIsNone)
@@ -177,6 +216,10 @@ TEST (MidiPlayerSong, OfDamagedBytesCanBePlayed)
 TEST (MidiPlayerSong, LeavesOutWhatIsTooMuch)
 {
     EXPECT_EQ (text (read (manyNotes (140000, 1, 1))), "none") << "over a mebibyte";
+
+    Bytes manyEvents (3 * 5'000'000 + 1);
+    manyEvents[1] = 0x90; // from then on, running status
+    EXPECT_EQ (text (read (midiFile (0, division, { manyEvents }))), "none") << "five million events";
 
     const auto many = read (manyNotes (9000, 1, 1));
     EXPECT_EQ (many->slot.events.notes.size(), 8192u);

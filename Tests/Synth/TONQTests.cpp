@@ -1,11 +1,14 @@
 #include "Foundation/Singleton.h"
 #include "Synth/Formats/TONQ/Format.h"
+#include "Synth/Formats/TONQ/Header.h"
 #include "Synth/Sampler/SourceReader.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <span>
@@ -125,7 +128,7 @@ TEST (TONQ, GivesBackEverySampleAndEverySlice)
     std::vector<Layout> layouts;
 
     for (const auto numFrames : { 0, 1, 4095, 4096, 10000 })
-        for (const auto numChannels : { 1, 2, 16, 32 })
+        for (const auto numChannels : { 1, 2, 3, 16, 32 })
             for (const auto& [bits, quality] :
                  std::initializer_list<std::pair<int, int>> { { 16, 0 },
                                                               { 24, 0 },
@@ -178,6 +181,10 @@ TEST (TONQ, KeepsMetadataAndDropsWhatIsUnfinished)
     ASSERT_NE (opened (file), nullptr);
     EXPECT_EQ (opened (file)->metadataValues.size(), 0);
 
+    file = written (noise (layout), layout, metadata);
+    file[headerSize + std::string_view ("title").size() + 1] = 0xFF;
+    EXPECT_EQ (opened (file)->metadataValues.getAllKeys(), juce::StringArray ("artist")) << "of no UTF-8";
+
     metadata.set ("long", juce::String::repeatedString ("x", 70000));
     EXPECT_EQ (opened (written (noise (layout), layout, metadata))->metadataValues.size(), 2);
 }
@@ -201,6 +208,56 @@ TEST (TONQ, OpensWhatIsLeftOfAFileAndNothingWithAWrongHeader)
         file[bit / 8] ^= static_cast<std::uint8_t> (1u << bit % 8);
         EXPECT_EQ (opened (file), nullptr) << "bit " << bit;
     }
+}
+
+TEST (TONQ, BelievesNoNumberThatTheFileCannotKeep)
+{
+    const Header plain { .sampleRate = 48000.0,
+                         .numFrames = 2,
+                         .numChannels = 2,
+                         .bitsPerSample = 16,
+                         .isFloat = false };
+
+    const auto framesWith = [&] (const std::function<void (Header&)>& change) -> juce::int64 {
+        auto header = plain;
+        change (header);
+
+        Bytes file (smallFile);
+        const auto bytes = header.toBytes(); // its checksum is right, whatever it says
+        std::transform (bytes.begin(), bytes.end(), file.begin(), [] (std::byte byte) {
+            return std::to_integer<std::uint8_t> (byte);
+        });
+
+        const auto reader = opened (file);
+        return reader != nullptr ? reader->lengthInSamples : -1;
+    };
+
+    constexpr auto refused = juce::int64 { -1 };
+    const auto infinite = std::numeric_limits<double>::infinity();
+
+    for (const auto numFrames : { ~0ull, 1ull << 63, (1ull << 62) + 1, 3ull })
+        EXPECT_EQ (framesWith ([=] (auto& h) { h.numFrames = numFrames; }), 2) << numFrames;
+
+    for (const auto& [numChannels, expected] :
+         { std::pair (32, juce::int64 {}), { 33, refused }, { 0, refused }, { 65535, refused } })
+        EXPECT_EQ (framesWith ([n = numChannels] (auto& h) {
+                       h.numChannels = n;
+                       h.numFrames = ~0ull;
+                   }),
+                   expected)
+            << numChannels;
+
+    for (const auto bits : { 0, 8, 17, 64, 65535 })
+        EXPECT_EQ (framesWith ([=] (auto& h) { h.bitsPerSample = bits; }), refused) << bits;
+
+    for (const auto rate : { 0.0, -48000.0, 1e9, infinite, std::nan ("") })
+        EXPECT_EQ (framesWith ([=] (auto& h) { h.sampleRate = rate; }), refused) << rate;
+
+    for (const auto size : { 9u, 65536u, 65537u, ~0u })
+        EXPECT_EQ (framesWith ([=] (auto& h) { h.metadataSize = size; }), refused) << size;
+
+    EXPECT_EQ (framesWith ([] (auto& h) { h.isFloat = true; }), refused) << "of 16 bits";
+    EXPECT_EQ (framesWith ([] (auto& h) { h.metadataSize = 8; }), 0) << "behind which nothing is left";
 }
 
 TEST (TONQ, RefusesSoundHeadersOfWhatItCannotHold)

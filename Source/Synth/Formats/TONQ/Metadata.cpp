@@ -11,7 +11,7 @@ namespace Zn::Audio::Formats::TONQ
 namespace
 {
 /** The text up to the next NUL, which is taken from the rest as well. */
-std::optional<juce::String> takeText (std::string_view& rest)
+std::optional<std::string_view> takeText (std::string_view& rest)
 {
     const auto end = rest.find ('\0');
 
@@ -20,6 +20,16 @@ std::optional<juce::String> takeText (std::string_view& rest)
 
     const auto text = rest.substr (0, end);
     rest.remove_prefix (end + 1);
+    return text;
+}
+
+bool isUTF8 (std::string_view text)
+{
+    return juce::CharPointer_UTF8::isValidString (text.data(), static_cast<int> (text.size()));
+}
+
+juce::String stringFrom (std::string_view text)
+{
     return juce::String::fromUTF8 (text.data(), static_cast<int> (text.size()));
 }
 } // namespace
@@ -55,7 +65,8 @@ juce::StringPairArray metadataFrom (const juce::MemoryBlock& bytes)
         if (! value)
             break;
 
-        metadata.set (*key, *value);
+        if (isUTF8 (*key) && isUTF8 (*value))
+            metadata.set (stringFrom (*key), stringFrom (*value));
     }
 
     return metadata;
