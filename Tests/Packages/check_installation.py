@@ -14,7 +14,7 @@ from pathlib import Path
 
 BUILD = Path(sys.argv.pop(1))
 SOURCE = Path(__file__).resolve().parents[2]
-PROGRAMS = ("vornel", "vornel-presets", "vornel-render")
+PROGRAMS = ("vornel", "vornel-presets", "vornel-render", "vornel-tonq")
 
 # Of everything else there may be more with time.
 ESSENTIAL = {

@@ -103,7 +103,7 @@ def check_libraries(system, programs):
 
 
 def check_tools(system, programs, share):
-    for tool in ("vornel-presets", "vornel-render"):
+    for tool in ("vornel-presets", "vornel-render", "vornel-tonq"):
         demand_that("Usage" in system.run(f"{programs}/{tool}", "--help"), f"{tool} tells nothing")
 
     system.run(f"{programs}/vornel-render", f"{share}/{EXAMPLE}", "--out-wav", f"{system.home}/played.wav")
