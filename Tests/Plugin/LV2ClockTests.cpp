@@ -240,6 +240,44 @@ TEST (LV2Clock, StartsAtTheBarAfterAMoveThatIsToldInFramesAlone)
     EXPECT_NEAR (host.start(), 4.0 + quarters (blockSize, 120.0), 1e-9) << "goes on from where it stood";
 }
 
+/** Two bars of 4/4, then of 3/4, by a host that counts bars and beats in ticks and has no count of quarter notes. */
+TEST (LV2Clock, GoesOnThroughAChangeOfTimeSignature)
+{
+    constexpr auto quarter = 24000, change = 8 * quarter, lateBy = 100; // samples
+    constexpr auto tick = 1.0 / 1920.0;
+    const auto waltzAt = [] (int frame, int bar, double barBeat) {
+        auto message = playingAt (frame, bar, std::floor (barBeat / tick) * tick);
+        message.beatsPerBar = 3.0;
+        return message;
+    };
+
+    for (const auto offset : { 0, lateBy })
+    {
+        Host host;
+        host.run ({ { offset, playingAt (0, 0, 0.0) } });
+
+        for (auto block = 1; block < change / blockSize; ++block)
+            host.run();
+
+        const auto jumps = host.jumps;
+        host.run ({ { offset, waltzAt (change, 2, 0.0) } });
+        EXPECT_NEAR (host.transport.getPpqBySample()[static_cast<size_t> (offset)], 8.0, 1e-9);
+
+        host.run ({ { 0, waltzAt (change + blockSize - offset, 2, quarters (blockSize - offset, 120.0)) } });
+        EXPECT_NEAR (host.start(), 8.0 + quarters (blockSize - offset, 120.0), 1e-9);
+        EXPECT_EQ (*host.getPosition()->getPpqPositionOfLastBarStart(), 8.0);
+        EXPECT_EQ (host.jumps, jumps) << "it goes on";
+
+        host.run ({ { 0, waltzAt (change + 3 * quarter, 3, 0.0) } });
+        EXPECT_EQ (host.start(), 11.0) << "and the bars behind it have its length";
+
+        host.run ({ { 0, playingAt (4 * quarter, 1, 0.0) } });
+        EXPECT_EQ (host.start(), 4.0) << "but not those before";
+        host.run ({ { 0, waltzAt (change, 2, 0.0) } });
+        EXPECT_EQ (host.start(), 8.0) << "straight to where it was heard to change";
+    }
+}
+
 TEST (LV2Clock, TellsTheBarItIsIn)
 {
     Host host;

@@ -10,7 +10,6 @@ namespace Zn::Audio
 namespace
 {
 constexpr auto secondsPerMinute = 60.0;
-constexpr auto quartersPerWhole = 4.0;
 constexpr auto fastestSpeed = 100.0; // winding, at most
 constexpr auto highestMeter = 256.0; // both numbers of a time signature
 constexpr auto farthest = 1.0e15;    // samples or quarter notes; what lies beyond is nonsense
@@ -47,27 +46,25 @@ struct MusicalPosition
     bool isExact = true;                    // to the sample
 };
 
-/** Where a message puts the song. The running count of beats is best, as bars times beats overlooks that
-    the time signature may have changed on the way. But some hosts round it to whole beats, and not all
-    agree on its unit: where it contradicts the beat within the bar, or the beat is no quarter note, bar
-    and beat tell the place.
+/** Where a message puts the song, if the bar in it starts at `barStart`. The running count of beats is best, as
+    the time signature may have changed on the way to the bar without our knowing. But some hosts round it to whole
+    beats, and not all agree on its unit: where it contradicts the beat within the bar, or the beat is no quarter note,
+    bar and beat tell the place.
 */
-MusicalPosition musicalPositionOf (const LV2Position& message, double beatsPerBar, int beatUnit) noexcept
+MusicalPosition
+musicalPositionOf (const LV2Position& message, double ppqPerBeat, std::optional<double> barStart) noexcept
 {
     const auto beat = ifUsable (message.beat);
     const auto barBeat = ifUsable (message.barBeat);
-    const auto bar = ifUsable (message.bar);
-    const auto ppqPerBeat = quartersPerWhole / beatUnit;
     const auto isBeatExact = beat && (! barBeat || (ppqPerBeat == 1.0 && isWhole (*beat - *barBeat)));
 
     if (isBeatExact)
         return { .ppq = *beat, .barStartPpq = barBeat ? std::optional { *beat - *barBeat } : std::nullopt };
 
-    if (! bar || ! barBeat)
+    if (! barStart || ! barBeat)
         return { .ppq = beat, .barStartPpq = {} };
 
-    const auto barStart = *bar * beatsPerBar * ppqPerBeat;
-    return { .ppq = barStart + *barBeat * ppqPerBeat, .barStartPpq = barStart, .isExact = false };
+    return { .ppq = *barStart + *barBeat * ppqPerBeat, .barStartPpq = barStart, .isExact = false };
 }
 
 /** What ticks leave out moves no song that goes on as expected, with a new tempo say: a step that has just
@@ -94,20 +91,29 @@ void LV2Clock::receive (const LV2Position& message, int offset) noexcept
     samplesSince += offset;
     const auto oldFrame = getFrame();
     const auto oldPpq = getPpq();
+    const auto oldMeter = meter;
     const auto wasMoving = isMoving();
     samplesSince = -offset;
 
     hasMessage = true;
     takeOverRates (message);
 
-    const auto told = musicalPositionOf (message, beatsPerBar, beatUnit);
     const auto newFrame = ifUsable (message.frame);
+    const auto goesOn = areWithin (1.0, newFrame, oldFrame);
     const auto rate = getPpqPerSample();
+
+    if (goesOn && wasMoving && oldPpq && meter != oldMeter)
+        noteMeterChange (message, oldMeter, *oldPpq);
+
+    const auto bar = ifUsable (message.bar);
+    const auto told = musicalPositionOf (message,
+                                         meter.ppqPerBeat(),
+                                         bar ? std::optional { startOfBar (*bar) } : std::nullopt);
 
     if (told.ppq)
         barStartPpq = told.barStartPpq;
 
-    const auto newPpq = areWithin (1.0, newFrame, oldFrame) ? unrounded (told, oldPpq, wasMoving) : told.ppq;
+    const auto newPpq = goesOn ? unrounded (told, oldPpq, wasMoving) : told.ppq;
 
     anchorFrame = newFrame ? newFrame : oldFrame;
     anchorPpq = newPpq ? newPpq : oldPpq;
@@ -129,13 +135,44 @@ void LV2Clock::takeOverRates (const LV2Position& message) noexcept
         tempo = message.beatsPerMinute;
 
     if (isBetween (1.0, message.beatUnit, highestMeter))
-        beatUnit = juce::roundToInt (*message.beatUnit);
+        meter.beatUnit = juce::roundToInt (*message.beatUnit);
 
     if (isBetween (1.0, message.beatsPerBar, highestMeter))
     {
-        beatsPerBar = *message.beatsPerBar;
+        meter.beatsPerBar = *message.beatsPerBar;
         hasTimeSignature = true;
     }
+}
+
+/** The song has come to another time signature, at `ppq`, without leaving its course. */
+void LV2Clock::noteMeterChange (const LV2Position& message, const LV2Meter& meterBefore, double ppq) noexcept
+{
+    const auto bar = ifUsable (message.bar);
+    const auto barBeat = ifUsable (message.barBeat);
+
+    if (! bar || ! barBeat)
+        return;
+
+    auto start = ppq - *barBeat * meter.ppqPerBeat();
+
+    // It begins where a bar of the old one ends, which ticks may miss.
+    if (barStartPpq)
+    {
+        const auto numBars = std::round ((start - *barStartPpq) / meterBefore.ppqPerBar());
+        const auto endOfBar = *barStartPpq + numBars * meterBefore.ppqPerBar();
+        start = areWithin (longestTick, start, endOfBar) ? endOfBar : start;
+    }
+
+    meterChange = { .meter = meter, .bar = *bar, .ppq = start };
+}
+
+/** As far as is known, all bars before have the same length. */
+double LV2Clock::startOfBar (double bar) const noexcept
+{
+    if (meterChange.meter == meter && bar >= meterChange.bar)
+        return meterChange.ppq + (bar - meterChange.bar) * meter.ppqPerBar();
+
+    return bar * meter.ppqPerBar();
 }
 
 void LV2Clock::advance (int numSamples) noexcept
@@ -176,8 +213,7 @@ std::optional<double> LV2Clock::getPpq() const noexcept
 
 double LV2Clock::barStartBefore (double ppq) const noexcept
 {
-    const auto ppqPerBar = beatsPerBar * quartersPerWhole / beatUnit;
-    return *barStartPpq + std::floor ((ppq - *barStartPpq) / ppqPerBar) * ppqPerBar;
+    return *barStartPpq + std::floor ((ppq - *barStartPpq) / meter.ppqPerBar()) * meter.ppqPerBar();
 }
 
 juce::Optional<juce::AudioPlayHead::PositionInfo> LV2Clock::getPosition() const noexcept
@@ -207,7 +243,7 @@ juce::Optional<juce::AudioPlayHead::PositionInfo> LV2Clock::getPosition() const 
 
     if (hasTimeSignature)
         position.setTimeSignature (
-            juce::AudioPlayHead::TimeSignature { juce::roundToInt (beatsPerBar), beatUnit });
+            juce::AudioPlayHead::TimeSignature { juce::roundToInt (meter.beatsPerBar), meter.beatUnit });
 
     return position;
 }

@@ -20,6 +20,17 @@ struct LV2Position
     std::optional<double> beatsPerMinute {}; // hosts send quarter notes, whatever the beat unit
 };
 
+/** A time signature. */
+struct LV2Meter
+{
+    double beatsPerBar = 4.0; // upper number
+    int beatUnit = 4;         // lower number
+
+    double ppqPerBeat() const noexcept { return 4.0 / beatUnit; }
+    double ppqPerBar() const noexcept { return beatsPerBar * ppqPerBeat(); }
+    bool operator== (const LV2Meter&) const = default;
+};
+
 /** Keeps an LV2 host's transport going between its messages, as hosts send one only when something changes.
 
     Give it the messages of a block, read the position, then move over the block. The position counts from the
@@ -47,16 +58,26 @@ private:
     double getPpqPerSample() const noexcept;
     std::optional<double> getFrame() const noexcept;
     std::optional<double> getPpq() const noexcept;
+    double startOfBar (double bar) const noexcept;
     double barStartBefore (double ppq) const noexcept;
     void takeOverRates (const LV2Position& message) noexcept;
+    void noteMeterChange (const LV2Position& message, const LV2Meter& meterBefore, double ppq) noexcept;
 
     double sampleRate = 44100.0; // hertz
     bool hasMessage = false;
     double speed = 0.0;
     std::optional<double> tempo; // quarter notes a minute, at speed 1
-    double beatsPerBar = 4.0;
-    int beatUnit = 4;
+    LV2Meter meter;
     bool hasTimeSignature = false;
+
+    /** A bar from which the song has a time signature. The bars before it may have any lengths. */
+    struct MeterChange
+    {
+        LV2Meter meter;
+        double bar = 0.0, ppq = 0.0; // where it begins: from 0, in quarter notes
+    };
+
+    MeterChange meterChange; // the last that was played through
 
     // Where the last message put the song, and the samples since then. The message may come later in the
     // block: then they are negative.
