@@ -106,6 +106,52 @@ TEST (HostBlocks, FarLargerThanPreparedPlayTheSame)
     f.processor.processBlock (audio, midi);
 }
 
+/** The samples of a pattern whose steps start on whole samples are the same in blocks of any size, and so is what the
+    synth, its echo and its gains make of them.
+*/
+TEST (HostBlocks, SoundTheSameInAnySizes)
+{
+    constexpr auto prepared = 64;
+
+    const auto play = [] (const std::vector<int>& sizes) {
+        ProcessorFixture f;
+        f.drawSteps (0, 8, 0, 0.75);
+        f.set ("Delay-Mix", "0.4");
+        f.set ("Delay-Feedback", "0.5");
+        f.set ("Filter-Cutoff", "900");
+        TestHost host (f.processor, 48000.0, prepared);
+        host.send (events ("on 48 @0, on 60 @0, hex E0 00 50 @5000, off 48 @30001, on 55 @30001"));
+        std::vector<float> sound;
+
+        for (std::size_t i = 0; host.getPosition() < bar + quarter; ++i)
+        {
+            host.runBlock (static_cast<int> (
+                std::min<std::int64_t> (sizes[i % sizes.size()], bar + quarter - host.getPosition())));
+            const auto* left = host.getAudio().getReadPointer (0);
+            sound.insert (sound.end(), left, left + host.getAudio().getNumSamples());
+        }
+
+        return sound;
+    };
+
+    const auto expected = play ({ prepared });
+    ASSERT_GT (*std::ranges::max_element (expected), 0.01f);
+
+    for (const auto& sizes : { std::vector { 1, 31, 64, 1024 },
+                               std::vector { 1 },
+                               std::vector { 1024 },
+                               std::vector { 2 * prepared, 10 * prepared, 33333, 7 } })
+    {
+        const auto sound = play (sizes);
+        auto difference = 0.0f;
+
+        for (std::size_t i = 0; i < expected.size(); ++i)
+            difference = std::max (difference, std::abs (sound[i] - expected[i]));
+
+        EXPECT_LT (difference, 1.0e-5f) << testing::PrintToString (sizes);
+    }
+}
+
 TEST (HostBlocks, KeepTimeAtEverySampleRate)
 {
     ProcessorFixture f; // one processor for all: what one rate leaves behind must not disturb the next

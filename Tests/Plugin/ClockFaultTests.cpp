@@ -256,6 +256,12 @@ TEST (HostClock, MakesUpForWhatAHostDoesNotTell)
         { "1/1", timeSignature (1, 1) },
         { "0/0", timeSignature (0, 0) },
         { "-1/-1", timeSignature (-1, -1) },
+        { "another in every bar",
+          [] (auto& p) {
+              const auto barNumber = static_cast<int> (*p.getPpqPosition() / 4.0);
+              p.setTimeSignature (
+                  juce::AudioPlayHead::TimeSignature { 3 + barNumber % 4, 4 << barNumber % 2 });
+          } },
     };
 
     for (const auto& row : rows)

@@ -218,6 +218,7 @@ TEST (HangingNotes, EndWhateverInterferesWithAStep)
         s.host.send (events ("off 53 @0"));
         s.host.run (2 * bar);
         EXPECT_EQ (s.host.unbalanced(), "");
+        EXPECT_EQ (s.host.getAudio().getMagnitude (0, 480), 0.0f) << "the synth's notes end with them";
     }
 }
 

@@ -58,6 +58,9 @@ public:
     const std::vector<Received>& getReceived() const noexcept { return received; }
     std::int64_t getPosition() const noexcept { return position; }
 
+    /** The sound of the last block. */
+    const juce::AudioBuffer<float>& getAudio() const noexcept { return audio; }
+
     /** The notes that were started and not ended, by pitch. */
     std::vector<int> getSounding() const;
 
