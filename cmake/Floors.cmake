@@ -34,6 +34,10 @@ function (zn_add_tests name)
     target_include_directories (${name} PRIVATE "${PROJECT_SOURCE_DIR}/Tests")
     target_link_libraries (${name} PRIVATE ${TESTS_LINKS} zn_test_support zn_real_time_guard zn_warnings GTest::gmock)
     zn_use_precompiled_headers (${name} zn_test_headers)
+
+    # What is tested is optimised as it is shipped; the tests themselves are written to be compiled, not to be fast.
+    target_compile_options (${name} PRIVATE $<$<CONFIG:Release>:-O1>)
+
     gtest_discover_tests (${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
 
