@@ -1,23 +1,20 @@
 #include "Plugin/ProcessorFixture.h"
+#include "Plugin/Projects.h"
 #include "Plugin/RandomState.h"
 
 #include "Foundation/Events/SharedTimer.h"
-#include "Plugin/Bases/StateChunk.h"
-#include "Presets/Undo/Transaction.h"
 #include "Support/Documents.h"
 #include "Support/MessageLoop.h"
 #include "Support/MidiText.h"
 
 #include <gmock/gmock.h>
 
-#include <atomic>
 #include <thread>
 
 namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
-using nlohmann::json;
 using Test::events;
 using Test::runMessageLoopUntil;
 using Test::runPendingMessages;
@@ -26,32 +23,9 @@ using testing::IsEmpty;
 
 constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
 
-juce::MemoryBlock save (juce::AudioProcessor& processor)
-{
-    juce::MemoryBlock chunk;
-    processor.getStateInformation (chunk);
-    return chunk;
-}
-
-void restore (juce::AudioProcessor& processor, const juce::MemoryBlock& chunk)
-{
-    processor.setStateInformation (chunk.getData(), static_cast<int> (chunk.getSize()));
-}
-
 void restoreOnAWorker (juce::AudioProcessor& processor, const juce::MemoryBlock& chunk)
 {
     std::thread ([&] { restore (processor, chunk); }).join();
-}
-
-std::string textIn (const juce::MemoryBlock& chunk)
-{
-    return std::string (
-        Plugin::StateChunk::read (chunk.getData(), static_cast<int> (chunk.getSize())).data());
-}
-
-json documentIn (const juce::MemoryBlock& chunk)
-{
-    return json::parse (textIn (chunk), nullptr, false);
 }
 
 std::vector<float> valuesOf (const juce::AudioProcessor& processor)
@@ -251,104 +225,4 @@ TEST (Project, TellsTheHostOfEditsButNotThatItWasLoaded)
     f.processor.removeListener (&host);
 }
 
-namespace
-{
-/** The row that all steps of a document are on; none if they are on several, as in a torn one. */
-std::optional<int> rowOf (const json& document)
-{
-    std::optional<int> row;
-
-    for (const auto& pattern : document.at ("Patterns").at ("Patterns"))
-        for (const auto& step : pattern.at ("Pattern").at ("Steps"))
-        {
-            const int noteNum = step.at ("Event").at ("noteNum");
-
-            if (row.value_or (noteNum) != noteNum)
-                return {};
-
-            row = noteNum;
-        }
-
-    return row;
-}
-
-/** Steps in all slots, on one row. */
-void drawRow (ProcessorFixture& f, int row)
-{
-    const Sequencer::PatternController::Edit edit (f.state.patterns);
-
-    for (std::size_t slot = 0; slot < Sequencer::numSlots; ++slot)
-        f.drawSteps (slot, 6, row);
-
-    f.state.setName (juce::String (row));
-}
-} // namespace
-
-TEST (Project, IsWholeHoweverManyThreadsSaveAndRestoreItWhileItPlays)
-{
-    ProcessorFixture f;
-    const auto folder = f.state.getUserFolder();
-    std::vector<juce::MemoryBlock> projects;
-
-    for (const auto row : { 1, 2 })
-    {
-        drawRow (f, row);
-        projects.push_back (save (f.processor));
-        ASSERT_TRUE (f.state.save (juce::URL (folder.getChildFile (juce::String (row) + ".json"))));
-    }
-
-    auto& undo = f.processor.getUndo();
-    std::atomic<bool> ends { false };
-    std::atomic<int> numTorn { 0 }, numSaved { 0 }, numWorking { 2 };
-    std::vector<std::thread> threads;
-
-    threads.emplace_back ([&] {
-        juce::AudioBuffer<float> audio (2, 128);
-
-        while (! ends)
-        {
-            auto midi = events ("on 60 @0, off 60 @100");
-            f.processor.processBlock (audio, midi);
-        }
-    });
-
-    for (auto worker = 0; worker < 2; ++worker)
-        threads.emplace_back ([&, worker] {
-            for (auto i = 0; i < 40; ++i)
-            {
-                restore (f.processor, projects[static_cast<std::size_t> ((i + worker) % 2)]);
-                const auto document = documentIn (save (f.processor));
-                numTorn += rowOf (document).has_value() ? 0 : 1;
-                ++numSaved;
-            }
-
-            --numWorking;
-        });
-
-    EXPECT_TRUE (runMessageLoopUntil (
-        [&] {
-            f.state.step (1);
-            {
-                Undo::Transaction drawing (undo, "Draw");
-                drawRow (f, 3);
-                drawing.markChanged();
-            }
-            undo.undo();
-            undo.redo();
-            f.state.step (-1);
-            return numWorking == 0;
-        },
-        std::chrono::seconds (60)));
-
-    ends = true;
-
-    for (auto& thread : threads)
-        thread.join();
-
-    EXPECT_EQ (numTorn, 0);
-    EXPECT_EQ (numSaved, 80);
-
-    restore (f.processor, projects.front());
-    EXPECT_EQ (rowOf (documentIn (save (f.processor))), ProcessorFixture::lowestHeld + 1);
-}
 } // namespace Zn::Audio::Plugins::Vornel

@@ -5,8 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
+#include <span>
+#include <vector>
 
 namespace Zn::Audio::Plugins::Vornel
 {
@@ -237,6 +240,83 @@ TEST_F (Sound, PushesTheGlobalUnisonToEveryOscillator)
         EXPECT_EQ (oscillator.unison.unison.get(), 2);
         EXPECT_FLOAT_EQ (oscillator.unison.unisonSpread.get(), 0.25f);
         EXPECT_FLOAT_EQ (oscillator.unison.unisonDepth.get(), 0.25f);
+    }
+}
+
+namespace
+{
+/** The pitch of a tone of one wave, by its first and its last rise through zero. */
+double hertzOf (const juce::AudioBuffer<float>& audio, double sampleRate)
+{
+    std::vector<double> rises; // samples
+
+    for (auto i = 1; i < audio.getNumSamples(); ++i)
+        if (const auto before = audio.getSample (0, i - 1), after = audio.getSample (0, i);
+            before < 0.0f && after >= 0.0f)
+            rises.push_back (i - double { after } / (double { after } - double { before }));
+
+    return rises.size() < 2 ? 0.0 : double (rises.size() - 1) * sampleRate / (rises.back() - rises.front());
+}
+
+int firstSoundIn (const juce::AudioBuffer<float>& audio)
+{
+    const auto* samples = audio.getReadPointer (0);
+    return static_cast<int> (std::find_if (samples,
+                                           samples + audio.getNumSamples(),
+                                           [] (float s) { return std::abs (s) > 1.0e-4f; })
+                             - samples);
+}
+} // namespace
+
+/** Hosts change the rate in the middle of a sound, and not all of them release the processor before. */
+TEST_F (Sound, IsInTuneAndItsEchoInTimeAtWhateverRateItIsPreparedFor)
+{
+    for (const auto* oscillator :
+         { "OSC-0-Enable", "OSC-1-Enable", "OSC-2-Enable", "OSC-3-Enable", "Filter-Enable" })
+        f.set (oscillator, "Off");
+
+    f.set ("Sub-Volume", "0 dB");
+    f.set ("Sub-Octave", "0");
+    f.set ("Delay-Mode", "Free");
+    f.set ("Delay-Time-Free", "0.5");
+
+    for (const auto sampleRate : { 44100.0, 192000.0, 8000.0, 48000.0, 11025.0, 96000.0 })
+    {
+        f.processor.prepareToPlay (sampleRate, blockSize); // the note of the rate before still sounds
+        const auto blocksPerSecond = static_cast<int> (sampleRate / blockSize);
+
+        f.set ("Delay-Mix", "1");
+        EXPECT_EQ (loudest (render (blocksPerSecond)), 0.0f)
+            << "neither note nor echo survive, at " << sampleRate;
+        const auto echo = render (blocksPerSecond, events ("on 69 @0, off 69 @100"));
+        EXPECT_NEAR (firstSoundIn (echo) / sampleRate, 0.5, 0.0005) << sampleRate;
+
+        f.set ("Delay-Mix", "0");
+        f.processor.prepareToPlay (sampleRate, 2 * blockSize);
+        render (blocksPerSecond / 8, events ("on 69 @0"));
+        const auto cents = 1200.0 * std::log2 (hertzOf (render (blocksPerSecond / 2), sampleRate) / 440.0);
+        EXPECT_NEAR (cents, 0.0, 1.0) << sampleRate;
+    }
+}
+
+TEST_F (Sound, FadesWithoutNumbersTooSmallToBeNormal)
+{
+    f.set ("Delay-Mode", "Free");
+    f.set ("Delay-Time-Free", "0.1");
+    f.set ("Delay-Feedback", "0.4");
+    f.set ("Delay-Mix", "0.5");
+    f.set ("ADSR-Release", "2");
+    f.processor.prepareToPlay (8000.0, blockSize);
+    auto midi = events ("on 36 @0, on 60 @0, off 36 @200, off 60 @200");
+
+    for (auto second = 0; second < 40; ++second)
+    {
+        const auto sound = render (8000 / blockSize, midi);
+        midi.clear();
+
+        for (const auto sample :
+             std::span (sound.getReadPointer (0), static_cast<size_t> (sound.getNumSamples())))
+            ASSERT_TRUE (sample == 0.0f || std::isnormal (sample)) << "after " << second << " seconds";
     }
 }
 
