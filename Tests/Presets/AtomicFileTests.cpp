@@ -53,6 +53,24 @@ TEST_F (AtomicFile, HoldsOldOrNewWheneverItsWriterIsKilled)
     EXPECT_EQ (numFiles(), 1) << "what was left behind is cleared away";
 }
 
+TEST_F (AtomicFile, IsHowAPresetIsSaved)
+{
+    const auto old = presetText ("old").toStdString();
+    const auto oldFile = root.getChildFile ("old file");
+    write (file, old);
+    std::filesystem::create_hard_link (file.getFullPathName().toStdString(),
+                                       oldFile.getFullPathName().toStdString());
+
+    Toy toy (root);
+    toy.steps = 5;
+    ASSERT_TRUE (toy.save (juce::URL (file)));
+    EXPECT_EQ (contentOf (oldFile), old) << "never written in place";
+
+    Toy reader (root);
+    reader.load (file);
+    EXPECT_EQ (reader.steps, 5);
+}
+
 TEST_F (AtomicFile, MayHaveANameAsLongAsTheDiskAllows)
 {
     const auto longest = root.getChildFile (juce::String::repeatedString ("x", 250) + ".json");
