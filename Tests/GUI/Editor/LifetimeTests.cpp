@@ -2,9 +2,12 @@
 #include "GUI/Support/Hand.h"
 #include "Plugin/Bases/StateEditor.h"
 #include "Plugin/Bases/WithEditor.h"
+#include "Support/Documents.h"
 #include "Support/MessageLoop.h"
 
 #include <gtest/gtest.h>
+
+#include <malloc.h>
 
 #include <atomic>
 #include <thread>
@@ -157,5 +160,64 @@ TEST (EditorLifetime, StaysOpenWhileProjectsAreLoadedAndSavedOnOtherThreads)
 
     worker.join();
     EXPECT_GT (numOpened, 0);
+}
+
+/** The second half of the rounds finds what the first has warmed up. */
+TEST (EditorLifetime, TakesNoMoreMemoryEachTime)
+{
+    Hosted processor { StartUp::empty };
+    PlayingHost host { processor };
+    const auto bytesInUse = [] {
+        const auto info = ::mallinfo2();
+        return static_cast<double> (info.uordblks + info.hblkhd);
+    };
+
+    auto before = 0.0;
+
+    for (auto round = 0; round < 2 * numRounds(); ++round)
+    {
+        if (round == numRounds())
+            before = bytesInUse();
+
+        const auto editor = open (processor);
+
+        if (round % 5 == 0)
+            draw (*editor);
+
+        Zn::Test::runPendingMessages();
+    }
+
+    EXPECT_LT ((bytesInUse() - before) / numRounds(), 2000.0);
+    EXPECT_EQ (juce::Desktop::getInstance().getNumComponents(), 0);
+}
+
+/** What editors share goes with the last instance, and is there again for the next. */
+TEST (EditorLifetime, OfOneInstanceLeavesTheOthersAlone)
+{
+    for (auto round = 0; round < 2; ++round)
+    {
+        auto shown = std::make_unique<Hosted> (StartUp::empty),
+             other = std::make_unique<Hosted> (StartUp::empty);
+        auto hidden = std::make_unique<Hosted> (StartUp::empty);
+        const auto documentBefore = Tests::saved (hidden->getState());
+        auto shownEditor = open (*shown), otherEditor = open (*other);
+        draw (*shownEditor);
+        draw (*otherEditor);
+
+        Tests::Hand::click (*Tests::Hand::findOrNull (*shownEditor, "Slot3"));
+        EXPECT_EQ (shown->getState().liveSlots->pending, 2);
+        EXPECT_LT (other->getState().liveSlots->pending, 0);
+        EXPECT_EQ (Tests::saved (hidden->getState()), documentBefore);
+
+        shownEditor.reset();
+        shown.reset();
+        hidden.reset();
+
+        Tests::Hand::click (*Tests::Hand::findOrNull (*otherEditor, "Slot5"));
+        EXPECT_EQ (other->getState().liveSlots->pending, 4);
+        draw (*otherEditor);
+        otherEditor.reset();
+        draw (*open (*other));
+    }
 }
 } // namespace Zn::GUI
