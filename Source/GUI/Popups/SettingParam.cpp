@@ -12,6 +12,14 @@ float SettingParam::getNormalised() const
     return static_cast<float> (std::max (0, options.get())) / static_cast<float> (getNumSteps());
 }
 
+/** What is none of the choices has numbers of its own, so that whoever shows it sees it change. */
+float SettingParam::getFloat() const
+{
+    const auto index = options.get();
+    const auto isOther = index < 0 && options.otherText != nullptr;
+    return static_cast<float> (isOther ? -1 - options.otherText().getIntValue() : index);
+}
+
 void SettingParam::setInt (int value)
 {
     if (juce::isPositiveAndBelow (value, options.choices.size()) && value != options.get())

@@ -33,7 +33,7 @@ public:
     void setFromText (const juce::String& text) override;
     void setNormalisedNotifying (float normalised) override { setInt (indexOf (normalised)); }
     Parameters::MenuItems::Item getMenuChoices() override;
-    float getFloat() const override { return static_cast<float> (options.get()); }
+    float getFloat() const override;
     bool isHostVisible() const override { return false; }
     bool hasSteps() const override { return true; }
     int getNumSteps() const override { return options.choices.size() - 1; }

@@ -15,6 +15,23 @@ juce::String embedded (const char* fileName)
     const auto text = textOf (contentOf (fileName));
     return juce::String::fromUTF8 (text.data(), static_cast<int> (text.size()));
 }
+
+/** Of a link its words, of code the code. */
+juce::String withoutMarks (juce::String text)
+{
+    for (auto middle = text.indexOf ("]("); middle >= 0; middle = text.indexOf ("]("))
+    {
+        const auto start = text.substring (0, middle).lastIndexOfChar ('[');
+        const auto end = text.indexOfChar (middle, ')');
+
+        if (start < 0 || end < 0)
+            break;
+
+        text = text.substring (0, start) + text.substring (start + 1, middle) + text.substring (end + 1);
+    }
+
+    return text.removeCharacters ("`");
+}
 } // namespace
 
 juce::String paragraphsOf (const juce::String& markdown)
@@ -37,7 +54,7 @@ juce::String paragraphsOf (const juce::String& markdown)
         isOpen = text.isNotEmpty() && ! isHeading;
     }
 
-    return paragraphs.joinIntoString ("\n").trim();
+    return withoutMarks (paragraphs.joinIntoString ("\n").trim());
 }
 
 std::unique_ptr<TextPopup> TextPopup::news (EditorContext& context)

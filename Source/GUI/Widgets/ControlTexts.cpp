@@ -146,7 +146,7 @@ constexpr Row rows[] = {
       "",
       "Wheel turns knobs" },
     { "SettingsFolders", "Folders", "Where your files lie.", "", "Folders" },
-    { "SettingsPanic", "Panic", "End every note, here and in what Vornel plays.", "", "Stop every note" },
+    { "SettingsPanic", "Panic", "Let go of every key, and end what they play.", "", "Stop every note" },
     { "PresetLoadDefault", "Load Default", "What Vornel opens with." },
     { "PresetLoadInit", "Load Init", "Everything as before any preset: a clean start." },
     { "PresetShowFolder", "Show folder", "Where your own lie." },

@@ -58,7 +58,12 @@ TEST (SettingsPopup, ChangesWhatTheUserWantsAndNothingOfTheProject)
     EXPECT_TRUE (context.settings.get() == wanted);
     EXPECT_FALSE (context.edits.getUndo().canUndo());
 
-    editor.find<Choice> ("SettingsWindowSize").getParameter()->setFromText ("125 %");
+    auto& windowSize = *editor.find<Choice> ("SettingsWindowSize").getParameter();
+    editor.page.setSize (905, 625);
+    const auto first = windowSize.getFloat();
+    editor.page.setSize (1005, 695);
+    EXPECT_NE (windowSize.getFloat(), first) << "or it goes on showing the first of them";
+    windowSize.setFromText ("125 %");
     EXPECT_EQ (editor.page.getWidth(), 1375);
     context.settings.set (before);
 }
@@ -125,9 +130,9 @@ TEST (UpdateNotice, IsDueOnceAfterAnUpdate)
     file.deleteFile();
 }
 
-TEST (TextPopup, JoinsTheLinesOfAParagraph)
+TEST (TextPopup, JoinsTheLinesOfAParagraphAndDropsMarks)
 {
-    EXPECT_EQ (paragraphsOf ("## 1.0\n\n- One\n  more\n- Two\n\nLast\nline\n"),
-               juce::String::fromUTF8 ("## 1.0\n\n• One more\n• Two\n\nLast line"));
+    EXPECT_EQ (paragraphsOf ("## 1.0\n\n- One\n  [more](More.md)\n- Two (`2`)\n\nLast\nline\n"),
+               juce::String::fromUTF8 ("## 1.0\n\n• One more\n• Two (2)\n\nLast line"));
 }
 } // namespace Zn::GUI
