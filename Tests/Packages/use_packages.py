@@ -20,7 +20,7 @@ sys.path.append(str(Path(__file__).parents[1] / "Hosts"))
 from sessions import PATIENCE, Fault, end
 from x11 import Display
 
-URI = "https://brenvik.example/plugins/vornel"
+PLUGINS = "https://brenvik.example/plugins/"  # how their URIs begin
 USER = "musician"
 HOME = f"/home/{USER}"
 EXAMPLE = "doc/vornel/Examples/old-hundredth.mid"
@@ -39,12 +39,12 @@ assert library.GetPluginFactory(), "GetPluginFactory"
 assert library.ModuleExit(), "ModuleExit"
 """
 
-PLAY_IN_JALV = f"""
+PLAY_IN_JALV = """
 export JACK_NO_AUDIO_RESERVATION=1 JACK_NO_START_SERVER=1
 jackd --no-realtime -d dummy -r 48000 -p 256 > /dev/null 2>&1 &
 jackd=$!
 jack_wait -w -t 10 > /dev/null 2>&1
-(sleep 2; echo presets; sleep 2; echo quit) | timeout 30 jalv {URI} 2>&1
+(sleep 2; echo presets; sleep 2; echo quit) | timeout 30 jalv "$1" 2>&1
 status=$?
 kill $jackd
 wait $jackd
@@ -103,8 +103,8 @@ def check_libraries(system, programs):
 
 
 def check_tools(system, programs, share):
-    for tool in ("vornel-presets", "vornel-render", "vornel-tonq"):
-        demand_that("Usage" in system.run(f"{programs}/{tool}", "--help"), f"{tool} tells nothing")
+    for tool in Path(f"{system.root}/{programs}").glob("vornel*"):
+        demand_that("Usage" in system.run(f"{programs}/{tool.name}", "--help"), f"{tool.name} tells nothing")
 
     system.run(f"{programs}/vornel-render", f"{share}/{EXAMPLE}", "--out-wav", f"{system.home}/played.wav")
     played = Path(f"{system.root}/{system.home}/played.wav")
@@ -138,10 +138,19 @@ def check_window(system, program):
 
 
 def check_plugins(system, vst3):
-    demand_that(URI in system.run("lv2ls").split(), "no LV2 host finds the plug-in")
-    said = system.run("sh", "-c", PLAY_IN_JALV)
-    demand_that("JACK Name" in said, f"jalv does not run it:\n{said}")
-    system.run("python3", "-c", LOAD_VST3, f"{vst3}/Vornel.vst3/Contents/{os.uname().machine}-linux/Vornel.so")
+    uris = [uri for uri in system.run("lv2ls").split() if uri.startswith(PLUGINS)]
+    demand_that(PLUGINS + "vornel" in uris, "no LV2 host finds the plug-in")
+
+    for uri in uris:
+        said = system.run("sh", "-c", PLAY_IN_JALV, "jalv", uri)
+        demand_that("JACK Name" in said, f"jalv does not run {uri}:\n{said}")
+
+    bundles = Path(f"{system.root}/{vst3}")
+    libraries = list(bundles.glob(f"*.vst3/Contents/{os.uname().machine}-linux/*.so"))
+    demand_that(libraries, f"there is no VST3 in {vst3}")
+
+    for library in libraries:
+        system.run("python3", "-c", LOAD_VST3, f"{vst3}/{library.relative_to(bundles)}")
 
 
 def check_deb(system, package):

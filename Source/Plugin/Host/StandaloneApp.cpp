@@ -11,6 +11,7 @@
 
 #include <juce_audio_plugin_client/Standalone/juce_StandaloneFilterWindow.h>
 
+#include <iostream>
 #include <memory>
 
 namespace Zn::Audio
@@ -114,15 +115,10 @@ public:
 
     void initialise (const juce::String&) override
     {
-        juce::PropertiesFile::Options options;
-        options.applicationName = getApplicationName();
-        options.folderName = juce::File::getSpecialLocation (juce::File::userApplicationDataDirectory)
-                                 .getChildFile (JucePlugin_Manufacturer)
-                                 .getChildFile (JucePlugin_Name)
-                                 .getFullPathName();
-        options.filenameSuffix = ".settings";
-        properties.setStorageParameters (options);
-        window = std::make_unique<MainWindow> (getApplicationName(), properties.getUserSettings());
+        if (explain (getCommandLineParameterArray()))
+            quit();
+        else
+            open();
     }
 
     void shutdown() override
@@ -147,6 +143,35 @@ public:
     }
 
 private:
+    /** What words on the command line ask for needs no window. */
+    bool explain (const juce::StringArray& words)
+    {
+        if (words.contains ("--help"))
+            std::cout << "Usage: vornel\n\n"
+                         "Opens the window of Vornel, an arpeggiator that you draw.\n\n"
+                         "  --help     print this\n"
+                         "  --version  print the version\n";
+        else if (words.contains ("--version"))
+            std::cout << "vornel " << getApplicationVersion() << '\n';
+        else
+            return false;
+
+        return true;
+    }
+
+    void open()
+    {
+        juce::PropertiesFile::Options options;
+        options.applicationName = getApplicationName();
+        options.folderName = juce::File::getSpecialLocation (juce::File::userApplicationDataDirectory)
+                                 .getChildFile (JucePlugin_Manufacturer)
+                                 .getChildFile (JucePlugin_Name)
+                                 .getFullPathName();
+        options.filenameSuffix = ".settings";
+        properties.setStorageParameters (options);
+        window = std::make_unique<MainWindow> (getApplicationName(), properties.getUserSettings());
+    }
+
     juce::ApplicationProperties properties;
     std::unique_ptr<MainWindow> window;
 };
