@@ -26,27 +26,29 @@ IntParam::IntParam (ParamList& list,
                     const juce::String& id,
                     IntRange range,
                     int defaultValue,
-                    const juce::String& displayName)
+                    const juce::String& displayName,
+                    const juce::String& unit)
     : ListedParam (list,
                    id,
                    nameOr (displayName, id),
                    range.minimum,
                    range.maximum,
                    defaultValue,
-                   Parameters::wholeNumbers (range.minimum, range.maximum))
+                   Parameters::wholeNumbers (range.minimum, range.maximum).withLabel (unit))
 {}
 
 FloatParam::FloatParam (ParamList& list,
                         const juce::String& id,
                         FloatRange range,
                         float defaultValue,
-                        const juce::String& displayName)
+                        const juce::String& displayName,
+                        const juce::String& unit)
     : ListedParam (list,
                    id,
                    nameOr (displayName, id),
                    juce::NormalisableRange<float> (range.minimum, range.maximum), // no steps: see decimals()
                    defaultValue,
-                   Parameters::decimals())
+                   Parameters::decimals().withLabel (unit))
 {}
 
 ChoiceParam::ChoiceParam (ParamList& list,

@@ -4,7 +4,8 @@
 #include "Parameters/VolumeParameter.h"
 
 /** The holders that a parameter table is made of. Each joins the list that it is declared in, in the order of
-    declaration, and is shown as its identifier unless it is given a display name.
+    declaration, and is shown as its identifier unless it is given a display name. A unit is what hosts write behind the
+    text, which does not have it: texts are what preset files hold.
 
     `get()` is for the audio thread: it reads one atomic number, without a lock and without a text.
 */
@@ -33,7 +34,8 @@ struct IntParam : ListedParam<juce::AudioParameterInt>
               const juce::String& id,
               IntRange range,
               int defaultValue,
-              const juce::String& displayName = {});
+              const juce::String& displayName = {},
+              const juce::String& unit = {});
 
     int get() const noexcept { return (*this)->get(); }
 };
@@ -50,7 +52,8 @@ struct FloatParam : ListedParam<juce::AudioParameterFloat>
                 const juce::String& id,
                 FloatRange range,
                 float defaultValue,
-                const juce::String& displayName = {});
+                const juce::String& displayName = {},
+                const juce::String& unit = {});
 
     float get() const noexcept { return (*this)->get(); }
 };

@@ -29,8 +29,8 @@ struct Params : ParamList
 
     ChoiceParam quantize { *this, "Quantize", { "4/4", "2/4", "1/4", "1/8", "1/16", "1/32" }, 2 };
     BoolParam retrigger { *this, "Retrigger", false };
-    IntParam transpose { *this, "Transpose", { -12, 12 }, 0 }; // semitones
-    IntParam octave { *this, "Octave", { -3, 3 }, 0 };
+    IntParam transpose { *this, "Transpose", { -12, 12 }, 0, {}, "st" }; // semitones
+    IntParam octave { *this, "Octave", { -3, 3 }, 0, {}, "oct" };
     ChoiceParam key { *this, "Key", { "C", "Db", "D", "Eb", "E", "F", "Gb", "G", "Ab", "A", "Bb", "B" }, 0 };
     ChoiceParam arpActive { *this, "ArpActive", { "Off", "On" }, 1 };
     ListedParam<Sequencer::SwingParam> swing { *this, "Swing", "Swing" };

@@ -22,8 +22,8 @@ struct OSCParams : ParamList
 
     ListedParam<OscillatorParam> type;
     BoolParam enable { *this, "Enable", true };
-    IntParam octave { *this, "Octave", { -3, 3 }, 0 };
-    IntParam tune { *this, "Tune", { -24, 24 }, 0 }; // semitones
+    IntParam octave { *this, "Octave", { -3, 3 }, 0, {}, "oct" };
+    IntParam tune { *this, "Tune", { -24, 24 }, 0, {}, "st" }; // semitones
     VolumeParam volume { *this, "Volume", 6.0f, -15.0f };
     UnisonParams unison;
 };
@@ -39,23 +39,23 @@ struct OscillatorParams : ParamList
 struct SubOSCParams : ParamList
 {
     VolumeParam subVolume { *this, "SubVolume", 3.0f, 0.0f };
-    IntParam subOctave { *this, "SubOctave", { -3, 3 }, -2 };
+    IntParam subOctave { *this, "SubOctave", { -3, 3 }, -2, {}, "oct" };
 };
 
 struct FilterParams : ParamList
 {
     BoolParam enable { *this, "Enable", true };
-    FloatParam cutoff { *this, "Cutoff", { 10.0f, 12000.0f }, 8000.0f }; // Hz
-    FloatParam resonance { *this, "Resonance", { 0.1f, 3.0f }, 1.0f };   // Q
+    FloatParam cutoff { *this, "Cutoff", { 10.0f, 12000.0f }, 8000.0f, {}, "Hz" };
+    FloatParam resonance { *this, "Resonance", { 0.1f, 3.0f }, 1.0f }; // Q
     FloatParam keyTracking { *this, "KeyTracking", { 0.0f, 1.0f }, 1.0f, "Key Tracking" };
 };
 
 struct ADSRParams : ParamList
 {
-    FloatParam attack { *this, "Attack", { 0.005f, 1.0f }, 0.005f };  // seconds
-    FloatParam decay { *this, "Decay", { 0.005f, 1.0f }, 1.0f };      // seconds
-    FloatParam sustain { *this, "Sustain", { 0.005f, 1.0f }, 1.0f };  // level
-    FloatParam release { *this, "Release", { 0.005f, 1.0f }, 0.01f }; // seconds
+    FloatParam attack { *this, "Attack", { 0.005f, 1.0f }, 0.005f, {}, "s" };
+    FloatParam decay { *this, "Decay", { 0.005f, 1.0f }, 1.0f, {}, "s" };
+    FloatParam sustain { *this, "Sustain", { 0.005f, 1.0f }, 1.0f }; // level
+    FloatParam release { *this, "Release", { 0.005f, 1.0f }, 0.01f, {}, "s" };
 };
 
 /** Every parameter of the synth and of its delay, under the keys that presets store. The list of wavetables must live
