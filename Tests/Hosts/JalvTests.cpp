@@ -120,6 +120,24 @@ protected:
     JackSession session { client() };
 };
 
+/** Finds jalv with the factory preset "Down the Stairs" chosen from the host's own list. */
+class JalvPreset : public Jalv
+{};
+
+TEST_F (JalvPreset, PlaysThePatternThatTheHostHasLoaded)
+{
+    constexpr std::array stairs { 72, 67, 64, 60 };
+    const auto pressKeys = [] (Conductor& conductor, int) { conductor.pressKeys(); };
+    const auto onsets = play ({ .script = pressKeys, .numPeriods = 5 * periodsPerSecond }).onsets;
+    ASSERT_GE (onsets.size(), 15u); // eighths
+
+    // Its clock has run since it was loaded, so any step may have come first.
+    auto step = std::find (stairs.begin(), stairs.end(), onsets.front().pitch) - stairs.begin();
+
+    for (const auto& onset : onsets)
+        EXPECT_EQ (onset.pitch, stairs[static_cast<std::size_t> (step++) % stairs.size()]);
+}
+
 TEST_F (Jalv, PlaysByItselfWithoutASong)
 {
     const auto pressKeys = [] (Conductor& conductor, int) { conductor.pressKeys(); };

@@ -26,19 +26,17 @@ namespace
 {
 constexpr auto portBytes = 1 << 16;
 
-/** The plug-in's ports in their order. */
+/** The plug-in's ports in their order: those of the audio, two in and two out or none, and then these. */
 enum Port : std::uint32_t
 {
-    audioIn1,
-    audioIn2,
-    audioOut1,
-    audioOut2,
     eventsIn,
     eventsOut,
     latency,
     freeWheeling,
     enabled
 };
+
+constexpr std::size_t numStereoPorts = 4, firstOutput = 2;
 
 class Library
 {
@@ -105,12 +103,13 @@ struct SavedState
 
 struct LV2Host::Implementation
 {
-    Implementation (const std::string& path, double sampleRate, int maxBlockSize)
-        : library (path), descriptor (library.descriptor()), blockSize (maxBlockSize)
+    Implementation (const std::string& path, double sampleRate, int maxBlockSize, LV2Audio ports)
+        : library (path)
+        , descriptor (library.descriptor())
+        , blockSize (maxBlockSize)
+        , audio (ports == LV2Audio::stereo ? numStereoPorts : 0,
+                 std::vector<float> (static_cast<std::size_t> (maxBlockSize)))
     {
-        for (auto& channel : audio)
-            channel.resize (static_cast<std::size_t> (maxBlockSize));
-
         lv2_atom_forge_init (&forge, &map);
 
         instance = descriptor.instantiate (&descriptor, sampleRate, "", features.data());
@@ -118,14 +117,18 @@ struct LV2Host::Implementation
         if (instance == nullptr)
             throw std::runtime_error ("no LV2 instance");
 
-        for (auto port : { audioIn1, audioIn2, audioOut1, audioOut2 })
+        for (std::uint32_t port = 0; port < audio.size(); ++port)
             descriptor.connect_port (instance, port, audio[port].data());
 
-        descriptor.connect_port (instance, eventsIn, input.bytes());
-        descriptor.connect_port (instance, eventsOut, output.bytes());
-        descriptor.connect_port (instance, latency, &latencyValue);
-        descriptor.connect_port (instance, freeWheeling, &freeWheelingValue);
-        descriptor.connect_port (instance, enabled, &enabledValue);
+        const auto connect = [this] (Port port, void* data) {
+            descriptor.connect_port (instance, static_cast<std::uint32_t> (audio.size()) + port, data);
+        };
+
+        connect (eventsIn, input.bytes());
+        connect (eventsOut, output.bytes());
+        connect (latency, &latencyValue);
+        connect (freeWheeling, &freeWheelingValue);
+        connect (enabled, &enabledValue);
         descriptor.activate (instance);
     }
 
@@ -252,15 +255,15 @@ struct LV2Host::Implementation
         &mapFeature, &optionsFeature, &boundedFeature, nullptr
     };
 
-    std::array<std::vector<float>, 4> audio; // by port
+    std::vector<std::vector<float>> audio; // by port
     EventPort input, output;
     LV2_Atom_Forge forge {};
-    float latencyValue = 0.0f, freeWheelingValue = 0.0f, enabledValue = 1.0f;
+    float latencyValue = -1.0f, freeWheelingValue = 0.0f, enabledValue = 1.0f;
     LV2_Handle instance = nullptr;
 };
 
-LV2Host::LV2Host (const std::string& library, double sampleRate, int maxBlockSize)
-    : implementation (std::make_unique<Implementation> (library, sampleRate, maxBlockSize))
+LV2Host::LV2Host (const std::string& library, double sampleRate, int maxBlockSize, LV2Audio ports)
+    : implementation (std::make_unique<Implementation> (library, sampleRate, maxBlockSize, ports))
 {}
 
 LV2Host::~LV2Host() = default;
@@ -284,7 +287,20 @@ int LV2Host::heapCallsOfRun (int numSamples, const std::vector<LV2Message>& mess
 
 const std::vector<float>& LV2Host::audioOutput (int channel) const
 {
-    return implementation->audio[static_cast<std::size_t> (audioOut1 + static_cast<std::uint32_t> (channel))];
+    static const std::vector<float> none;
+    return implementation->audio.empty()
+               ? none
+               : implementation->audio[firstOutput + static_cast<std::size_t> (channel)];
+}
+
+float LV2Host::getLatency() const
+{
+    return implementation->latencyValue;
+}
+
+void LV2Host::setEnabled (bool shouldBeEnabled)
+{
+    implementation->enabledValue = shouldBeEnabled ? 1.0f : 0.0f;
 }
 
 juce::MemoryBlock LV2Host::save()
@@ -318,8 +334,12 @@ juce::MemoryBlock LV2Host::save()
 
 void LV2Host::restore (const juce::MemoryBlock& chunk)
 {
+    restore (chunk.toBase64Encoding().toStdString());
+}
+
+void LV2Host::restore (const std::string& text)
+{
     // Asked for by the plug-in's own key, which is the only one that it saves under.
-    const auto text = chunk.toBase64Encoding().toStdString();
     auto state = std::pair { text, implementation->urids[LV2_ATOM__String] };
     const auto retrieve = [] (LV2_State_Handle handle,
                               std::uint32_t,

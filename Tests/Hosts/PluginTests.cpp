@@ -228,6 +228,49 @@ TEST_F (Plugin, PlaysAProjectOfTheOtherFormat)
     EXPECT_EQ (documentIn (back.save()), documentIn (lv2.save()));
 }
 
+TEST_F (Plugin, EndsItsNotesAndHandsTheKeysThroughWhileBypassed)
+{
+    LV2Host lv2 { VORNEL_LV2_LIBRARY, 48000.0, blockSize };
+    VST3Host vst3 { VORNEL_VST3_BUNDLE, 48000.0, blockSize };
+
+    const auto check = [] (auto&& run, auto&& setBypassed) {
+        juce::MidiBuffer events;
+        auto start = 0;
+        const auto playOn = [&] (int numBlocks, const juce::MidiBuffer& keys) {
+            juce::MidiBuffer played;
+
+            for (auto block = 0; block < numBlocks; ++block, start += blockSize)
+                played.addEvents (run (block == 0 ? keys : juce::MidiBuffer {}), 0, -1, start);
+
+            events.addEvents (played, 0, -1, 0);
+            return played;
+        };
+
+        juce::MidiBuffer chord, key, release;
+        chord.addEvent (juce::MidiMessage::noteOn (1, 60, juce::uint8 { 100 }), 0);
+        key.addEvent (juce::MidiMessage::noteOn (1, 90, juce::uint8 { 100 }), 7);
+        release.addEvent (juce::MidiMessage::noteOff (1, 90), 7);
+        release.addEvent (juce::MidiMessage::noteOff (1, 60), 7);
+
+        EXPECT_GT (playOn (blocksPerSecond, chord).getNumEvents(), 5);
+
+        setBypassed (true);
+        playOn (1, {});
+        EXPECT_EQ (stillSounding (events), "");
+        EXPECT_EQ (playOn (blocksPerSecond, key).getNumEvents(), 1) << "the key and no pattern";
+
+        setBypassed (false);
+        playOn (blocksPerSecond, release);
+        playOn (blocksPerSecond, {});
+        EXPECT_EQ (stillSounding (events), "");
+    };
+
+    check ([&] (const auto& keys) { return lv2.run (blockSize, keys, {}); },
+           [&] (bool bypassed) { lv2.setEnabled (! bypassed); });
+    check ([&] (const auto& keys) { return vst3.run (blockSize, keys); },
+           [&] (bool bypassed) { vst3.getPlugin().getBypassParameter()->setValue (bypassed ? 1.0f : 0.0f); });
+}
+
 TEST_F (Plugin, AllocatesNothingWhileAnLV2HostRunsIt)
 {
     LV2Host host { VORNEL_LV2_LIBRARY, 48000.0, blockSize };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <span>
 
 namespace Zn::Test
 {
@@ -122,8 +123,10 @@ Performance play (LV2Host& host, const Song& song, Talk talk)
     auto performance = perform (song, playHead, [&] (int size, const juce::MidiBuffer& midi) {
         auto output = host.run (size, midi, narrator.messagesOfBlock (size));
 
-        for (auto i = 0; i < size; ++i)
-            loudest = std::max (loudest, std::abs (host.audioOutput (0)[static_cast<std::size_t> (i)]));
+        for (auto sample :
+             std::span (host.audioOutput (0))
+                 .first (std::min (std::size (host.audioOutput (0)), static_cast<std::size_t> (size))))
+            loudest = std::max (loudest, std::abs (sample));
 
         return output;
     });

@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
-"""Judges an LV2 bundle as hosts do before they load it: its Turtle, and whether it is found under its URI.
+"""Judges an LV2 bundle as hosts do before they load it: its Turtle, and what they find: its URI, its class, its presets.
 
-    check_lv2_bundle.py BUNDLE URI
+    check_lv2_bundle.py BUNDLE URI CLASS PRESETS
+
+CLASS is the class's name, PRESETS the number of presets.
 """
 
 import os
@@ -16,8 +18,6 @@ KNOWN_ERRORS = (
     ("Subject not in domain", "lv2core#portProperty"),  # of a parameter with steps, which is no port
     ("Object not in range", "ui#noUserResize"),
     ("Object not in range", "options#interface"),
-    ("Use of undefined property", ":Program"),
-    ("has no label", ":Program"),
 )
 
 
@@ -31,15 +31,23 @@ def unknown_errors(report):
     return [e for e in errors if not any(kind in e and word in e for kind, word in KNOWN_ERRORS)]
 
 
-def faults_of(bundle, uri):
-    for turtle in sorted(bundle.glob("*.ttl")):
+def listed_presets(info):
+    """The labels that lv2info has listed, each on a line of its own behind the first."""
+    lines = info.partition("Presets:")[2].partition("\n\tPort 0:")[0].splitlines()
+    return [line.strip() for line in lines if line.strip()]
+
+
+def faults_of(bundle, uri, plugin_class, num_presets):
+    turtles = sorted(bundle.rglob("*.ttl"))
+
+    for turtle in turtles:
         # A full base lets relative names, such as that of the library, be read.
         code, report = output_of("sordi", turtle.as_posix(), turtle.as_uri())
 
         if code != 0 or not report.strip():
             yield f"{turtle.name} is no Turtle: {report.strip()}"
 
-    _, report = output_of("lv2_validate", *map(str, sorted(bundle.glob("*.ttl"))))
+    _, report = output_of("lv2_validate", *map(str, turtles))
 
     if "checked" not in report:
         yield f"lv2_validate did not run: {report.strip()}"
@@ -51,9 +59,20 @@ def faults_of(bundle, uri):
     if found.split() != [uri]:
         yield f"hosts find {found.split()}, not {uri}"
 
+    _, info = output_of("lv2info", uri, LV2_PATH=f"{bundle.parent}:/usr/lib/lv2")
+
+    if f"Class:             {plugin_class}\n" not in info:
+        yield f"hosts do not list it as {plugin_class}"
+
+    presets = listed_presets(info)
+
+    if len(set(presets)) != num_presets or "WELCOME" not in presets:
+        yield f"hosts list {len(set(presets))} presets, not {num_presets}: {presets}"
+
 
 def main():
-    faults = list(faults_of(Path(sys.argv[1]).resolve(), sys.argv[2]))
+    bundle, uri, plugin_class, num_presets = sys.argv[1:]
+    faults = list(faults_of(Path(bundle).resolve(), uri, plugin_class, int(num_presets)))
     print("\n".join(faults) or "The bundle is in order.")
     return 1 if faults else 0
 

@@ -24,12 +24,12 @@ def time_left():
 
 
 @contextmanager
-def running(command, environment, folder):
+def running(command, environment, folder, stdin=subprocess.DEVNULL):
     """A program in the background. Ends it in any case, and shows what it said if something went wrong."""
     log = folder / f"{Path(command[0]).name}.log"
 
     with open(log, "wb") as output:
-        process = subprocess.Popen(command, env=environment, stdin=subprocess.DEVNULL, stdout=output, stderr=output)
+        process = subprocess.Popen(command, env=environment, stdin=stdin, stdout=output, stderr=output)
 
     try:
         yield process

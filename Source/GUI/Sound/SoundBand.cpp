@@ -102,7 +102,7 @@ void SoundBand::schemeChanged()
 
 void SoundBand::poll()
 {
-    const auto synthIsOn = context.state().params.sound.synthEnable.get();
+    const auto synthIsOn = soundsNow (context);
     showAsOn (master, synthIsOn);
     showAsOn (foldedValue, synthIsOn);
 }

@@ -27,7 +27,7 @@ void SoundCard::setPower (juce::Component& powerButton, std::function<bool()> is
 
 void SoundCard::poll()
 {
-    const auto synthIsOn = context.state().params.sound.synthEnable.get();
+    const auto synthIsOn = soundsNow (context);
     const auto partIsOn = isOn == nullptr || isOn();
 
     for (auto* child : getChildren())
@@ -51,6 +51,11 @@ void SoundCard::paint (juce::Graphics& g)
 std::unique_ptr<juce::AccessibilityHandler> SoundCard::createAccessibilityHandler()
 {
     return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
+}
+
+bool soundsNow (const EditorContext& context) noexcept
+{
+    return context.state().params.sound.synthEnable.get() && ! context.processor.isMidiEffect();
 }
 
 void showAsOn (juce::Component& component, bool isOn)

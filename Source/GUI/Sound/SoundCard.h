@@ -38,6 +38,9 @@ private:
     Events::Listener pollListener;
 };
 
+/** Whether the synth is on, in a plug-in that has one. */
+bool soundsNow (const EditorContext& context) noexcept;
+
 /** As faint as what is off, or not at all. */
 void showAsOn (juce::Component& component, bool isOn);
 } // namespace Zn::GUI

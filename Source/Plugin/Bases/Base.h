@@ -16,7 +16,7 @@ template <typename StateType>
 class Base : public SharedBase
 {
 public:
-    Base() : state (std::make_unique<StateType>())
+    explicit Base (Role role = Role::instrument) : SharedBase (role), state (std::make_unique<StateType>())
     {
         state->params.forwardTo (hostParameters);
         hostParameters.addTo (*this);

@@ -9,8 +9,9 @@ namespace Zn::Audio::Plugin
     What a project has brought is loaded before the first block, where the message thread can be had, and before any
     block of an offline render, which does not play on without it.
 
-    A block always leaves with its audio input cleared. Mono blocks and blocks of no samples go no further. Rates and
-    sizes that make no sense are replaced, so that everything behind this class may rely on them.
+    A block always leaves with its audio input cleared. Mono blocks and blocks of no samples go no further. A MIDI effect,
+    whose host brings no audio, works on silence of its own. Rates and sizes that make no sense are replaced, so that
+    everything behind this class may rely on them.
 */
 template <typename StateType>
 class Processor : public Base<StateType>
@@ -22,7 +23,12 @@ public:
     {
         this->finishPendingLoad();
         const auto usable = sampleRate > 0.0 && maxBlockSize > 0;
-        prepare (usable ? sampleRate : defaultSampleRate, usable ? maxBlockSize : defaultBlockSize);
+        const auto mostSamples = usable ? maxBlockSize : defaultBlockSize;
+
+        if (this->isMidiEffect())
+            silence.setSize (stereo, mostSamples);
+
+        prepare (usable ? sampleRate : defaultSampleRate, mostSamples);
     }
 
     void processBlock (juce::AudioBuffer<float>& audio, juce::MidiBuffer& midi) final
@@ -70,13 +76,28 @@ private:
         if (this->isNonRealtime())
             this->finishPendingLoad();
 
-        if (audio.getNumChannels() < 2)
+        if (audio.getNumChannels() < stereo && ! this->isMidiEffect())
             return;
 
         if (audio.getNumSamples() == 0)
             keepForNextBlock (midi);
         else
-            (this->*step) (audio, midi);
+            (this->*step) (this->isMidiEffect() ? silenceOf (audio.getNumSamples()) : audio, midi);
     }
+
+    juce::AudioBuffer<float>& silenceOf (int numSamples) noexcept
+    {
+        silence.setSize (stereo,
+                         numSamples,
+                         false,
+                         false,
+                         true); // allocates for a block longer than announced
+        silence.clear();
+        return silence;
+    }
+
+    static constexpr int stereo = 2;
+
+    juce::AudioBuffer<float> silence; // of a MIDI effect
 };
 } // namespace Zn::Audio::Plugin

@@ -2,11 +2,17 @@
 
 namespace Zn::Audio
 {
-ProcessorBase::ProcessorBase()
-    : AudioProcessor (BusesProperties()
-                          .withInput ("Input", juce::AudioChannelSet::stereo())
-                          .withOutput ("Output", juce::AudioChannelSet::stereo()))
-{}
+ProcessorBase::ProcessorBase (Role role) : AudioProcessor (busesOf (role)), ownRole (role) {}
+
+juce::AudioProcessor::BusesProperties ProcessorBase::busesOf (Role role)
+{
+    if (role == Role::midiEffect)
+        return {};
+
+    return BusesProperties()
+        .withInput ("Input", juce::AudioChannelSet::stereo())
+        .withOutput ("Output", juce::AudioChannelSet::stereo());
+}
 
 bool ProcessorBase::isBusesLayoutSupported (const BusesLayout& layout) const
 {

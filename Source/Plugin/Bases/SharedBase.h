@@ -30,7 +30,7 @@ class SharedBase : public ProcessorBase
     const Singleton::UserToken singletons; // first: whatever comes after may use them to its end
 
 public:
-    SharedBase() = default;
+    explicit SharedBase (Role role = Role::instrument) : ProcessorBase (role) {}
     ~SharedBase() override;
 
     /** Thread: any. */

@@ -3,5 +3,5 @@
 /** What every format's client calls for a new instance, and then owns. */
 juce::AudioProcessor* JUCE_CALLTYPE createPluginFilter()
 {
-    return new Zn::Audio::HostedProcessor();
+    return Zn::Audio::makeHostedProcessor().release();
 }

@@ -32,9 +32,7 @@ thread_local bool isDescribing = false;
 template <typename Create>
 std::unique_ptr<juce::AudioProcessor> makeProcessor (Create&& create)
 {
-    using Plugins::Vornel::StartUp;
-
-    auto processor = isDescribing ? std::make_unique<HostedProcessor> (StartUp::empty) : create();
+    auto processor = isDescribing ? makeHostedProcessor (Plugins::Vornel::StartUp::empty) : create();
     newestProcessor = processor.get();
     return processor;
 }

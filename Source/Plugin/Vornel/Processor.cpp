@@ -19,8 +19,9 @@ void loadDefaultPresets (State& state) noexcept
 }
 } // namespace
 
-Processor::Processor (StartUp startUp)
-    : midi (*state)
+Processor::Processor (StartUp startUp, Role role)
+    : Plugin::Processor<State> (role)
+    , midi (*state)
     , sound (*state)
     , patternListener (state->patterns.getAudioBroadcaster(), [this] { publishPatterns(); })
     , learnListener (state->learnMap.getTableBroadcaster(),
@@ -82,8 +83,26 @@ void Processor::prepare (double sampleRate, int maxBlockSize)
         spare.prepare (sampleRate, maxBlockSize);
 
     midi.prepare (maxBlockSize);
-    sound.prepare (sampleRate, maxBlockSize);
+
+    if (! isMidiEffect())
+        sound.prepare (sampleRate, maxBlockSize);
+
     state->followChanges();
+}
+
+void Processor::release()
+{
+    if (! isMidiEffect())
+        sound.silence();
+}
+
+double Processor::getTailLengthSeconds() const
+{
+    if (isMidiEffect())
+        return 0.0;
+
+    const auto& synth = state->params.sound.synth;
+    return double (synth.adsr.release.get()) + synth.delay.tailSeconds (double (state->playHead->bpm.load()));
 }
 
 void Processor::process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept
@@ -102,7 +121,9 @@ void Processor::processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuff
     const auto& patterns = newestPatterns();
     const auto block = advanceClock (audio.getNumSamples());
 
-    sound.processBypassed (hostMidi);
+    if (! isMidiEffect())
+        sound.processBypassed (hostMidi);
+
     midi.processBypassed (hostMidi, block, patterns, learnReader.newest());
 }
 

@@ -28,8 +28,11 @@ enum class StartUp
 class Processor : public Plugin::Processor<State>
 {
 public:
-    explicit Processor (StartUp startUp = StartUp::presets);
+    explicit Processor (StartUp startUp = StartUp::presets, Role role = Role::instrument);
     ~Processor() override;
+
+    /** How long a note sounds on when its key is up: its release, then its echoes. Thread: any. */
+    double getTailLengthSeconds() const override;
 
     /** Makes the chance of steps repeatable, for renders that must agree. Thread: prepare. */
     void setSeed (juce::int64 seed) noexcept { midi.setSeed (seed); }
@@ -39,7 +42,7 @@ public:
 
 protected:
     void prepare (double sampleRate, int maxBlockSize) override;
-    void release() override { sound.silence(); }
+    void release() override;
     void process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept override;
     void processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept override;
     void keepForNextBlock (juce::MidiBuffer& hostMidi) noexcept override { midi.keepForNextBlock (hostMidi); }
