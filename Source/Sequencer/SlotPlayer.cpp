@@ -2,6 +2,7 @@
 
 #include "Sequencer/LoopPositions.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -10,6 +11,23 @@ namespace Zn::Sequencer
 namespace
 {
 constexpr double shortestLoop = 0.001; // quarter notes
+
+/** Whether the song goes back between two samples, as in a loop of the host's; by less it only jitters. */
+bool fallsBack (double before, double after) noexcept
+{
+    constexpr auto jitter = 0.05; // quarter notes
+    return after < before - jitter;
+}
+
+/** How far it is to where the song goes back. */
+std::size_t sizeUpToFall (std::span<const double> ppq) noexcept
+{
+    if (ppq.back() >= ppq.front()) // a loop lasts longer than a block
+        return ppq.size();
+
+    const auto fall = std::adjacent_find (ppq.begin(), ppq.end(), fallsBack);
+    return static_cast<std::size_t> (fall - ppq.begin()) + (fall != ppq.end() ? 1 : 0);
+}
 
 bool isHeard (const ClockSlice& clock, const RenderedSlot& slot) noexcept
 {
@@ -41,22 +59,31 @@ void SlotPlayer::run (const ClockSlice& clock,
     firedMarks.clear();
 
     player.setSamplePeriod (clock.ppqPerSample);
-    const auto arrival = arrive (clock);
+    auto arrival = arrive (clock);
     const PatternOutput output { rows, firedMarks, offset };
     const auto& played = isHeard (clock, slot) ? slot : fallback;
 
-    positions.resize (clock.ppq.size());
-    fillPositions (positions, clock.ppq, anchor);
+    for (auto rest = clock.ppq; ! rest.empty();)
+    {
+        const auto pass = rest.first (sizeUpToFall (rest));
+        runPass (played, pass, arrival, output.from (clock.size() - static_cast<int> (rest.size())));
+        rest = rest.subspan (pass.size());
 
-    if (played.looping)
-        runLoop (played, arrival, output);
-    else
-        player.run (played.events, positions, arrival, output);
+        if (! rest.empty())
+        {
+            resetAnchor();
+            arrival = Arrival::wrapped;
+        }
+    }
+
+    lastPpq = clock.ppq.back();
 }
 
 Arrival SlotPlayer::arrive (const ClockSlice& clock) noexcept
 {
-    if (clock.jumped)
+    const auto songWrapped = fallsBack (lastPpq, clock.ppq.front());
+
+    if (clock.jumped || songWrapped)
         resetAnchor();
 
     if (std::exchange (mode, Mode::normal) == Mode::anchorAgain)
@@ -67,7 +94,24 @@ Arrival SlotPlayer::arrive (const ClockSlice& clock) noexcept
 
     const auto begins = clock.stateChanged && clock.isPlaying;
 
-    return clock.jumped || begins ? Arrival::jumped : Arrival::continues;
+    if (clock.jumped || begins)
+        return Arrival::jumped;
+
+    return songWrapped ? Arrival::wrapped : Arrival::continues;
+}
+
+void SlotPlayer::runPass (const RenderedSlot& slot,
+                          std::span<const double> ppq,
+                          Arrival arrival,
+                          const PatternOutput& output) noexcept
+{
+    positions.resize (ppq.size());
+    fillPositions (positions, ppq, anchor);
+
+    if (slot.looping)
+        runLoop (slot, arrival, output);
+    else
+        player.run (slot.events, positions, arrival, output);
 }
 
 void SlotPlayer::runLoop (const RenderedSlot& slot, Arrival arrival, const PatternOutput& output) noexcept

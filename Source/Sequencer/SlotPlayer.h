@@ -12,8 +12,9 @@ inline const RenderedSlot fallback { .playing = false, .looping = false, .playLe
 /** Plays one of the eight patterns against the clock: repeats it, and knows where on the clock it begins.
 
     A looping pattern is played pass by pass: where its position falls back, a new run begins in the middle of
-    the block. Before its anchor a pattern plays nothing. It outlives the frames of pattern data, so a new frame
-    never cuts a note. Thread: audio.
+    the block. So it does where the song goes back, as in a loop of the host's; from there on the pattern counts
+    from the start of the song. Before its anchor a pattern plays nothing. It outlives the frames of pattern data,
+    so a new frame never cuts a note. Thread: audio.
 */
 class SlotPlayer
 {
@@ -50,10 +51,15 @@ private:
     };
 
     Arrival arrive (const ClockSlice& clock) noexcept;
+    void runPass (const RenderedSlot& slot,
+                  std::span<const double> ppq,
+                  Arrival arrival,
+                  const PatternOutput& output) noexcept;
     void runLoop (const RenderedSlot& slot, Arrival arrival, const PatternOutput& output) noexcept;
 
     Mode mode = Mode::normal;
     double pendingAnchor = 0.0, anchor = 0.0; // quarter notes on the clock
+    double lastPpq = 0.0;                     // quarter notes on the clock, where the last run ended
     double playedLength = 0.0;                // quarter notes of the loop that was played last
     std::vector<double> positions;            // quarter notes in the pattern, one for each sample of the run
     FiredMarks firedMarks;

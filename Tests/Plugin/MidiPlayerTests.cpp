@@ -13,6 +13,7 @@ namespace
 using Test::events;
 using Test::TestHost;
 using testing::ElementsAre;
+using testing::ElementsAreArray;
 using testing::IsEmpty;
 
 constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
@@ -114,6 +115,36 @@ TEST (MidiPlayer, FollowsTheHostsJumpsAndLoops)
 
     p.stopAndLetGo();
     EXPECT_EQ (p.host.unbalanced(), "");
+}
+
+TEST (MidiPlayer, LoopsOnTheSampleWhereverItLiesInABlock)
+{
+    for (const auto arp : { false, true })
+        for (const auto blockSize : { 480, 441, 512, 7001 })
+        {
+            ChordPlayer p (arp);
+            p.drawQuarters (0, 0);
+            p.host.nextBlockSize = [blockSize] { return blockSize; };
+            p.host.playHead.jumpTo (3.0);
+            p.host.playHead.setLoop (3.0, 10.0); // of a bar and of a file no whole number
+            p.host.run (14 * quarter - 1);
+
+            SCOPED_TRACE (testing::Message() << (arp ? "pattern" : "keys") << " in blocks of " << blockSize);
+
+            for (const auto& [pitch, starts] : { std::pair (48, std::vector { 0 }),
+                                                 std::pair (55, std::vector { 1, 2, 3, 4 }),
+                                                 std::pair (57, std::vector { 5, 6 }) })
+            {
+                std::vector<int> expected;
+
+                for (const auto pass : { 0, 7 })
+                    for (const auto start : starts)
+                        if (arp || start == starts.front())
+                            expected.push_back ((start + pass) * quarter);
+
+                EXPECT_THAT (startsOf (p.host, pitch), ElementsAreArray (expected)) << pitch;
+            }
+        }
 }
 
 TEST (MidiPlayer, LeavesNothingHangingWhateverHappens)

@@ -88,7 +88,9 @@ InternalPlayHead::InternalPlayHead()
 
 void InternalPlayHead::prepare (double newSampleRate, int blockSize)
 {
-    ppqBySample.reserve (static_cast<std::size_t> (std::max (blockSize, 0)));
+    for (auto* table : { &ppqBySample, &songPpq })
+        table->reserve (static_cast<std::size_t> (std::max (blockSize, 0)));
+
     sampleRate = newSampleRate;
     updateRate();
 }
@@ -152,6 +154,7 @@ void InternalPlayHead::update (juce::AudioPlayHead* host, int numSamples) noexce
     expectedSample = playing ? time + n : time;
 
     ppqBySample.resize (static_cast<std::size_t> (n));
+    loopsInside = false;
 
     if (playing)
         fillPlaying (n);
@@ -205,6 +208,8 @@ void InternalPlayHead::fillPlaying (int numSamples) noexcept
     for (auto i = 0; i < numSamples; ++i)
         ppqBySample[static_cast<std::size_t> (i)] = rounded (startPpq + i * ppqPerSample);
 
+    fillSong();
+
     if (loop.ppqEnd > loop.ppqStart)
         for (auto& ppq : ppqBySample)
             ppq = wrapIntoLoop (ppq);
@@ -212,6 +217,23 @@ void InternalPlayHead::fillPlaying (int numSamples) noexcept
     endPpq = wrapIntoLoop (startPpq + numSamples * ppqPerSample);
     info.setTimeInSamples (expectedSample);
     info.setPpqPosition (endPpq);
+}
+
+/** Where a loop is so short that it would wrap more than once, the song is left as the host tells it. */
+void InternalPlayHead::fillSong() noexcept
+{
+    const auto length = loop.ppqEnd - loop.ppqStart;
+    const auto isInside = startPpq >= loop.ppqStart && startPpq < loop.ppqEnd;
+
+    if (ppqBySample.empty() || ! isInside || ppqBySample.back() < loop.ppqEnd
+        || ppqBySample.back() - startPpq >= length)
+        return;
+
+    loopsInside = true;
+    songPpq.resize (ppqBySample.size());
+    std::ranges::transform (ppqBySample, songPpq.begin(), [&] (double ppq) {
+        return ppq < loop.ppqEnd ? ppq : rounded (ppq - length);
+    });
 }
 
 /** Only the loop's own range is wrapped, which moves its very end: a position the host puts beyond it stays.

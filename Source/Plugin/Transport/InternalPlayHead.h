@@ -54,6 +54,11 @@ public:
     std::int64_t getTimeInSamples() const noexcept;          // just past the block; 0 if unknown
     std::span<const double> getPpqBySample() const noexcept { return ppqBySample; }
 
+    /** The same as the song goes on behind the end of the host's loop: at the loop's start. A host that does not cut
+        its blocks there tells of it with its next block only.
+    */
+    std::span<const double> getSongPpq() const noexcept { return loopsInside ? songPpq : ppqBySample; }
+
     /** Whether a clock can run at this tempo: finite, at least 1, and not beyond what any music has. */
     static bool isUsableTempo (double bpm) noexcept;
 
@@ -62,6 +67,7 @@ private:
     void updateRate() noexcept;
     bool isAwayFrom (std::int64_t time) const noexcept;
     void fillPlaying (int numSamples) noexcept;
+    void fillSong() noexcept;
     double wrapIntoLoop (double ppq) const noexcept;
 
     bool jumped = false;
@@ -73,6 +79,8 @@ private:
     std::int64_t expectedSample = 0;     // where the next block should start
     bool jumpForced = false;
     std::vector<double> ppqBySample; // quarter notes, one a sample of the block
+    std::vector<double> songPpq;     // the same, if the song wraps inside the block
+    bool loopsInside = false;
     PositionInfo info;
     LoopPoints loop; // quarter notes; empty unless the host loops
 };

@@ -32,7 +32,7 @@ TransportSlice TransportSlice::part (BlockSlice run) const noexcept
 
 Sequencer::ClockSlice TransportSlice::clock() const noexcept
 {
-    const auto positions = view->getPpqBySample();
+    const auto positions = view->getSongPpq();
 
     return { positions.subspan (static_cast<std::size_t> (offset), static_cast<std::size_t> (length)),
              view->isPlaying(),
