@@ -430,17 +430,29 @@ TEST (ClockSelection, DoesNotLoopItsOwnClockWithTheHost)
 
 TEST (ClockSelection, MovesTheInternalClockWhereTheEditorPutsIt)
 {
-    Clock clock;
-    clock.run (nullptr);
-    clock.shared.positionPpq = 0.0;
-    clock.shared.positionSamples = 0;
-    clock.run (nullptr);
+    for (const auto isMovedWhileABlockRuns : { false, true })
+    {
+        TestPlayHead host;
+        Clock clock;
+        clock.shared.internalClock = true;
+        clock.run (host);
 
-    EXPECT_TRUE (clock.internal.hasJumped());
-    EXPECT_EQ (clock.internal.getStartPpq(), 0.0);
+        if (isMovedWhileABlockRuns)
+        {
+            host.edit = [&] (auto&) { clock.shared.moveTo (8.0); };
+            clock.run (host);
+            host.edit = nullptr;
+        }
+        else
+            clock.shared.moveTo (8.0);
 
-    clock.run (nullptr);
-    EXPECT_FALSE (clock.internal.hasJumped());
+        clock.run (host);
+        EXPECT_TRUE (clock.internal.hasJumped()) << isMovedWhileABlockRuns;
+        EXPECT_EQ (clock.internal.getStartPpq(), 8.0) << isMovedWhileABlockRuns;
+
+        clock.run (host);
+        EXPECT_FALSE (clock.internal.hasJumped()) << isMovedWhileABlockRuns;
+    }
 }
 
 TEST (ClockSelection, TakesTheEditorsTempoFromAHostWithoutOne)

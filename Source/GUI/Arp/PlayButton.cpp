@@ -26,18 +26,8 @@ void PlayButton::flip()
 
 void PlayButton::rewind()
 {
-    if (! isEnabled())
-        return;
-
-    rewoundFrom = playHead.positionPpq.load();
-    writeStart();
-}
-
-/** The samples come last: the audio thread takes them for the sign that both have moved. */
-void PlayButton::writeStart()
-{
-    playHead.positionPpq.store (0.0);
-    playHead.positionSamples.store (0);
+    if (isEnabled())
+        playHead.moveTo (0.0);
 }
 
 void PlayButton::poll()
@@ -46,12 +36,6 @@ void PlayButton::poll()
 
     if (std::exchange (plays, now) != now)
         repaint();
-
-    // A block that ended meanwhile has put its own position over ours.
-    if (rewoundFrom && *rewoundFrom > 0.0 && playHead.positionPpq.load() >= *rewoundFrom)
-        writeStart();
-    else
-        rewoundFrom.reset();
 }
 
 void PlayButton::mouseDown (const juce::MouseEvent& event)

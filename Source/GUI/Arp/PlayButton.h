@@ -3,8 +3,6 @@
 #include "GUI/Framework/SVGPainter.h"
 #include "GUI/Widgets/Control.h"
 
-#include <optional>
-
 namespace Zn::GUI
 {
 /** Starts and stops the internal clock, with Alt it goes back to the start; where something else is in charge of the
@@ -30,11 +28,9 @@ public:
 private:
     void paintControl (juce::Graphics& g) override;
     void poll() override;
-    void writeStart();
 
     Sequencer::PlayHead& playHead;
     SVGPainter playIcon { "play.svg" }, stopIcon { "stop.svg" };
     bool plays = false;
-    std::optional<double> rewoundFrom; // quarter notes; until the clock has followed
 };
 } // namespace Zn::GUI

@@ -101,7 +101,7 @@ void Ruler::movePosition (double time)
     auto& state = context.editor.state();
     auto& clock = *state.playHead;
 
-    if (! clock.internalClock.load())
+    if (! clock.isMovable())
         return;
 
     const auto& slot = state.patterns.getSlots()[static_cast<std::size_t> (context.editor.shownSlot.get())];
@@ -110,7 +110,6 @@ void Ruler::movePosition (double time)
     const auto now = clock.positionPpq.load();
     const auto start = passed >= 0.0 ? now - passed : std::floor (now / length) * length;
 
-    clock.positionPpq.store (std::max (0.0, start) + time * length);
-    clock.positionSamples.fetch_add (1); // which tells the audio thread that it has moved
+    clock.moveTo (std::max (0.0, start) + time * length);
 }
 } // namespace Zn::GUI

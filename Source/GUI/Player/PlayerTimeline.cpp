@@ -116,8 +116,7 @@ int PlayerTimeline::chordNow() const
 
 bool PlayerTimeline::canJump() const
 {
-    auto* const host = context.processor.getPlayHead();
-    return context.state().playHead->internalClock.load() || host == nullptr;
+    return context.state().playHead->isMovable();
 }
 
 int PlayerTimeline::chordAt (juce::Point<float> position) const
@@ -169,15 +168,12 @@ bool PlayerTimeline::keyPressed (const juce::KeyPress& key)
     return true;
 }
 
-/** The position first: it is the changed sample count that tells the audio thread of it. */
 void PlayerTimeline::jumpTo (int chord)
 {
     if (chord < 0 || ! canJump())
         return;
 
-    auto& playHead = *context.state().playHead;
-    playHead.positionPpq.store (chords[static_cast<std::size_t> (chord)].time.start);
-    playHead.positionSamples.fetch_add (1);
+    context.state().playHead->moveTo (chords[static_cast<std::size_t> (chord)].time.start);
 }
 
 void PlayerTimeline::repaintChip (int chord)

@@ -33,13 +33,35 @@ void takeTempo (const juce::Optional<PositionInfo>& position, Sequencer::PlayHea
         shared.bpm = static_cast<float> (*tempo);
 }
 
-void runInternalClock (InternalPlayHead& clock, const Sequencer::PlayHead& shared, int numSamples) noexcept
+/** Where the last block has ended, or the editor has moved the clock to: it stores the quarter notes first, so a
+    changed sample count means that both have moved.
+*/
+struct Position
 {
-    // The editor stores the quarter notes first: a changed sample count means that both have moved.
-    if (shared.positionSamples != clock.getTimeInSamples())
+    explicit Position (const Sequencer::PlayHead& shared) noexcept
+        : samples (shared.positionSamples.load()), ppq (shared.positionPpq.load())
+    {}
+
+    /** Tells where the block ends, unless the editor has moved the clock meanwhile, which the next block follows. */
+    void replaceBy (const InternalPlayHead& clock, Sequencer::PlayHead& shared) noexcept
+    {
+        shared.positionPpq.compare_exchange_strong (ppq, clock.getEndPpq());
+        shared.positionSamples.compare_exchange_strong (samples, clock.getTimeInSamples());
+    }
+
+    std::int64_t samples;
+    double ppq;
+};
+
+void runInternalClock (InternalPlayHead& clock,
+                       const Position& start,
+                       bool shouldPlay,
+                       int numSamples) noexcept
+{
+    if (start.samples != clock.getTimeInSamples())
         clock.forceJump();
 
-    clock.setInternalState (shared.isPlaying, shared.positionPpq);
+    clock.setInternalState (shouldPlay, start.ppq);
     clock.update (nullptr, numSamples);
 }
 
@@ -61,6 +83,7 @@ ClockSource updateClock (InternalPlayHead& clock,
                          bool keyMode,
                          int numSamples) noexcept
 {
+    Position start (shared);
     const auto position = host != nullptr ? host->getPosition() : juce::nullopt;
 
     takeTempo (position, shared);
@@ -73,10 +96,9 @@ ClockSource updateClock (InternalPlayHead& clock,
     if (source == ClockSource::host)
         runHostClock (clock, shared, *host, numSamples);
     else
-        runInternalClock (clock, shared, numSamples);
+        runInternalClock (clock, start, shared.isPlaying, numSamples);
 
-    shared.positionPpq = clock.getEndPpq();
-    shared.positionSamples = clock.getTimeInSamples();
+    start.replaceBy (clock, shared);
     return source;
 }
 } // namespace Zn::Audio

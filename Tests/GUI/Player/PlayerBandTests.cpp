@@ -10,6 +10,7 @@ namespace Zn::GUI
 namespace
 {
 using Tests::Hand::click;
+using InCharge = Sequencer::PlayHead::Control;
 
 juce::StringArray namesOf (const PlayerTimeline& timeline)
 {
@@ -81,7 +82,6 @@ TEST (PlayerBand, LightsTheChordThatPlaysAndJumps)
     auto& playHead = *editor.getState().playHead;
     editor.getState().player.set ({ Sequencer::MidiPlayer::embedded ("Chords 1 - Pop"), true, true });
     playHead.isPlaying = true;
-    playHead.internalClock = true;
 
     for (const auto& [position, lit] : { std::pair (0.0, 0), { 9.5, 2 }, { 20.0, 1 } })
     {
@@ -90,11 +90,16 @@ TEST (PlayerBand, LightsTheChordThatPlaysAndJumps)
         EXPECT_EQ (editor.timeline.getLit(), lit) << position;
     }
 
-    const auto samples = playHead.positionSamples.load();
     const auto bounds = editor.timeline.getLocalBounds().toFloat();
-    click (editor.timeline, bounds.getRelativePoint (0.9f, 0.5f));
-    EXPECT_EQ (playHead.positionPpq.load(), 12.0);
-    EXPECT_NE (playHead.positionSamples.load(), samples);
+
+    for (const auto& [control, position] :
+         { std::pair (InCharge::host, 20.0), { InCharge::nobody, 12.0 }, { InCharge::editor, 12.0 } })
+    {
+        playHead.control = control;
+        playHead.positionPpq = 20.0;
+        click (editor.timeline, bounds.getRelativePoint (0.9f, 0.5f));
+        EXPECT_EQ (playHead.positionPpq.load(), position);
+    }
 
     editor.getState().player.setActive (false);
     editor.poll();
