@@ -26,6 +26,8 @@ SlotBank::SlotBank (EditorContext& contextToUse)
                     for (auto& tile : tiles)
                         tile->patternChanged();
                 })
+    , undone (contextToUse.edits.travelled,
+              [this] { lastHeard = context.state().liveSlots->heard.load(); }) // what has changed is opened
     , pulses (pulseInterval, [this] { pulse(); })
 {
     pulses.setActive (false);
@@ -192,9 +194,7 @@ void SlotBank::drop (int from, int onto, bool swaps)
     }
 
     slotEdits.copyTo (from, onto);
-    context.overlay.showMessage ("Pattern copied to slot " + juce::String (onto + 1),
-                                 "Undo",
-                                 [&edits = context.edits] { edits.undo(); });
+    context.overlay.showUndo ("Pattern copied to slot " + juce::String (onto + 1));
 }
 
 void SlotBank::showMenu (SlotTile& tile)
@@ -253,8 +253,8 @@ void SlotBank::poll()
 /** Opens a pattern when it begins to play; what is opened meanwhile stays open until then. */
 void SlotBank::followPlayingSlot (int heard)
 {
-    if (juce::ModifierKeys::getCurrentModifiers().isAnyMouseButtonDown())
-        return; // whatever is dragged belongs to the slot that is open
+    if (juce::ModifierKeys::getCurrentModifiers().isAnyMouseButtonDown() || context.overlay.isEnteringValue())
+        return; // whatever is dragged or typed belongs to the slot that is open
 
     if (std::exchange (lastHeard, heard) != heard && context.settings.get().followsPlayingSlot)
         context.shownSlot.set (heard);

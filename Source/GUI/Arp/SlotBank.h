@@ -60,7 +60,7 @@ private:
     std::optional<Drag> dragged;
     int lastHeard;
 
-    Events::Listener polls, patterns;
+    Events::Listener polls, patterns, undone;
     Events::UpdateTimer pulses; // while a pattern waits
 };
 } // namespace Zn::GUI

@@ -40,14 +40,17 @@ void OverlayLayer::Backdrop::paint (juce::Graphics& g)
 OverlayLayer::OverlayLayer (juce::Component& pageToCover,
                             AssetScheme::Canvas& canvasToUse,
                             UserSettings& settingsToUse,
+                            Edits& editsToUse,
                             Events::Broadcaster& polls)
     : page (pageToCover)
     , canvas (canvasToUse)
     , settings (settingsToUse)
+    , edits (editsToUse)
     , readoutShadow (addedTo (*this, readout), canvas)
     , messageShadow (addedTo (*this, message), canvas)
     , tooltips (*this, canvasToUse, settingsToUse, polls)
     , pollListener (polls, [this] { poll(); })
+    , editListener (edits.getUndo(), [this] { withdrawUndo(); })
 {
     setInterceptsMouseClicks (false, true);
     addChildComponent (backdrop, 0);
@@ -76,7 +79,7 @@ void OverlayLayer::closeAll()
     readout.setVisible (false);
     tooltips.hide();
 
-    if (std::exchange (menuIsOpen, false))
+    if (numMenus > 0)
         juce::PopupMenu::dismissAllActiveMenus();
 }
 
@@ -186,7 +189,7 @@ void OverlayLayer::showMenu (const juce::PopupMenu& menu,
     if (juce::Desktop::getInstance().getDisplays().displays.isEmpty())
         return; // JUCE's menus need a screen
 
-    menuIsOpen = true;
+    ++numMenus;
 
     const auto options = menuOptions (menu, page, beside, canvas.boundsOf ("ControlMenu").getWidth());
     auto shown = menu;
@@ -195,7 +198,7 @@ void OverlayLayer::showMenu (const juce::PopupMenu& menu,
         if (safe == nullptr)
             return;
 
-        safe->menuIsOpen = false;
+        --safe->numMenus;
 
         if (chosenFunc != nullptr)
             chosenFunc (result);
@@ -220,6 +223,7 @@ void OverlayLayer::hideReadout()
 
 void OverlayLayer::showMessage (const juce::String& text, const juce::String& actionText, CallbackFunc action)
 {
+    offersUndo = false;
     message.show (text, actionText, std::move (action), [this] { message.setVisible (false); });
     message.setVisible (true);
     message.toFront (false);
@@ -228,6 +232,24 @@ void OverlayLayer::showMessage (const juce::String& text, const juce::String& ac
     messageEnd = juce::Time::getMillisecondCounter() + juce::uint32 (milliseconds ("MessageSeconds"));
     juce::AccessibilityHandler::postAnnouncement (text,
                                                   juce::AccessibilityHandler::AnnouncementPriority::medium);
+}
+
+void OverlayLayer::showUndo (const juce::String& done)
+{
+    edits.finish();
+    showMessage (done, "Undo", [this] {
+        edits.finish(); // what is still turned at is a later step
+
+        if (offersUndo)
+            edits.undo();
+    });
+    offersUndo = true;
+}
+
+void OverlayLayer::withdrawUndo()
+{
+    if (std::exchange (offersUndo, false))
+        message.setVisible (false);
 }
 
 //======================================================================================================================

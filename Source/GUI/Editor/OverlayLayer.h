@@ -5,6 +5,7 @@
 #include "GUI/Editor/Tooltips.h"
 #include "GUI/Editor/ValueEntry.h"
 #include "GUI/Widgets/Card.h"
+#include "GUI/Widgets/Edits.h"
 #include "GUI/Widgets/Overlay.h"
 
 namespace Zn::GUI
@@ -16,6 +17,7 @@ public:
     OverlayLayer (juce::Component& pageToCover,
                   AssetScheme::Canvas& canvasToUse,
                   UserSettings& settingsToUse,
+                  Edits& editsToUse,
                   Events::Broadcaster& polls);
     ~OverlayLayer() override;
 
@@ -30,10 +32,12 @@ public:
     showReadout (const juce::String& name, const juce::String& value, juce::Point<int> onScreen) override;
     void hideReadout() override;
     void showMessage (const juce::String& text, const juce::String& actionText, CallbackFunc action) override;
+    void showUndo (const juce::String& done) override;
     void enterValue (juce::Component& over,
                      const juce::String& text,
                      std::function<bool (const juce::String&)> accept,
                      CallbackFunc next) override;
+    bool isEnteringValue() const noexcept override { return entry != nullptr; }
 
     /** Closes everything at once, menus too. */
     void closeAll();
@@ -59,12 +63,14 @@ private:
     void poll();
     void appear (juce::Component& card, juce::Component& shadow) const;
     void focusPopup();
+    void withdrawUndo();
     void closeEntry (ValueEntry::End end, const CallbackFunc& next);
     bool mayMove() const { return ! settings.get().reducedMotion; }
 
     juce::Component& page;
     AssetScheme::Canvas& canvas;
     UserSettings& settings;
+    Edits& edits;
 
     Backdrop backdrop { *this };
     std::unique_ptr<juce::Component> popup, closedPopup; // a closed one goes when none of its functions runs
@@ -77,8 +83,9 @@ private:
     MessageCard message { canvas };
     CardShadow readoutShadow, messageShadow;
     juce::uint32 messageEnd = 0; // milliseconds
-    bool menuIsOpen = false;
+    bool offersUndo = false;     // the message does
+    int numMenus = 0;            // that are open, or have yet to tell how they closed
     Tooltips tooltips;
-    Events::Listener pollListener;
+    Events::Listener pollListener, editListener;
 };
 } // namespace Zn::GUI

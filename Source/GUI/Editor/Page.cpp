@@ -15,7 +15,7 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
     : edits (processor.getUndo(), [&processor] { processor.finishPendingLoad(); })
     , learning (processor.getState().learnMap)
     , shownSlot (processor.getState().slotParam.getInt())
-    , overlay (*this, canvas, settings, polls)
+    , overlay (*this, canvas, settings, edits, polls)
     , context { .processor = processor,
                 .canvas = canvas,
                 .settings = settings,
@@ -113,7 +113,15 @@ void Page::resized()
 
 bool Page::keyPressed (const juce::KeyPress& key)
 {
-    return key == juce::KeyPress::escapeKey ? escape() : actOn (key, actions);
+    if (key == juce::KeyPress::escapeKey)
+        return escape();
+
+    if (! isMouseButtonDownAnywhere())
+        return actOn (key, actions);
+
+    PageActions harmless; // whatever else would change under the hand that drags something
+    harmless.play = actions.play;
+    return actOn (key, harmless);
 }
 
 bool Page::escape()

@@ -62,12 +62,13 @@ Parameters::MenuItems::Item ShownSlotParam::getMenuChoices()
 
 Parameters::Parameter& ShownSlotParam::target() const
 {
-    return *targets[static_cast<std::size_t> (juce::jlimit (0, Sequencer::numSlots - 1, shownSlot.get()))];
+    return *targets[static_cast<std::size_t> (
+        juce::jlimit (0, Sequencer::numSlots - 1, held.value_or (shownSlot.get())))];
 }
 
 void ShownSlotParam::change (const Parameter& parameter, const std::function<void()>& set)
 {
-    if (gesture)
+    if (held)
         return set(); // who holds it tells of the difference at its end
 
     Undo::Transaction transaction (undo, parameter.getName());

@@ -8,11 +8,12 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace Zn::GUI
 {
-/** One parameter of eight, that of the slot which is shown at the time. Each call that changes its value is a step of
-    undo, or part of the one that is under way. Thread: message.
+/** One parameter of eight, that of the slot which is shown at the time; a gesture stays with the slot that it began on.
+    Each call that changes its value is a step of undo, or part of the one that is under way. Thread: message.
 */
 class ShownSlotParam : public Parameters::Parameter
 {
@@ -46,9 +47,9 @@ public:
     bool hasSteps() const override { return target().hasSteps(); }
     int getNumSteps() const override { return target().getNumSteps(); }
     float getDefault() const override { return target().getDefault(); }
-    bool isGestureActive() const override { return gesture; }
-    void beginGesture() override { gesture = true; }
-    void endGesture() override { gesture = false; }
+    bool isGestureActive() const override { return held.has_value(); }
+    void beginGesture() override { held = shownSlot.get(); }
+    void endGesture() override { held.reset(); }
 
 private:
     Parameters::Parameter& target() const;
@@ -57,6 +58,6 @@ private:
     const Events::Value<int>& shownSlot;
     Undo::Interface& undo;
     std::array<std::unique_ptr<Parameters::Parameter>, Sequencer::numSlots> targets; // none is null
-    bool gesture = false;
+    std::optional<int> held; // the slot of the gesture
 };
 } // namespace Zn::GUI

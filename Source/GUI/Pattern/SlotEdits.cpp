@@ -48,7 +48,7 @@ void SlotEdits::eraseNotes (int slotIndex)
         return;
 
     perform (named ("Clear", slotIndex), [&] { slot (slotIndex).pattern.steps.clear(); });
-    context.overlay.showMessage ("Pattern cleared", "Undo", [&edits = context.edits] { edits.undo(); });
+    context.overlay.showUndo ("Pattern cleared");
 }
 
 void SlotEdits::copyToClipboard (int slotIndex) const

@@ -43,6 +43,9 @@ public:
     virtual void
     showMessage (const juce::String& text, const juce::String& actionText = {}, CallbackFunc action = {}) = 0;
 
+    /** A line that offers to take back what has just been done, until something else is. */
+    virtual void showUndo (const juce::String& done) = 0;
+
     /** A field over a component in which a value is typed. `accept` says whether it has understood the text: then the
         field closes, else it shakes and stays. `next` is called after Tab.
     */
@@ -50,5 +53,6 @@ public:
                              const juce::String& text,
                              std::function<bool (const juce::String&)> accept,
                              CallbackFunc next = {}) = 0;
+    virtual bool isEnteringValue() const noexcept = 0;
 };
 } // namespace Zn::GUI

@@ -26,10 +26,11 @@ ParameterEdit::ParameterEdit (Edits& edits,
 
 ParameterEdit::~ParameterEdit()
 {
-    parameter->endGesture();
-
-    if (isAnother (parameter->getNormalised(), start))
+    if (isAnother (parameter->getNormalised(),
+                   start)) // of what was in the hand; afterwards it may be another slot's
         transaction->markChanged();
+
+    parameter->endGesture();
 }
 
 bool changeAtOnce (Parameters::Parameter& parameter,

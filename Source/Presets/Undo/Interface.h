@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Foundation/Events/HasBroadcaster.h"
 #include "Parameters/Parameter.h"
 
 #include <juce_core/juce_core.h>
@@ -11,9 +12,10 @@ namespace Zn::Undo
 /** What a widget tells of its edits, and what the undo and redo buttons ask.
 
     An edit begins, marks that it has changed something, and ends; edits may nest, and the outermost is one step for
-    the user. As it stands it remembers nothing, for widgets without a plug-in behind them. Thread: message.
+    the user. Tells its listeners whenever what can be undone or redone may have become another. As it stands it
+    remembers nothing, for widgets without a plug-in behind them. Thread: message.
 */
-class Interface
+class Interface : public Events::HasBroadcaster
 {
 public:
     virtual ~Interface() = default;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Foundation/Events/HasBroadcaster.h"
 #include "Presets/Undo/Interface.h"
 #include "Presets/Undo/Snapshot.h"
 
@@ -17,10 +16,9 @@ namespace Zn::Undo
 /** Undo by whole snapshots: after each edit the complete state is kept, and undoing loads an older one the way a preset
     is loaded. Nobody writes code to undo what they do; they only say that they did something.
 
-    The first snapshot is the floor that undo cannot leave. Tells its listeners whenever what can be undone or redone
-    may have become another. Thread: message.
+    The first snapshot is the floor that undo cannot leave. Thread: message.
 */
-class Manager : public Interface, public Events::HasBroadcaster
+class Manager : public Interface
 {
 public:
     /** The state as it is when the first edit begins is the floor. It must outlive the manager. */

@@ -100,6 +100,29 @@ TEST (ArpBands, FindsATappedTempo)
     EXPECT_NEAR (*tapping.tap (20.6), 100.0, 1e-9);
 }
 
+TEST (ArpBands, KeepAValueInTheHandWithThePatternThatItIsOf)
+{
+    Tests::OpenEditor editor;
+    auto& grid = editor.find ("Grid");
+    auto& slots = editor.getState().patterns.getSlots();
+    const auto before = slots[0].pattern.grid;
+    const auto move = [&] (float y) {
+        return Tests::Hand::mouseEvent (grid, { 2.0f, y }, { 2.0f, 2.0f }, Tests::Hand::leftButton);
+    };
+
+    grid.mouseDown (move (2.0f));
+    grid.mouseDrag (move (-20.0f));
+    editor.page.getContext().shownSlot.set (1); // by Ctrl+2
+    grid.mouseDrag (move (-60.0f));
+    grid.mouseUp (move (-60.0f));
+
+    EXPECT_GT (slots[0].pattern.grid, before);
+    EXPECT_EQ (slots[1].pattern.grid, before);
+
+    editor.page.getContext().edits.undo();
+    EXPECT_EQ (slots[0].pattern.grid, before);
+}
+
 TEST (ArpBands, StartsAndRewindsTheClockOnlyWhereItIsInCharge)
 {
     Tests::OpenEditor editor;

@@ -119,6 +119,22 @@ TEST_F (SlotBankOfEditor, FollowsWhatBeginsToPlayIfTheUserWantsIt)
     }
 }
 
+TEST_F (SlotBankOfEditor, OpensWhatUndoHasChangedAndNotWhatPlaysThen)
+{
+    auto& edits = editor.page.getContext().edits;
+    Tests::Hand::click (tile (2), altClick);
+    edits.perform ("Draw", [this] { return draw (1, 64), true; });
+
+    Tests::Hand::click (tile (3));
+    play (1.0);
+    EXPECT_EQ (heard(), 3);
+
+    edits.undo();
+    EXPECT_EQ (heard(), 1) << "which played when it was drawn";
+    editor.poll();
+    EXPECT_EQ (shown(), 2);
+}
+
 TEST_F (SlotBankOfEditor, TakesKeysOfTheFocusedTile)
 {
     EXPECT_TRUE (Tests::Hand::press (tile (2), juce::KeyPress (juce::KeyPress::returnKey)));

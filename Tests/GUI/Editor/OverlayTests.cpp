@@ -23,6 +23,15 @@ void openPopup (Tests::OpenEditor& editor)
     context.overlay.openPopup (std::make_unique<Popup> (context, "AboutPopup", "About"));
 }
 
+/** Clicks the link of the message. */
+void followLink (OverlayLayer& overlay)
+{
+    for (auto* card : overlay.getChildren())
+        for (auto* part : card->getChildren())
+            if (auto* link = dynamic_cast<juce::HyperlinkButton*> (part))
+                link->onClick();
+}
+
 /** Opens the field over a control; only "7" is a value. */
 struct Entry
 {
@@ -200,12 +209,33 @@ TEST (Messages, DoWhatTheyOfferOnceAndGo)
     overlay.showMessage ("Pattern cleared", "Undo", [&] { ++numUndone; });
     EXPECT_EQ (overlay.getMessage(), "Pattern cleared");
 
-    for (auto* card : overlay.getChildren())
-        for (auto* part : card->getChildren())
-            if (auto* link = dynamic_cast<juce::HyperlinkButton*> (part))
-                link->onClick();
-
+    followLink (overlay);
     EXPECT_EQ (numUndone, 1);
     EXPECT_EQ (overlay.getMessage(), "");
+}
+
+TEST (Messages, OfferToUndoOnlyWhatTheyTellOf)
+{
+    Tests::OpenEditor editor;
+    auto& overlay = overlayOf (editor);
+    auto& edits = editor.page.getContext().edits;
+    auto& snap = editor.getState().snapParam;
+
+    const auto setSnap = [&] (bool snaps) { return snap.setBool (snaps), true; };
+
+    edits.perform ("Snap", [&] { return setSnap (false); });
+    overlay.showUndo ("Done");
+    followLink (overlay);
+    EXPECT_TRUE (snap.getBool());
+
+    edits.perform ("Snap", [&] { return setSnap (false); });
+    overlay.showUndo ("Done");
+    edits.perform ("Snap", [&] { return setSnap (true); });
+    EXPECT_EQ (overlay.getMessage(), "");
+
+    overlay.showUndo ("Done");
+    edits.join (&snap, "Snap", [&] { return setSnap (false); });
+    followLink (overlay);
+    EXPECT_FALSE (snap.getBool()) << "a wheel that may still turn is a later step";
 }
 } // namespace Zn::GUI

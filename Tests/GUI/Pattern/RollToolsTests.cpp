@@ -179,7 +179,7 @@ TEST_F (RollToolsTest, BrushesSwitchTheLaneAndClearAllIsNoneOfThem)
     EXPECT_TRUE (editor.getDrawing().notes.empty());
     EXPECT_EQ (bare.overlay.message, "Pattern cleared");
 
-    bare.overlay.action();
+    bare.edits.undo();
     EXPECT_EQ (inColumns (editor.getDrawing()), "60 @0+1, 62 @4+2");
 }
 

@@ -29,11 +29,13 @@ struct SilentOverlay : GUI::Overlay
     void showReadout (const juce::String&, const juce::String&, juce::Point<int>) override {}
     void hideReadout() override {}
 
-    void showMessage (const juce::String& text, const juce::String&, CallbackFunc newAction) override
+    void showMessage (const juce::String& text, const juce::String&, CallbackFunc) override
     {
         message = text;
-        action = std::move (newAction);
     }
+
+    void showUndo (const juce::String& done) override { message = done; }
+    bool isEnteringValue() const noexcept override { return false; }
 
     void enterValue (juce::Component&,
                      const juce::String&,
@@ -56,7 +58,6 @@ struct SilentOverlay : GUI::Overlay
     juce::PopupMenu menu;
     std::function<void (int)> chosen;
     juce::String message;
-    CallbackFunc action;
     std::function<bool (const juce::String&)> accept;
 };
 

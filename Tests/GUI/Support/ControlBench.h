@@ -28,6 +28,8 @@ struct RecordedOverlay : GUI::Overlay
     }
     void hideReadout() override { readout.clear(); }
     void showMessage (const juce::String&, const juce::String&, CallbackFunc) override {}
+    void showUndo (const juce::String&) override {}
+    bool isEnteringValue() const noexcept override { return false; }
     void enterValue (juce::Component&,
                      const juce::String& text,
                      std::function<bool (const juce::String&)> newAccept,
