@@ -17,27 +17,46 @@ int tableRowOf (int row)
 class NoteCells::Cell : public juce::Component
 {
 public:
-    Cell (PatternEditor& editorToUse, int noteToTell) : note (noteToTell), editor (editorToUse)
+    Cell (RollContext& contextToUse, int noteToTell) : note (noteToTell), context (contextToUse)
     {
         setInterceptsMouseClicks (false, false);
     }
 
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
     {
-        const auto select = [this] { editor.select ({ note }); };
-        return std::make_unique<juce::AccessibilityHandler> (
-            *this,
-            juce::AccessibilityRole::cell,
-            juce::AccessibilityActions()
-                .addAction (juce::AccessibilityActionType::focus, select)
-                .addAction (juce::AccessibilityActionType::press, select));
+        /** Makes the text when somebody asks: there may be thousands of notes. */
+        struct Handler : juce::AccessibilityHandler
+        {
+            Handler (Cell& cellToTell, const juce::AccessibilityActions& itsActions)
+                : AccessibilityHandler (cellToTell, juce::AccessibilityRole::cell, itsActions)
+                , cell (cellToTell)
+            {}
+
+            juce::String getTitle() const override { return cell.describe(); }
+
+            const Cell& cell;
+        };
+
+        const auto select = [this] { context.pattern.select ({ note }); };
+        return std::make_unique<Handler> (*this,
+                                          juce::AccessibilityActions()
+                                              .addAction (juce::AccessibilityActionType::focus, select)
+                                              .addAction (juce::AccessibilityActionType::press, select));
     }
 
     const int note;
     int column = 0, numColumns = 1, row = 0; // of the table
 
 private:
-    PatternEditor& editor;
+    juce::String describe() const
+    {
+        const auto& drawing = context.pattern.getDrawing();
+        return drawing.hasNote (note)
+                   ? noteText (drawing.note (note), context.rowNames.get(), RollBeats::of (drawing))
+                   : juce::String();
+    }
+
+    RollContext& context;
 };
 
 class NoteCells::Table : public juce::AccessibilityTableInterface
@@ -95,7 +114,6 @@ NoteCells::NoteCells (RollContext& contextToUse, juce::Component& rollToServe)
     , roll (rollToServe)
     , pollListener (contextToUse.editor.polls, [this] { update(); })
     , drawingListener (contextToUse.pattern.drawingChanged, [this] { isStale = true; })
-    , namesListener (contextToUse.rowNames, [this] { isStale = true; })
     , viewListener (contextToUse.view, [this] { isStale = true; })
 {}
 
@@ -121,15 +139,14 @@ void NoteCells::update()
 
     isStale = false;
     const auto& drawing = context.pattern.getDrawing();
-    const auto beats = RollBeats::of (drawing);
     const auto& geometry = context.view.get();
 
     cells.resize (std::min (cells.size(), drawing.notes.size()));
 
     while (cells.size() < drawing.notes.size())
     {
-        cells.push_back (std::make_unique<Cell> (context.pattern, static_cast<int> (cells.size())));
-        roll.addAndMakeVisible (*cells.back());
+        cells.push_back (std::make_unique<Cell> (context, static_cast<int> (cells.size())));
+        roll.addChildComponent (*cells.back());
     }
 
     for (const auto& cell : cells)
@@ -138,8 +155,12 @@ void NoteCells::update()
         cell->row = tableRowOf (note.event.noteNum);
         cell->column = geometry.columnAt (note.time.start);
         cell->numColumns = std::max (1, juce::roundToInt (note.time.length * drawing.grid));
-        cell->setBounds (geometry.boundsOf (note).getSmallestIntegerContainer());
-        cell->setTitle (noteText (note, context.rowNames.get(), beats));
+
+        const auto bounds = geometry.boundsOf (note).getSmallestIntegerContainer();
+        cell->setVisible (roll.getLocalBounds().intersects (bounds));
+
+        if (cell->isVisible())
+            cell->setBounds (bounds);
     }
 }
 

@@ -31,6 +31,6 @@ private:
     juce::Component& roll;
     bool isWanted = false, isStale = true;
     std::vector<std::unique_ptr<Cell>> cells; // by notes
-    Events::Listener pollListener, drawingListener, namesListener, viewListener;
+    Events::Listener pollListener, drawingListener, viewListener;
 };
 } // namespace Zn::GUI

@@ -61,9 +61,6 @@ void NoteLane::mouseMove (const juce::MouseEvent& event)
 
 void NoteLane::mouseDown (const juce::MouseEvent& event)
 {
-    if (pressed != nullptr)
-        pressed();
-
     if (! event.mods.isLeftButtonDown())
         return;
 
@@ -73,7 +70,7 @@ void NoteLane::mouseDown (const juce::MouseEvent& event)
 
 void NoteLane::mouseDrag (const juce::MouseEvent& event)
 {
-    if (! tool.isDragging())
+    if (! tool.isDragging() || ! event.mouseWasDraggedSinceMouseDown()) // a click that trembles is none
         return;
 
     tool.drag (pointerOf (event));

@@ -23,9 +23,6 @@ public:
     /** Esc: takes back what the drag has done; false when there is none. */
     bool cancel();
 
-    /** Called when it is pressed. */
-    CallbackFunc pressed;
-
     void mouseMove (const juce::MouseEvent& event) override;
     void mouseDown (const juce::MouseEvent& event) override;
     void mouseDrag (const juce::MouseEvent& event) override;

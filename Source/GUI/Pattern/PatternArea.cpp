@@ -53,14 +53,24 @@ void PatternArea::connect()
     pitches.menuAsked = [this] (int row) { menus.showForRow (row); };
 
     drawing.keyAsked = [this] (const juce::KeyPress& key) { return pressKey (key); };
-    lane.pressed = [this] {
-        if (drawing.isShowing())
-            drawing.grabKeyboardFocus();
-    };
+
+    // Whatever is clicked beside the roll, its keys go on.
+    for (auto* part : std::initializer_list<juce::Component*> { &ruler, &pitches, &scrollBar, &lane })
+    {
+        part->setMouseClickGrabsKeyboardFocus (false);
+        part->addMouseListener (this, false);
+    }
+
     context.actions.endSelection = [this] {
         context.overlay.hideReadout();
         return escape();
     };
+}
+
+void PatternArea::mouseDown (const juce::MouseEvent&)
+{
+    if (drawing.isShowing())
+        drawing.grabKeyboardFocus();
 }
 
 bool PatternArea::pressKey (const juce::KeyPress& key)

@@ -29,6 +29,7 @@ public:
 
     void paint (juce::Graphics& g) override;
     void schemeChanged() override;
+    void mouseDown (const juce::MouseEvent& event) override;
 
 private:
     void nameRows();

@@ -169,6 +169,9 @@ void PatternEditor::show (Drawing newDrawing)
     if (! shown.hasNote (hovered))
         setHoveredNote (-1);
 
+    if (const auto cell = cellCursor.get(); cell && cell->column >= shown.grid)
+        cellCursor.set (RollCell { .column = shown.grid - 1, .row = cell->row });
+
     if (playsAnew)
         drawingChanged.callListeners();
 

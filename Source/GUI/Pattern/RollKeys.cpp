@@ -13,6 +13,8 @@ namespace
 using Audio::Plugins::Vornel::Brush;
 using juce::KeyPress;
 
+constexpr auto rounding = 1.0e-6; // of a column: by so little notes may reach over its lines
+
 /** With no modifier, or with Shift where that makes no difference. */
 bool isPlain (const KeyPress& key)
 {
@@ -256,6 +258,9 @@ void RollKeys::changeValue (int percent)
 
 void RollKeys::editCell()
 {
+    if (! editor.getDrawing().selection.isEmpty())
+        return showCellOf (editor.getDrawing().selection.first());
+
     const auto cell = editor.cellCursor.get();
 
     if (! cell)
@@ -263,7 +268,10 @@ void RollKeys::editCell()
 
     const auto grid = editor.getGrid();
     const RollPoint place { (cell->column + 0.5) * grid.column(), cell->row + 0.5 };
-    const auto notes = NoteQueries::notesBetween (editor.getDrawing(), place, place);
+    const auto notes =
+        NoteQueries::notesIn (editor.getDrawing(),
+                              { .from = { (cell->column + rounding) * grid.column(), place.row },
+                                .to = { (cell->column + 1.0 - rounding) * grid.column(), place.row } });
 
     if (notes.isEmpty())
         editor.perform ("Draw note", [&] (Drawing& drawing) {
@@ -272,6 +280,19 @@ void RollKeys::editCell()
         });
     else
         editor.perform ("Erase notes", [&] (Drawing& drawing) { NoteEdits::erase (drawing, notes); });
+}
+
+/** In place of the selection, which hides the cursor. */
+void RollKeys::showCellOf (int note)
+{
+    const auto& shown = editor.getDrawing().note (note);
+    const auto grid = editor.getGrid();
+    const auto column =
+        std::clamp (static_cast<int> (shown.time.start / grid.column() + rounding), 0, grid.columns - 1);
+
+    editor.cellCursor.set (RollCell { .column = column, .row = shown.event.noteNum });
+    editor.select ({});
+    moveCell (0, 0);
 }
 
 void RollKeys::selectNext (bool backwards)

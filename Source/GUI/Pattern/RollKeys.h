@@ -42,6 +42,7 @@ private:
     void lengthen (int columns);
     void changeValue (int percent);
     void editCell();
+    void showCellOf (int note);
     void selectNext (bool backwards);
     void take (Audio::Plugins::Vornel::Brush brush);
     void reveal (int note);

@@ -6,6 +6,7 @@
 #include "GUI/Pattern/WholePattern.h"
 #include "Parameters/ParameterText.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Zn::GUI
@@ -86,7 +87,7 @@ void RollMenus::showForRoll (const RollPointer& pointer)
     if (editor.getDrawing().hasNote (pointer.note))
     {
         editor.select (NoteQueries::selectionOr (editor.getDrawing(), pointer.note));
-        addNoteLines (menu, pointer.note);
+        addNoteLines (menu);
     }
     else
         addEmptyLines (menu, pointer.at);
@@ -94,7 +95,7 @@ void RollMenus::showForRoll (const RollPointer& pointer)
     menu.show (nullptr);
 }
 
-void RollMenus::addNoteLines (Menu& menu, int note)
+void RollMenus::addNoteLines (Menu& menu)
 {
     const auto percent = [] (int value) { return juce::String (value) + " %"; };
     const auto changeAll = [] (Drawing& drawing, const NoteEdits::EventChange& change) {
@@ -107,7 +108,12 @@ void RollMenus::addNoteLines (Menu& menu, int note)
         };
     };
 
-    menu.addEdit (editor.getDrawing().note (note).enabled ? "Disable" : "Enable", [] (Drawing& drawing) {
+    const auto& selected = editor.getDrawing().selection;
+    const auto areOn = std::all_of (selected.begin(), selected.end(), [this] (int note) {
+        return editor.getDrawing().note (note).enabled;
+    });
+
+    menu.addEdit (areOn ? "Disable" : "Enable", [] (Drawing& drawing) {
         NoteEdits::toggleEnabled (drawing, NoteSelection (drawing.selection));
     });
 

@@ -24,7 +24,7 @@ public:
 private:
     class Menu;
 
-    void addNoteLines (Menu& menu, int note);
+    void addNoteLines (Menu& menu);
     void addEmptyLines (Menu& menu, RollPoint at);
     void askForVelocityScale (juce::Component& ruler);
 

@@ -121,11 +121,10 @@ void RollMouse::turnWheel (const juce::MouseEvent& event, const juce::MouseWheel
 {
     if (event.mods.isAltDown())
     {
-        // With Alt some systems turn the wheel sideways.
-        const auto turn = wheel.deltaY != 0.0f ? wheel.deltaY : wheel.deltaX;
+        constexpr auto smoothStep = 0.05f; // of a wheel that turns without notches, for a percent
 
-        if (turn != 0.0f)
-            context.tools.turnWheel (pointerOf (event), turn > 0.0f ? 1 : -1);
+        if (const auto percent = wheelSteps.upIn (wheel, smoothStep); percent != 0)
+            context.tools.turnWheel (pointerOf (event), percent);
 
         return;
     }
@@ -138,7 +137,7 @@ void RollMouse::turnWheel (const juce::MouseEvent& event, const juce::MouseWheel
 
 void RollMouse::scrollAtEdge()
 {
-    if (! context.tools.isDragging() || panStart)
+    if (! context.tools.scrolls() || panStart)
         return;
 
     const auto away = juce::Point<float> (beyond (last.x, float (roll.getWidth())),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GUI/Pattern/RollContext.h"
+#include "GUI/Widgets/WheelSteps.h"
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
@@ -40,6 +41,7 @@ private:
     std::optional<RollGeometry> panStart; // while the middle button is down
     juce::Point<float> pressed, last;     // where the button went down, where the pointer was last
     juce::ModifierKeys lastModifiers;
+    WheelSteps wheelSteps;
     Events::Listener pollListener;
 };
 } // namespace Zn::GUI

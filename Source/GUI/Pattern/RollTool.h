@@ -21,6 +21,8 @@ public:
 
     virtual RollCursor cursorAt (const RollPointer& pointer) const = 0;
     virtual RollReadout getReadout() const { return {}; }
-};
 
+    /** Whether a drag beyond an edge scrolls. */
+    virtual bool scrolls() const { return true; }
+};
 } // namespace Zn::GUI

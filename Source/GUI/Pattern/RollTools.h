@@ -32,6 +32,7 @@ public:
     bool turnWheel (const RollPointer& pointer, int percent);
 
     bool isDragging() const noexcept { return current != nullptr; }
+    bool scrolls() const { return current != nullptr && current->scrolls(); }
     RollCursor cursorAt (const RollPointer& pointer) const;
     RollReadout getReadout() const;
 

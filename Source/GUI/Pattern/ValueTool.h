@@ -23,6 +23,7 @@ public:
     void doubleClick (const RollPointer& pointer) override;
     RollCursor cursorAt (const RollPointer& pointer) const override;
     RollReadout getReadout() const override;
+    bool scrolls() const override { return action == Action::paint; }
 
 private:
     enum class Action

@@ -3,6 +3,7 @@
 #include "GUI/Framework/SVGPainter.h"
 #include "GUI/Player/PlayerActions.h"
 #include "GUI/Widgets/Control.h"
+#include "GUI/Widgets/WheelSteps.h"
 
 namespace Zn::GUI
 {
@@ -33,7 +34,7 @@ private:
     PlayerActions& actions;
     juce::String name, length;
     bool isStale = false;
-    float wheelRemainder = 0.0f; // of a file
+    WheelSteps wheelSteps;
 
     SVGPainter chevron { "down.svg" };
     juce::Font nameFont, lengthFont;

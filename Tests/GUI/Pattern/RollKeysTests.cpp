@@ -2,6 +2,7 @@
 
 #include "GUI/Pattern/LaneTool.h"
 #include "GUI/Pattern/NoteClip.h"
+#include "GUI/Pattern/NoteEdits.h"
 #include "GUI/Pattern/RollMenus.h"
 #include "GUI/Support/BareEditor.h"
 #include "Support/StepText.h"
@@ -107,10 +108,24 @@ TEST_F (RollKeysTest, TheCellCursorAddsAndErasesWhenNothingIsSelected)
     EXPECT_EQ (text(), "65 @0.0625+0.06125") << "the first key only shows it";
     press ("tab");
     EXPECT_EQ (editor.getDrawing().selection, NoteSelection { 0 });
-    EXPECT_TRUE (keys.escape());
+    press ("return");
+    EXPECT_TRUE (editor.getDrawing().selection.isEmpty()) << "which hides the cursor";
     press ("return");
     EXPECT_EQ (text(), "");
     EXPECT_FALSE (keys.escape());
+}
+
+TEST_F (RollKeysTest, TheCellCursorMeansWhatLiesInItsCellOnly)
+{
+    bare.set ({ note (64, 0.0, 0.0625), note (64, 0.0625, 0.01), note (64, 0.125, 0.0625) });
+    editor.cellCursor.set (RollCell { .column = 1, .row = 64 });
+    press ("return");
+    EXPECT_EQ (text(), "64 @0+0.0625, 64 @0.125+0.0625");
+
+    editor.cellCursor.set (RollCell { .column = 15, .row = 64 });
+    editor.perform ("Grid", [] (Drawing& drawing) { drawing.grid = 4; });
+    press ("return");
+    EXPECT_EQ (editor.getDrawing().note (2).time.start, 0.75) << "in the last column that there is";
 }
 
 TEST_F (RollKeysTest, LettersTakeToolsAndOthersAreLeftAlone)
@@ -148,6 +163,13 @@ TEST_F (RollKeysTest, MenusActOnWhatTheyWereOpenedFor)
     juce::Component roll;
     start ({ 0 });
 
+    editor.perform ("Switch", [] (Drawing& drawing) { NoteEdits::toggleEnabled (drawing, { 0 }); });
+    editor.select ({ 0, 1 });
+    menus.showForRoll ({ .at = { 0.3, 62.5 }, .note = 1 });
+    bare.overlay.choose ("Enable"); // as one of them is off
+    EXPECT_TRUE (editor.getDrawing().note (0).enabled && editor.getDrawing().note (1).enabled);
+
+    editor.select ({ 0 });
     menus.showForRoll ({ .at = { 0.3, 62.5 }, .note = 1 });
     bare.overlay.choose ("40 %");
     EXPECT_FLOAT_EQ (editor.getDrawing().note (1).event.velocity, 0.4f);

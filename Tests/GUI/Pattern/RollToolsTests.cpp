@@ -163,6 +163,11 @@ TEST_F (RollToolsTest, PaintVelocityAndChance)
     EXPECT_FLOAT_EQ (editor.getDrawing().note (0).event.chance, 0.6f);
     EXPECT_FLOAT_EQ (editor.getDrawing().note (1).event.chance, 0.6f) << "painted with what was pressed";
 
+    pen.press (Pen::cell (4, 62));
+    pen.moveTo (down (Pen::cell (4, 62), 30.0));
+    EXPECT_FALSE (tools.scrolls()) << "the note would go away";
+    EXPECT_TRUE (tools.cancel());
+
     pen.drag (Pen::cell (4, 62), down (Pen::cell (4, 62), -30.0), alt);
     EXPECT_FLOAT_EQ (editor.getDrawing().note (1).event.spreadHigh, 0.2f);
     EXPECT_FLOAT_EQ (editor.getDrawing().note (1).event.spreadLow, -0.2f);
