@@ -1,5 +1,7 @@
 #include "GUI/Pattern/ChordName.h"
 
+#include "GUI/Widgets/ValueText.h"
+
 #include <juce_audio_basics/juce_audio_basics.h>
 
 #include <array>
@@ -147,11 +149,6 @@ juce::String nameOf (PitchClasses all, int bass)
     return inverted.isNotEmpty() ? inverted + overBass : juce::String();
 }
 } // namespace
-
-juce::String pitchName (int pitch, int middleC)
-{
-    return juce::MidiMessage::getMidiNoteName (pitch, false, true, middleC);
-}
 
 juce::String chordName (const Midi::NoteList& keys, int middleC)
 {

@@ -13,7 +13,4 @@ namespace Zn::GUI
     `middleC` is the octave that note 60 stands in. Thread: any.
 */
 juce::String chordName (const Midi::NoteList& keys, int middleC);
-
-/** Such as "Bb3". */
-juce::String pitchName (int pitch, int middleC);
 } // namespace Zn::GUI

@@ -1,6 +1,6 @@
 #include "GUI/Pattern/RowNames.h"
 
-#include "GUI/Pattern/ChordName.h"
+#include "GUI/Widgets/ValueText.h"
 
 namespace Zn::GUI
 {

@@ -1,6 +1,7 @@
 #include "GUI/Standalone/KeyboardStrip.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Widgets/ValueText.h"
 
 #include <utility>
 
@@ -174,8 +175,7 @@ void KeyboardStrip::takeColours()
 
 void KeyboardStrip::showOctave()
 {
-    const auto middleC = context.settings.get().middleC;
-    octave.setText (juce::MidiMessage::getMidiNoteName (typedKeys.getLowestNote(), true, true, middleC),
+    octave.setText (pitchName (typedKeys.getLowestNote(), context.settings.get().middleC),
                     juce::dontSendNotification);
 }
 } // namespace Zn::GUI

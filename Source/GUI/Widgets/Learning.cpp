@@ -1,6 +1,6 @@
 #include "GUI/Widgets/Learning.h"
 
-#include <juce_audio_basics/juce_audio_basics.h>
+#include "GUI/Widgets/ValueText.h"
 
 #include <algorithm>
 
@@ -55,7 +55,6 @@ juce::String Learning::textOf (const Target& target) const
     if (found == bindings.end())
         return {};
 
-    return target.isSlot() ? juce::MidiMessage::getMidiNoteName (found->number, false, true, middleC)
-                           : juce::String ("Pedal");
+    return target.isSlot() ? pitchName (found->number, middleC) : juce::String ("Pedal");
 }
 } // namespace Zn::GUI

@@ -3,6 +3,8 @@
 #include "GUI/Widgets/TypedValue.h"
 #include "Parameters/ParameterText.h"
 
+#include <juce_audio_basics/juce_audio_basics.h>
+
 #include <cmath>
 
 namespace Zn::GUI
@@ -126,5 +128,10 @@ std::optional<juce::String> ValueText::read (const juce::String& typed,
                                              const Parameters::Parameter& parameter) const
 {
     return style == ValueStyle::ownText ? readWord (typed, parameter) : readNumber (typed, style);
+}
+
+juce::String pitchName (int pitch, int middleC)
+{
+    return withTrueMinus (juce::MidiMessage::getMidiNoteName (pitch, false, true, middleC));
 }
 } // namespace Zn::GUI

@@ -62,4 +62,7 @@ private:
 
 /** The minus sign that is as wide as a plus. */
 juce::String withTrueMinus (const juce::String& text);
+
+/** A key, such as "Bb3"; `middleC` is the octave that note 60 stands in. */
+juce::String pitchName (int pitch, int middleC);
 } // namespace Zn::GUI

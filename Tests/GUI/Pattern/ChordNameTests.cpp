@@ -1,5 +1,7 @@
 #include "GUI/Pattern/ChordName.h"
 
+#include "GUI/Widgets/ValueText.h"
+
 #include <gtest/gtest.h>
 
 namespace Zn::GUI
