@@ -4,12 +4,25 @@
 
 namespace Zn::GUI
 {
+namespace
+{
+/** With the ending that hosts know. The dialogue has asked about the name as it was typed, so a file that has the whole
+    name is left alone.
+*/
+juce::File asMidiFile (const juce::File& typed)
+{
+    return typed.hasFileExtension ("mid;midi")
+               ? typed
+               : typed.getSiblingFile (typed.getFileName() + ".mid").getNonexistentSibling();
+}
+} // namespace
+
 void SlotExport::drag (int slot, juce::Component& source)
 {
     const auto file =
         juce::File::getSpecialLocation (juce::File::tempDirectory).getChildFile (fileName (slot));
 
-    if (write (slot, file))
+    if (write (slot, file).wasOk())
         juce::DragAndDropContainer::performExternalDragDropOfFiles ({ file.getFullPathName() },
                                                                     false,
                                                                     &source);
@@ -28,13 +41,18 @@ void SlotExport::saveAs (int slot)
                            | juce::FileBrowserComponent::warnAboutOverwriting;
 
     chooser->launchAsync (flags, [this, slot] (const juce::FileChooser& closed) {
-        const auto file = closed.getResult();
-
-        if (file != juce::File() && ! write (slot, file.withFileExtension ("mid")))
-            context.overlay.showMessage ("Cannot write " + file.getFileName(), "Retry", [this, slot] {
-                saveAs (slot);
-            });
+        if (const auto chosen = closed.getResult(); chosen != juce::File())
+            save (slot, asMidiFile (chosen));
     });
+}
+
+void SlotExport::save (int slot, const juce::File& file)
+{
+    if (const auto result = write (slot, file); result.failed())
+        context.overlay.showMessage (file.getFileName().quoted() + " was not saved. "
+                                         + result.getErrorMessage(),
+                                     "Retry",
+                                     [this, slot] { saveAs (slot); });
 }
 
 juce::String SlotExport::fileName (int slot) const
@@ -43,21 +61,27 @@ juce::String SlotExport::fileName (int slot) const
     return juce::File::createLegalFileName (preset + " slot " + juce::String (slot + 1) + ".mid").trim();
 }
 
-bool SlotExport::write (int slot, const juce::File& file) const
+juce::Result SlotExport::write (int slot, const juce::File& file) const
 {
     const auto midi = Audio::Plugins::Vornel::exportSlot (context.state(), slot);
 
     if (midi.getNumTracks() == 0)
-        return false;
+        return juce::Result::fail ("The pattern is empty.");
 
     // Whole or not at all: a file that was there stays until the new one is complete.
     const juce::TemporaryFile temporary (file);
     juce::FileOutputStream stream (temporary.getFile());
 
-    if (! stream.openedOk() || ! midi.writeTo (stream))
-        return false;
+    if (stream.openedOk())
+        midi.writeTo (stream);
 
     stream.flush();
-    return stream.getStatus().wasOk() && temporary.overwriteTargetFileWithTemporary();
+
+    if (stream.getStatus().failed())
+        return stream.getStatus();
+
+    return temporary.overwriteTargetFileWithTemporary()
+               ? juce::Result::ok()
+               : juce::Result::fail ("The file that is there cannot be replaced.");
 }
 } // namespace Zn::GUI

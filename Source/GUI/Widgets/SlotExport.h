@@ -20,7 +20,8 @@ public:
 
 private:
     juce::String fileName (int slot) const;
-    bool write (int slot, const juce::File& file) const;
+    void save (int slot, const juce::File& file);
+    juce::Result write (int slot, const juce::File& file) const;
 
     EditorContext& context;
     std::unique_ptr<juce::FileChooser> chooser; // closes with the editor
