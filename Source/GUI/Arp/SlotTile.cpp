@@ -56,11 +56,12 @@ bool SlotTile::setLook (const Look& newLook)
     if (look == newLook)
         return false;
 
+    const auto before = describe();
     look = newLook;
     preview.setBright (look.plays);
     repaint();
 
-    if (auto* handler = getAccessibilityHandler())
+    if (auto* handler = getAccessibilityHandler(); handler != nullptr && describe() != before)
         handler->notifyAccessibilityEvent (juce::AccessibilityEvent::titleChanged);
 
     return true;
@@ -148,6 +149,15 @@ void SlotTile::paintControl (juce::Graphics& g)
         paintPendingEdge (g);
 
     paintHead (g);
+
+    if (look.takesDrop)
+    {
+        const auto size = pixels ("SlotPlusIcon");
+        plusIcon.paint (g,
+                        juce::Rectangle<float> (size, size)
+                            .withPosition (area().getBottomRight() - juce::Point (size, size)),
+                        colour ("Pattern"));
+    }
 }
 
 void SlotTile::paintHead (juce::Graphics& g)

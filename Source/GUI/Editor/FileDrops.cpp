@@ -14,9 +14,10 @@ DropTarget::DropTarget (EditorContext& contextToUse)
     setVisible (false);
 }
 
-void DropTarget::invite (const juce::String& words, const std::string& accentToUse)
+void DropTarget::invite (const juce::String& words, const juce::String& icon, const std::string& accentToUse)
 {
     accent = accentToUse;
+    caption.setIcon (icon);
     caption.setText (words);
     schemeChanged();
     setVisible (true);
@@ -62,7 +63,7 @@ FileDrops::FileDrops (EditorContext& contextToUse, std::vector<Kind> kindsToTake
 void FileDrops::enter (const juce::StringArray& files)
 {
     if (const auto* kind = kindOf (files))
-        target.invite (kind->invitation, kind->accent);
+        target.invite (kind->invitation, kind->icon, kind->accent);
 }
 
 void FileDrops::drop (const juce::StringArray& files)

@@ -15,8 +15,8 @@ class DropTarget : public AssetScheme::Element<>
 public:
     explicit DropTarget (EditorContext& contextToUse);
 
-    /** The words, and a colour of the scheme. */
-    void invite (const juce::String& words, const std::string& accentToUse);
+    /** The words, an icon's file, and a colour of the scheme. */
+    void invite (const juce::String& words, const juce::String& icon, const std::string& accentToUse);
 
     const juce::String& getInvitation() const noexcept { return caption.getText(); }
 
@@ -26,7 +26,7 @@ public:
 private:
     EditorContext& context;
     std::string accent = "Midi";
-    Caption caption { { .icon = "midi.svg", .cut = AssetScheme::Cut::bold, .iconSize = "IconSizeLarge" } };
+    Caption caption { { .cut = AssetScheme::Cut::bold, .iconSize = "IconSizeLarge" } };
     juce::Path edge;    // dashed
     float inset = 0.0f; // pixels
 };
@@ -40,6 +40,7 @@ public:
     struct Kind
     {
         juce::String invitation; // as "Play this file"
+        juce::String icon;       // as "midi.svg"
         std::string accent;      // a colour of the scheme
         std::function<bool (const juce::StringArray&)> accepts;
         std::function<void (const juce::StringArray&)> drop;

@@ -11,13 +11,19 @@ namespace Zn::GUI
 namespace
 {
 constexpr auto pulseInterval = 50;    // milliseconds
-constexpr auto quietestPulse = 0.65f; // opacity
+constexpr auto quietestPulse = 0.35f; // opacity
 
 using Target = Learning::Target;
 
 juce::Colour schemeColour (std::string_view name)
 {
     return AssetScheme::Base::get().colourOf (name);
+}
+
+void announce (const juce::String& text)
+{
+    juce::AccessibilityHandler::postAnnouncement (text,
+                                                  juce::AccessibilityHandler::AnnouncementPriority::medium);
 }
 
 bool movesParameter (const Learning::LearnMap::Binding& binding)
@@ -79,7 +85,14 @@ void LearnMode::follow()
     if (! isVisible())
         return;
 
+    if (armed && armed != waitedFor)
+        announce (titleOf (*armed) + (armed->isSlot() ? ", play a key" : ", press the pedal"));
+
     answerBindings (waitedFor);
+
+    if (marked && context.learning.textOf (*marked).isEmpty())
+        marked.reset();
+
     showLines();
     pulses.setActive (armed.has_value() && ! context.settings.get().reducedMotion);
     brightness = 1.0f;
@@ -107,9 +120,12 @@ void LearnMode::answerBindings (const std::optional<Target>& waitedFor)
     if (hasPedal && std::none_of (before.begin(), before.end(), movesParameter))
         context.overlay.showMessage ("The pedal no longer sustains");
 
-    const auto isLearned = waitedFor && ! armed && bindings != before;
+    if (! waitedFor || armed || bindings == before)
+        return;
 
-    if (isLearned && waitedFor->isSlot())
+    announce (titleOf (*waitedFor) + ", " + context.learning.textOf (*waitedFor));
+
+    if (waitedFor->isSlot())
         armNextSlot (waitedFor->slot);
 }
 
@@ -238,18 +254,20 @@ juce::String LearnMode::titleOf (const Target& target) const
 
 void LearnMode::paint (juce::Graphics& g)
 {
-    juce::Graphics::ScopedSaveState saved (g);
+    {
+        const juce::Graphics::ScopedSaveState saved (g);
+
+        for (const auto& target : targets)
+            g.excludeClipRegion (boundsOf (target));
+
+        g.fillAll (schemeColour ("LearnDim"));
+    }
 
     for (const auto& target : targets)
         if (armed == target.target)
             paintEdge (g, target, "Midi");
         else if (marked == target.target)
             paintEdge (g, target, "Focus");
-
-    for (const auto& target : targets)
-        g.excludeClipRegion (boundsOf (target));
-
-    g.fillAll (schemeColour ("LearnDim"));
 }
 
 /** Around a control. */

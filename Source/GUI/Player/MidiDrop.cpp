@@ -17,6 +17,7 @@ juce::String firstMidiFile (const juce::StringArray& files)
 FileDrops::Kind midiDrop (PlayerActions& actions)
 {
     return { .invitation = "Play this file",
+             .icon = "midi.svg",
              .accent = "Midi",
              .accepts = [] (const auto& files) { return firstMidiFile (files).isNotEmpty(); },
              .drop = [&actions] (const auto& files) { actions.play (juce::File (firstMidiFile (files))); } };

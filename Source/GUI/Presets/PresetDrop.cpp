@@ -38,6 +38,7 @@ bool PresetDrop::drop (const juce::StringArray& files)
 FileDrops::Kind presetDrop (PresetDrop& drop)
 {
     return { .invitation = "Load this preset",
+             .icon = "folder.svg",
              .accent = "Pattern",
              .accepts = [&drop] (const juce::StringArray& files) { return drop.accepts (files); },
              .drop = [&drop] (const juce::StringArray& files) { drop.drop (files); } };
