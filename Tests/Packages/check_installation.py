@@ -15,13 +15,15 @@ from pathlib import Path
 BUILD = Path(sys.argv.pop(1))
 SOURCE = Path(__file__).resolve().parents[2]
 PROGRAMS = ("vornel", "vornel-presets", "vornel-render", "vornel-tonq")
+PLUGINS = ("Vornel", "Vornel MIDI")
 
 # Of everything else there may be more with time.
 ESSENTIAL = {
     *(f"bin/{program}" for program in PROGRAMS),
     *(f"share/man/man1/{program}.1" for program in PROGRAMS),
-    f"lib/vst3/Vornel.vst3/Contents/{os.uname().machine}-linux/Vornel.so",
-    *(f"lib/lv2/Vornel.lv2/{name}" for name in ("libVornel.so", "manifest.ttl", "dsp.ttl", "ui.ttl")),
+    *(f"lib/vst3/{plugin}.vst3/Contents/{os.uname().machine}-linux/{plugin}.so" for plugin in PLUGINS),
+    *(f"lib/lv2/{plugin}.lv2/{name}" for plugin in PLUGINS
+      for name in (f"lib{plugin}.so", "manifest.ttl", "dsp.ttl", "ui.ttl", "presets/patterns-welcome.ttl")),
     "share/applications/example.brenvik.vornel.desktop",
     "share/icons/hicolor/scalable/apps/example.brenvik.vornel.svg",
     "share/metainfo/example.brenvik.vornel.metainfo.xml",

@@ -44,7 +44,7 @@ export JACK_NO_AUDIO_RESERVATION=1 JACK_NO_START_SERVER=1
 jackd --no-realtime -d dummy -r 48000 -p 256 > /dev/null 2>&1 &
 jackd=$!
 jack_wait -w -t 10 > /dev/null 2>&1
-(sleep 2; echo presets; sleep 2; echo quit) | timeout 30 jalv "$1" 2>&1
+(sleep 2; echo presets; echo "preset $1/presets/patterns-welcome"; sleep 3; echo quit) | timeout 30 jalv "$1" 2>&1
 status=$?
 kill $jackd
 wait $jackd
@@ -144,6 +144,7 @@ def check_plugins(system, vst3):
     for uri in uris:
         said = system.run("sh", "-c", PLAY_IN_JALV, "jalv", uri)
         demand_that("JACK Name" in said, f"jalv does not run {uri}:\n{said}")
+        demand_that(f"{uri}/presets/patterns-welcome (WELCOME)" in said, f"jalv lists no presets of {uri}:\n{said}")
 
     bundles = Path(f"{system.root}/{vst3}")
     libraries = list(bundles.glob(f"*.vst3/Contents/{os.uname().machine}-linux/*.so"))
