@@ -1,7 +1,7 @@
 # Links as distributions ask for: programs that are loaded anywhere, and tables of functions that nobody writes to once
 # they are filled.
 
-if (VORNEL_SANITIZER)
+if (VORNEL_SANITIZER OR APPLE OR WIN32)
     return()
 endif()
 
