@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Calls vornel-render as a user does: command_line_tests.py PROGRAM EXAMPLES"""
+"""Calls vornel-render as a user does: command_line_tests.py PROGRAM EXAMPLES CHORDS"""
 
 import json
 import os
@@ -13,7 +13,7 @@ import time
 import unittest
 from pathlib import Path
 
-PROGRAM, EXAMPLES = Path(sys.argv[1]), Path(sys.argv[2])
+PROGRAM, EXAMPLES, CHORDS = map(Path, sys.argv[1:4])
 CHORALE = EXAMPLES / "old-hundredth.mid"
 QUICK = ["--sample-rate", "8000", "--tail", "0"]
 
@@ -21,6 +21,42 @@ QUICK = ["--sample-rate", "8000", "--tail", "0"]
 HOME = tempfile.TemporaryDirectory()
 os.environ["HOME"] = HOME.name
 os.environ.pop("XDG_CONFIG_HOME", None)
+
+
+def notes_of(path):
+    """The notes of a chord file as (start, end, pitch), and its length, all in quarter notes."""
+    data = path.read_bytes()
+    place, tick, begun, notes = 22, 0, {}, []
+
+    def number():
+        nonlocal place
+        value = 0
+
+        while True:
+            byte, place = data[place], place + 1
+            value = value << 7 | byte & 0x7F
+
+            if byte < 0x80:
+                return value
+
+    while place < len(data):
+        tick += number()
+        status, kind = data[place:place + 2]
+        place += 2
+
+        if status == 0xFF:
+            size = number()
+            place += size
+            continue
+
+        pitch, place = kind, place + 1
+
+        if status == 0x90:
+            begun[pitch] = tick
+        else:
+            notes.append((begun.pop(pitch) / 480, tick / 480, pitch))
+
+    return notes, tick / 480
 
 
 class CommandLine(unittest.TestCase):
@@ -171,19 +207,61 @@ class CommandLine(unittest.TestCase):
             with self.subTest(option=option, message=message):
                 self.expect_failure(1, message, option, file, "--state-out", self.folder / "new")
 
-    def test_plays_the_chords_of_a_project(self):
-        state, notes = self.folder / "state", self.folder / "notes.jsonl"
-        self.assertEqual(self.call("--set", "Arp-Active=Off", "--state-out", state).stderr, "")
+    def project_with_player(self, chords, *options):
+        """The state of a project in which the MIDI player is on."""
+        state = self.folder / "state"
+        self.assertEqual(self.call("--state-out", state, *options).stderr, "")
 
         project = json.loads(state.read_bytes()[8:].rstrip(b"\0"))
-        project["MidiPlayer"] = {"Resource": {"name": "Chords 1 - Pop", "type": "SharedBinary", "data": ""},
+        project["MidiPlayer"] = {"Resource": {"name": chords, "type": "SharedBinary", "data": ""},
                                  "playing": True, "active": True}
         text = json.dumps(project).encode() + b"\0"
         state.write_bytes(b"VC2!" + struct.pack("<i", len(text)) + text)
+        return state
 
-        self.assertEqual(self.call(CHORALE, "--state-in", state, "--out-events", notes, *QUICK).stderr, "")
-        lines = map(json.loads, notes.read_text().splitlines())
-        self.assertEqual([line["bytes"][1] for line in lines if line["bytes"][0] == 0x90][:6], [48, 64, 67, 55, 62, 71])
+    def test_plays_the_chords_of_a_project_at_their_ticks_however_the_host_loops(self):
+        quarter = 4000  # samples, at 120 beats a minute and 8000 samples a second
+        song = self.file(b"MThd\0\0\0\6\0\0\0\1\0\x18MTrk\0\0\0\x0d"
+                         + bytes.fromhex("00903c64 8740803c00 00ff2f00"))  # a key, 40 quarters long, that gives way
+        climb = [{"enabled": True, "Event": {"noteNum": 64 + i % 3}, "Time": {"start": i / 16, "length": 1 / 16}}
+                 for i in range(16)]
+        pattern = self.preset("Vornel", {"Patterns": {"Patterns": [{"Pattern": {"Steps": climb, "grid": 16}}]}})
+
+        def played(state, loop, block):
+            out = self.folder / "out.jsonl"
+            result = self.call(song, "--state-in", state, "--out-events", out, "--loop", f"{loop[0]}:{loop[1]}",
+                               "--block", block, "--set", "Enable-Synth=Off", *QUICK)
+            self.assertEqual((result.returncode, result.stderr), (0, ""))
+            lines = [json.loads(line) for line in out.read_text().splitlines()]
+            return sorted((line["sample"], line["bytes"][0] == 0x90, line["bytes"][1]) for line in lines
+                          if line["sample"] < 40 * quarter)
+
+        def expected(notes, loop):
+            """The notes of each pass through the loop, cut at its ends."""
+            events, elapsed, first = [], 0.0, 0.0
+
+            while elapsed < 40:
+                for start, end, pitch in notes:
+                    start, end = max(start, first), min(end, loop[1])
+                    events += [(round((elapsed + time - first) * quarter), isOn, pitch)
+                               for time, isOn in ((start, True), (end, False)) if start < end]
+
+                elapsed, first = elapsed + loop[1] - first, loop[0]
+
+            return sorted(event for event in events if event[0] < 40 * quarter)
+
+        for name in ("Chords 1 - Pop", "Chords 26 - Future Bass", "Chords 27 - Waltz"):
+            once, length = notes_of(CHORDS / f"{name}.mid")
+            notes = [(start + again * length, end + again * length, pitch) for again in range(4) for start, end, pitch in once]
+            steps = [(i / 4, (i + 1) / 4, sorted(pitch for start, end, pitch in notes if start <= i / 4 < end)[i % 16 % 3])
+                     for i in range(160)]
+
+            for options, wanted in ((["--set", "Arp-Active=Off"], notes), (["--preset", pattern], steps)):
+                state = self.project_with_player(name, *options)
+
+                for loop, block in (((3, 9), 512), ((1.25, 13.75), 64), ((length - 1, length + 1.5), 736)):
+                    with self.subTest(name=name, options=options, loop=loop):
+                        self.assertEqual(played(state, loop, block), expected(wanted, loop))
 
     def test_repeats_a_render_with_the_same_seed(self):
         renders = []
