@@ -48,6 +48,35 @@ std::set<std::string> namesInBundle()
     return names;
 }
 
+/** The number that a VST3 plug-in's class has in projects of JUCE's hosts: of the two codes it is made with. */
+int classNumber (juce::uint32 manufacturer, juce::uint32 plugin)
+{
+    juce::uint32 number = 0;
+
+    for (auto part : { 0xABCDEF01u, 0x9182FAEBu, manufacturer, plugin })
+        number = number * 31 + part;
+
+    return static_cast<int> (number);
+}
+
+TEST (HostedPlugins, AreKnownByWhatProjectsHaveOfThem)
+{
+    constexpr juce::uint32 brvk = 0x4272766B, vrnl = 0x56726E6C, vrnM = 0x56726E4D;
+
+    const auto check = [] (const char* bundle, const auto& name, const auto& category, int number) {
+        VST3Host host { bundle, sampleRate, blockSize };
+        const auto description = host.getPlugin().getPluginDescription();
+
+        EXPECT_EQ (description.name, name);
+        EXPECT_EQ (description.manufacturerName, "Brenvik");
+        EXPECT_EQ (description.category, category);
+        EXPECT_EQ (description.uniqueId, number) << name;
+    };
+
+    check (VORNEL_VST3_BUNDLE, "Vornel", "Instrument|Synth", classNumber (brvk, vrnl));
+    check (VORNEL_MIDI_VST3_BUNDLE, "Vornel MIDI", "Fx|Tools", classNumber (brvk, vrnM));
+}
+
 TEST (HostedParameters, HaveTheSameNamesInEveryFormat)
 {
     VST3Host vst3 { VORNEL_VST3_BUNDLE, sampleRate, blockSize };
