@@ -34,6 +34,8 @@ constexpr auto usage = R"(Usage: vornel-screenshot FILE.png [OPTIONS]
   --fold           folds the sound away
   --brush=0..4     pencil, cursor, velocity, -, chance
   --learn=NOTE     eight keys from this one on switch slots, and the pedal moves the filter
+  --player=FILE    turns the MIDI player on with one of its own files, or one from elsewhere by its whole path
+  --drag=FILE      holds a file over the window
   --click=A,B,...  clicks parts of the editor by their names, one after the other
   --menu=NAME      clicks a part with the right button
 )";
@@ -188,6 +190,18 @@ private:
     std::optional<GUI::StandaloneView> window;
 };
 
+void turnPlayerOn (Processor& processor, const juce::String& file)
+{
+    using Resource = Sequencer::MidiPlayer::Resource;
+    const auto isPath = juce::File::isAbsolutePath (file);
+    const auto type = isPath ? Resource::Type::externalFile : Resource::Type::sharedBinary;
+    const auto name = isPath ? juce::File (file).getFileNameWithoutExtension() : file;
+
+    auto& state = processor.getState();
+    state.player.set ({ { type, name.toStdString(), isPath ? file.toStdString() : "" }, true, false });
+    state.setPlayerActive (true);
+}
+
 bool write (const juce::Image& image, const juce::File& file)
 {
     file.deleteFile();
@@ -258,6 +272,12 @@ int run (const juce::ArgumentList& arguments)
 
     if (has ("--brush"))
         state.brushParam.setInt (option ("--brush").getIntValue());
+
+    if (has ("--player"))
+        turnPlayerOn (processor, option ("--player"));
+
+    if (has ("--drag"))
+        page.fileDragEnter ({ option ("--drag") }, 1, 1);
 
     Player player { processor };
 

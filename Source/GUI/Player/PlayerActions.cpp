@@ -2,6 +2,7 @@
 
 #include "Sequencer/MidiPlayer/ReadResource.h"
 
+#include <optional>
 #include <utility>
 
 namespace Zn::GUI
@@ -12,14 +13,23 @@ using Audio::Plugins::Vornel::State;
 
 constexpr auto editName = "MIDI file";
 
-juce::File folderToOpen (const State& state)
+/** The chosen file, if it is one on disk. */
+std::optional<juce::File> fileOf (const State& state)
 {
     const auto& resource = state.player.get().resource;
     const auto path = juce::String::fromUTF8 (resource.data.c_str());
 
     if (resource.type == Sequencer::MidiPlayer::Resource::Type::externalFile
         && juce::File::isAbsolutePath (path))
-        return juce::File (path).getParentDirectory();
+        return juce::File (path);
+
+    return {};
+}
+
+juce::File folderToOpen (const State& state)
+{
+    if (const auto file = fileOf (state); file && file->getParentDirectory().isDirectory())
+        return file->getParentDirectory();
 
     return juce::File::getSpecialLocation (juce::File::userDocumentsDirectory);
 }
@@ -110,6 +120,12 @@ bool PlayerActions::changes (const std::function<void()>& change)
 
     state.projectChanged.callListeners();
     return true;
+}
+
+bool isFileMissing (const State& state)
+{
+    const auto file = fileOf (state);
+    return file && ! file->existsAsFile();
 }
 
 PlayerSwitch::PlayerSwitch (const juce::String& nameToUse,

@@ -41,6 +41,9 @@ private:
     Events::Listener openListener;
 };
 
+/** Whether the chosen file is one on disk that is not there. */
+bool isFileMissing (const Audio::Plugins::Vornel::State& state);
+
 /** A switch of the player, for a toggle. Thread: message. */
 class PlayerSwitch : public Parameters::BoolRef
 {

@@ -29,7 +29,7 @@ void PlayerFile::look()
     if (const auto& song = context.state().player.getSong())
         length << song->numBars << (song->numBars == 1 ? " bar" : " bars");
     else if (context.state().midiFile.getInt() > 0)
-        length = "missing";
+        length = isFileMissing (context.state()) ? "missing" : "damaged";
 
     if (! nameArea.isEmpty())
         schemeChanged();
@@ -50,6 +50,11 @@ TooltipText PlayerFile::getTooltipText() const
 {
     auto tooltip = Control::getTooltipText();
     tooltip.value = name;
+
+    if (isFileMissing (context.state()))
+        tooltip.help =
+            "Not found: " + juce::String::fromUTF8 (context.state().player.get().resource.data.c_str());
+
     return tooltip;
 }
 

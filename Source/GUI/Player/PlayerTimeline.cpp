@@ -1,11 +1,31 @@
 #include "GUI/Player/PlayerTimeline.h"
 
+#include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Player/PlayerActions.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace Zn::GUI
 {
-PlayerTimeline::PlayerTimeline (EditorContext& contextToUse) : Control (contextToUse, "PlayerTimeline")
+namespace
+{
+/** What stands in place of chords. */
+juce::String noticeOf (Audio::Plugins::Vornel::State& state)
+{
+    if (state.player.getSong() != nullptr)
+        return {};
+
+    if (state.midiFile.getInt() == 0)
+        return "Drop a MIDI file here";
+
+    return isFileMissing (state) ? "This file is not there any more" : "This file cannot be played";
+}
+} // namespace
+
+PlayerTimeline::PlayerTimeline (EditorContext& contextToUse)
+    : Control (contextToUse, "PlayerTimeline")
+    , listener (contextToUse.state().player.changed, [this] { isStale = true; })
 {
     setEnabledWhen ([this] { return song != nullptr; });
     readSong();
@@ -18,7 +38,9 @@ TooltipText PlayerTimeline::getTooltipText() const
     if (pointed >= 0)
         tooltip.value = chords[static_cast<std::size_t> (pointed)].name;
 
-    if (! canJump())
+    if (song == nullptr)
+        tooltip.help = notice;
+    else if (! canJump())
         tooltip.help = "The host's clock decides where the file plays.";
 
     return tooltip;
@@ -32,7 +54,9 @@ void PlayerTimeline::schemeChanged()
 
 void PlayerTimeline::readSong()
 {
+    isStale = false;
     song = context.state().player.getSong();
+    notice = noticeOf (context.state());
     middleC = context.settings.get().middleC;
     chords = song != nullptr ? chordsOf (*song, middleC) : std::vector<SongChord>();
     lit = pointed = -1;
@@ -64,6 +88,14 @@ void PlayerTimeline::layOut()
 
 void PlayerTimeline::paintControl (juce::Graphics& g)
 {
+    if (song == nullptr) // to be read, though there is nothing to click
+        paintText (g,
+                   notice,
+                   font,
+                   area(),
+                   juce::Justification::centredLeft,
+                   AssetScheme::Base::get().colourOf ("TextSecondary"));
+
     const auto inset = std::round (pixels ("CaptionGap") / 2.0f);
 
     for (auto index = 0; const auto& [chip, text] : chips)
@@ -86,7 +118,7 @@ void PlayerTimeline::paintControl (juce::Graphics& g)
 
 void PlayerTimeline::poll()
 {
-    if (song != context.state().player.getSong() || middleC != context.settings.get().middleC)
+    if (isStale || middleC != context.settings.get().middleC)
         readSong();
 
     const auto now = chordNow();
@@ -197,7 +229,7 @@ std::unique_ptr<juce::AccessibilityHandler> PlayerTimeline::createAccessibilityH
             for (const auto& chord : timeline.getChords())
                 names.add (chord.name);
 
-            return names.joinIntoString (", ");
+            return names.isEmpty() ? timeline.getNotice() : names.joinIntoString (", ");
         }
 
         const PlayerTimeline& timeline;

@@ -17,6 +17,9 @@ public:
     int getLit() const noexcept { return lit; }
     const std::vector<SongChord>& getChords() const noexcept { return chords; }
 
+    /** Why there are none, or how to get some. */
+    const juce::String& getNotice() const noexcept { return notice; }
+
     TooltipText getTooltipText() const override;
     void schemeChanged() override;
     void mouseMove (const juce::MouseEvent& event) override { pointAt (event.position); }
@@ -48,6 +51,9 @@ private:
     std::vector<SongChord> chords;
     std::vector<Chip> chips; // one for each chord
     juce::Font font;
+    juce::String notice;
     int lit = -1, pointed = -1;
+    bool isStale = false;
+    Events::Listener listener;
 };
 } // namespace Zn::GUI

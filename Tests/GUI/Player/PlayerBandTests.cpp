@@ -106,6 +106,47 @@ TEST (PlayerBand, LightsTheChordThatPlaysAndJumps)
     EXPECT_EQ (editor.timeline.getLit(), -1);
 }
 
+TEST (PlayerBand, TellsWhyThereAreNoChords)
+{
+    using Type = Sequencer::MidiPlayer::Resource::Type;
+    const auto broken = juce::File::createTempFile (".mid");
+    broken.replaceWithText ("MThd");
+
+    struct Row
+    {
+        Sequencer::MidiPlayer::Resource resource;
+        const char *name, *length, *notice;
+    };
+
+    const Row rows[] = {
+        { {}, "None", "", "Drop a MIDI file here" },
+        { { Type::externalFile, "Gone", "/songs/gone.mid" },
+          "Gone",
+          "missing",
+          "This file is not there any more" },
+        { { Type::externalFile, "Broken", broken.getFullPathName().toStdString() },
+          "Broken",
+          "damaged",
+          "This file cannot be played" },
+        { { Type::binary, "Broken", "AAAA" }, "Broken", "damaged", "This file cannot be played" },
+        { { Type::sharedBinary, "Chords of tomorrow", {} }, "None", "", "Drop a MIDI file here" },
+        { Sequencer::MidiPlayer::embedded ("Chords 1 - Pop"), "Chords 1 - Pop", "4 bars", "" },
+    };
+
+    PlayerStrip editor;
+
+    for (const auto& row : rows)
+    {
+        editor.getState().player.set ({ row.resource, true, true });
+        editor.poll();
+        EXPECT_EQ (editor.file.getShownName(), row.name);
+        EXPECT_EQ (editor.file.getShownLength(), row.length) << row.name;
+        EXPECT_EQ (editor.timeline.getNotice(), row.notice) << row.name;
+    }
+
+    broken.deleteFile();
+}
+
 TEST (PlayerBand, PlaysWhatIsDroppedOnTheWindow)
 {
     PlayerStrip editor;
