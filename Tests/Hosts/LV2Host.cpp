@@ -276,6 +276,11 @@ LV2Host::run (int numSamples, const juce::MidiBuffer& midi, const std::vector<LV
     return implementation->read();
 }
 
+void LV2Host::setFreeWheeling (bool isFreeWheeling)
+{
+    implementation->freeWheelingValue = isFreeWheeling ? 1.0f : 0.0f;
+}
+
 int LV2Host::heapCallsOfRun (int numSamples, const std::vector<LV2Message>& messages)
 {
     implementation->write (numSamples, {}, messages);

@@ -46,6 +46,9 @@ public:
     /** The state chunk as the plug-in saves it. */
     juce::MemoryBlock save();
 
+    /** Tells the plug-in that the blocks to come are rendered as fast as can be. */
+    void setFreeWheeling (bool isFreeWheeling);
+
     /** Plays a block and returns the MIDI that came out. */
     juce::MidiBuffer
     run (int numSamples, const juce::MidiBuffer& midi, const std::vector<LV2Message>& messages);

@@ -133,6 +133,7 @@ TEST_F (Plugin, FollowsTempoStopAndStartAlikeInEveryHost)
     {
         const char* name;
         Song song;
+        bool samplesTellTheBeat = false; // only of a song that has one tempo and stays where it is
     };
 
     const Row rows[] = {
@@ -141,7 +142,21 @@ TEST_F (Plugin, FollowsTempoStopAndStartAlikeInEveryHost)
             .numBlocks = 800 } },
         { "stop for a second, then on",
           { .script = [] (auto& playHead, int block) { playHead.isPlaying = block / blocksPerSecond != 2; },
-            .numBlocks = 5 * blocksPerSecond } },
+            .numBlocks = 5 * blocksPerSecond },
+          true },
+        { "loop of a bar",
+          { .script = [] (auto& playHead, int) { playHead.setLoop (0.0, 4.0); },
+            .numBlocks = 7 * blocksPerSecond },
+          true },
+        { "loop of three beats, later in the song",
+          { .script =
+                [] (auto& playHead, int block) {
+                    playHead.setLoop (9.0, 12.0);
+
+                    if (block == 0)
+                        playHead.jumpTo (9.0);
+                },
+            .numBlocks = 7 * blocksPerSecond } },
         { "stopped from the start",
           { .script = [] (auto& playHead, int) { playHead.stop(); }, .numBlocks = 2 * blocksPerSecond } },
         { "stop, move, start",
@@ -156,7 +171,7 @@ TEST_F (Plugin, FollowsTempoStopAndStartAlikeInEveryHost)
         { "blocks of any size",
           { .script = [] (auto& playHead, int block) { playHead.setTempo (block < 300 ? 133.0 : 171.0); },
             .numBlocks = 900,
-            .blockSizes = { 256, 100, 156, 1, 255, 31 } } },
+            .blockSizes = { 256, 100, 0, 156, 1, 255, 0, 31 } } },
     };
 
     for (const auto& row : rows)
@@ -167,8 +182,7 @@ TEST_F (Plugin, FollowsTempoStopAndStartAlikeInEveryHost)
 
         for (auto talk : { Talk::everyBlock, Talk::changesInBars, Talk::changesInFrames })
         {
-            // A count of samples alone tells the beat of a song with one tempo only.
-            if (talk == Talk::changesInFrames && std::string_view (row.name) != "stop for a second, then on")
+            if (talk == Talk::changesInFrames && ! row.samplesTellTheBeat)
                 continue;
 
             const auto actual = playLV2 (row.song, talk);
@@ -186,7 +200,7 @@ TEST_F (Plugin, SendsTheArpeggioAsMidiAndSoundsIt)
     {
         EXPECT_EQ (unbalanced (performance.events), "");
         EXPECT_FALSE (performance.onsets.empty());
-        EXPECT_GT (performance.loudest, 0.001f);
+        EXPECT_TRUE (sameSound (performance, performance)) << "silent";
 
         for (const auto event : performance.events)
             EXPECT_EQ (event.getMessage().getChannel(), 1);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
-#include <span>
 
 namespace Zn::Test
 {
@@ -118,19 +117,17 @@ Performance play (LV2Host& host, const Song& song, Talk talk)
 {
     TestPlayHead playHead { song.sampleRate, song.tempo };
     Narrator narrator { playHead, talk };
-    auto loudest = 0.0f;
+    std::vector<float> sound;
 
     auto performance = perform (song, playHead, [&] (int size, const juce::MidiBuffer& midi) {
         auto output = host.run (size, midi, narrator.messagesOfBlock (size));
-
-        for (auto sample :
-             std::span (host.audioOutput (0))
-                 .first (std::min (std::size (host.audioOutput (0)), static_cast<std::size_t> (size))))
-            loudest = std::max (loudest, std::abs (sample));
-
+        const auto& left = host.audioOutput (0);
+        sound.insert (sound.end(),
+                      left.begin(),
+                      left.begin() + std::min<std::ptrdiff_t> (size, std::ssize (left)));
         return output;
     });
-    performance.loudest = loudest;
+    performance.sound = std::move (sound);
     return performance;
 }
 
@@ -138,14 +135,20 @@ Performance play (VST3Host& host, const Song& song)
 {
     TestPlayHead playHead { song.sampleRate, song.tempo };
     host.setPlayHead (&playHead);
-    auto loudest = 0.0f;
+    std::vector<float> sound;
 
     auto performance = perform (song, playHead, [&] (int size, const juce::MidiBuffer& midi) {
         auto output = host.run (size, midi);
-        loudest = std::max (loudest, host.getAudio().getMagnitude (0, size));
+
+        if (host.getAudio().getNumChannels() > 0)
+        {
+            const auto* left = host.getAudio().getReadPointer (0);
+            sound.insert (sound.end(), left, left + size);
+        }
+
         return output;
     });
-    performance.loudest = loudest;
+    performance.sound = std::move (sound);
     host.setPlayHead (nullptr);
     return performance;
 }
@@ -164,5 +167,25 @@ testing::AssertionResult sameOnsets (const Performance& first, const Performance
                    << b.sample << " in the other (-1: none)";
 
     return testing::AssertionSuccess();
+}
+
+testing::AssertionResult sameSound (const Performance& first, const Performance& second)
+{
+    if (first.sound.size() != second.sound.size())
+        return testing::AssertionFailure()
+               << first.sound.size() << " and " << second.sound.size() << " samples";
+
+    auto loudest = 0.0f, difference = 0.0f;
+
+    for (std::size_t i = 0; i < first.sound.size(); ++i)
+    {
+        loudest = std::max (loudest, std::abs (first.sound[i]));
+        difference = std::max (difference, std::abs (first.sound[i] - second.sound[i]));
+    }
+
+    if (loudest > 0.001f && difference < 1.0e-5f * loudest)
+        return testing::AssertionSuccess();
+
+    return testing::AssertionFailure() << "up to " << loudest << ", with a difference of " << difference;
 }
 } // namespace Zn::Test

@@ -33,8 +33,8 @@ struct Performance
     };
 
     std::vector<Onset> onsets;
-    juce::MidiBuffer events; // all, by sample from the start; the keys are released at the very end
-    float loudest = 0.0f;    // of the audio
+    juce::MidiBuffer events;  // all, by sample from the start; the keys are released at the very end
+    std::vector<float> sound; // the left channel, if there is one
 };
 
 /** How much an LV2 host tells its plug-ins about the transport. */
@@ -50,4 +50,7 @@ Performance play (VST3Host& host, const Song& song);
 
 /** Whether the same notes start in both, at most one sample apart. */
 testing::AssertionResult sameOnsets (const Performance& first, const Performance& second);
+
+/** Whether both sound, and alike. */
+testing::AssertionResult sameSound (const Performance& first, const Performance& second);
 } // namespace Zn::Test

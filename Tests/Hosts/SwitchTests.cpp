@@ -1,0 +1,67 @@
+#include "Hosts/Song.h"
+
+#include <gtest/gtest.h>
+
+// What hosts switch around the processing, and nobody hears.
+
+namespace Zn::Test
+{
+namespace
+{
+constexpr auto blockSize = 256;
+constexpr auto sampleRate = 48000.0;
+constexpr auto blocksPerSecond = 48000 / blockSize;
+
+const Song second { .numBlocks = blocksPerSecond };
+} // namespace
+
+TEST (PluginSwitches, OfOfflineRenderingChangeNoSample)
+{
+    VST3Host vst3 (VORNEL_VST3_BUNDLE, sampleRate, blockSize),
+        offlineVST3 (VORNEL_VST3_BUNDLE, sampleRate, blockSize);
+    offlineVST3.getPlugin().releaseResources();
+    offlineVST3.getPlugin().setNonRealtime (true);
+    offlineVST3.getPlugin().prepareToPlay (sampleRate, blockSize);
+
+    LV2Host lv2 (VORNEL_LV2_LIBRARY, sampleRate, blockSize),
+        offlineLV2 (VORNEL_LV2_LIBRARY, sampleRate, blockSize);
+    offlineLV2.setFreeWheeling (true);
+
+    const auto expected = play (vst3, second);
+    EXPECT_GT (expected.onsets.size(), 5u);
+
+    for (const auto& performance : { play (offlineVST3, second),
+                                     play (lv2, second, Talk::everyBlock),
+                                     play (offlineLV2, second, Talk::everyBlock) })
+    {
+        EXPECT_TRUE (sameOnsets (performance, expected));
+        EXPECT_TRUE (sameSound (performance, expected));
+    }
+}
+
+TEST (PluginSwitches, OfTheInputThatNobodyHearsChangeNothing)
+{
+    const auto expected = [] {
+        VST3Host host (VORNEL_VST3_BUNDLE, sampleRate, blockSize);
+        return play (host, second);
+    }();
+
+    for (const auto isOn : { false, true })
+    {
+        VST3Host host (VORNEL_VST3_BUNDLE, sampleRate, blockSize);
+        auto& plugin = host.getPlugin();
+        plugin.releaseResources();
+
+        if (auto* input = plugin.getBus (true, 0))
+        {
+            input->enable (! isOn);
+            input->enable (isOn); // refused or not
+        }
+
+        plugin.prepareToPlay (sampleRate, blockSize);
+        const auto performance = play (host, second);
+        EXPECT_TRUE (sameOnsets (performance, expected)) << isOn;
+        EXPECT_TRUE (sameSound (performance, expected)) << isOn;
+    }
+}
+} // namespace Zn::Test
