@@ -126,6 +126,17 @@ class TonqTool(unittest.TestCase):
         self.assertNotIn(b"A title", self.convert(self.convert(self.file(
             wav(noise(9, 1, 16), 1, 16, more=title), "a.wav"), "b.tnq"), "c.aif").read_bytes())
 
+    def test_leaves_out_marks_that_are_not_there(self):
+        cue = struct.pack("<6I", 1, 0, 0x61746164, 0, 0, 0)
+        samples = noise(2, 2, 16)
+
+        for told, kept in ((1, True), (2_000_000, False), (178_956_971, False), (0x7FFFFFFF, False)):
+            with self.subTest(told=told):
+                marks = chunk(b"cue ", struct.pack("<I", told) + cue)
+                source = self.file(wav(samples, 2, 16, more=marks), "a.wav")
+                back = self.convert(self.convert(source, "b.tnq"), "c.wav").read_bytes()
+                self.assertEqual((parts(back)[-1], b"cue " in back), (samples, kept))
+
     def test_knows_the_other_kinds(self):
         for bits in (16, 24):
             for channels in (1, 2, 8):

@@ -60,9 +60,25 @@ juce::AudioChannelSet speakersOf (int numChannels, const juce::StringPairArray& 
     return juce::AudioChannelSet::discreteChannels (numChannels);
 }
 
+/** Whether there can be as many marks and loops as it says: what writes the files believes it, and makes room for them
+    and writes them all. Each takes an entry at least.
+*/
+bool hasWhatItCounts (const juce::StringPairArray& metadata)
+{
+    const auto counts = { "NumCuePoints", "NumCueLabels", "NumCueNotes", "NumCueRegions", "NumSampleLoops" };
+
+    return std::ranges::all_of (counts, [&] (const char* count) {
+        const auto told = metadata[count].getLargeIntValue();
+        return told >= 0 && told <= metadata.size();
+    });
+}
+
 juce::StringPairArray understoodBy (const char* kind, const juce::StringPairArray& metadata)
 {
-    return metadata.getValue ("MetaDataSource", kind) == kind ? metadata : juce::StringPairArray();
+    if (metadata.getValue ("MetaDataSource", kind) != kind || ! hasWhatItCounts (metadata))
+        return {};
+
+    return metadata;
 }
 
 juce::AudioFormatWriter* createWriter (juce::OutputStream* stream,
