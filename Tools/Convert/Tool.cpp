@@ -23,7 +23,8 @@ tells; what TARGET becomes, the end of its name: .tnq, .wav, .aif, .aiff or .fla
 The sample rate, the channels and every sample stay as they are:
   16 and 24 bits   are kept by all kinds of files
   32 bits          whole numbers or floating point, are kept by .tnq and WAV, and refused for others
-  8, 12, 20 bits   become 16 or 24 in a .tnq file, and stay so on the way back
+  8 bits           become 16 in a .tnq file, and stay so on the way back
+  12 and 20 bits   of FLAC become 16 and 24 likewise; those of others are refused
   channels         are up to 32, of FLAC up to 8
   sample rates     may have a fraction in a .tnq file only
 What cannot be kept is refused, and so is a file that breaks off or is damaged, as far as it tells.
