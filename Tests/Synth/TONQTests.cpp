@@ -293,11 +293,17 @@ TEST (TONQ, StopsWhenTheDiskIsFull)
 TEST (TONQ, IsReadWhereverSoundIs)
 {
     const Singleton::UserToken singletonsStay;
-    const auto reader =
-        Sampler::Source::Reader::open (Sampler::MemorySource (std::as_bytes (std::span (smallFile))));
+    const auto bytes = std::as_bytes (std::span (smallFile));
+    const auto reader = Sampler::Source::Reader::open (Sampler::MemorySource (bytes));
 
     ASSERT_NE (reader, nullptr);
     EXPECT_EQ (reader->getNumFrames(), 2);
     EXPECT_EQ (reader->getNumChannels(), 2);
+
+    for (const auto numMissing : { 1u, 4u, 8u })
+        EXPECT_EQ (
+            Sampler::Source::Reader::open (Sampler::MemorySource (bytes.first (bytes.size() - numMissing))),
+            nullptr)
+            << numMissing;
 }
 } // namespace Zn::Audio::Formats::TONQ

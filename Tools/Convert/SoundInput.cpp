@@ -16,17 +16,6 @@ namespace
 using Audio::Formats::TONQ::Format;
 using Audio::Formats::TONQ::Header;
 
-/** The frames that the header of a ".tnq" file speaks of. */
-std::uint64_t framesPromised (const juce::File& file)
-{
-    juce::FileInputStream stream (file);
-    Header::Bytes bytes {};
-    stream.read (bytes.data(), int (bytes.size()));
-
-    const auto header = Header::fromBytes (bytes);
-    return header ? header->numFrames : 0;
-}
-
 bool isPacked (const juce::AudioFormatReader& reader)
 {
     return reader.getFormatName().startsWith ("FLAC");
@@ -169,7 +158,9 @@ void SoundInput::checkLength() const
     if (reader->lengthInSamples < 0)
         fail ("has a length that makes no sense");
 
-    if (isTonq() && static_cast<std::uint64_t> (reader->lengthInSamples) < framesPromised (file))
+    const auto* tonq = dynamic_cast<const Audio::Formats::TONQ::Reader*> (reader.get());
+
+    if (tonq != nullptr && ! tonq->isWhole())
         fail ("breaks off before its last sample");
 }
 } // namespace Zn::TonqTool

@@ -1,5 +1,6 @@
 #include "Synth/Sampler/SourceReader.h"
 
+#include "Synth/Formats/TONQ/Reader.h"
 #include "Synth/Sampler/FormatManager.h"
 
 #include <algorithm>
@@ -32,6 +33,9 @@ juce::int64 positionAfter (juce::AudioFormatReader& reader, juce::int64 frame)
 /** Whether all the samples that the header speaks of are there. Readers would give silence for the others. */
 bool isWhole (juce::AudioFormatReader& reader)
 {
+    if (const auto* tonq = dynamic_cast<const Formats::TONQ::Reader*> (&reader))
+        return tonq->isWhole();
+
     const juce::int64 bytesPerFrame = reader.numChannels * (reader.bitsPerSample / 8);
     const auto lastFrame = reader.lengthInSamples - 1;
 

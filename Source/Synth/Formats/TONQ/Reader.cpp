@@ -50,6 +50,11 @@ Reader::Reader (std::unique_ptr<juce::InputStream> stream, const Header& headerT
     readMetadata();
 }
 
+bool Reader::isWhole() const noexcept
+{
+    return static_cast<std::uint64_t> (lengthInSamples) == header.numFrames;
+}
+
 void Reader::readMetadata()
 {
     juce::MemoryBlock text;

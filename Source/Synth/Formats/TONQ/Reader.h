@@ -19,6 +19,9 @@ public:
     /** Takes the stream over if the file is sound; else returns null and leaves it. */
     static std::unique_ptr<Reader> open (std::unique_ptr<juce::InputStream>& stream);
 
+    /** Whether the file goes on to the last frame that its header speaks of; else it ends where it breaks off. */
+    bool isWhole() const noexcept;
+
     /** Of 32 bits that are floating point, the bits; else whole numbers, left-aligned in 32 bits. */
     bool readSamples (int* const* channels,
                       int numWantedChannels,
