@@ -225,8 +225,8 @@ TEST (MidiPlayerSong, LeavesOutWhatIsTooMuch)
     EXPECT_EQ (many->slot.events.notes.size(), 8192u);
     EXPECT_EQ (many->numBars, 8192 * 2 / 16);
 
-    const auto tenHours = read (manyNotes (1200, 4, 127));
-    EXPECT_EQ (tenHours->numBars, static_cast<int> (std::ceil (1200 * 131 / 16.0)));
+    const auto fiveHours = read (manyNotes (1200, 4, 127));
+    EXPECT_EQ (fiveHours->numBars, static_cast<int> (std::ceil (1200 * 131 / 16.0)));
 
     auto late = manyNotes (2, 1, 1);
     late[13] = 1; // ticks in a quarter note

@@ -53,12 +53,21 @@ void Controller::take (const Settings& newSettings, std::shared_ptr<const Song> 
         return;
 
     settings = newSettings;
-    active.store (settings.active);
-    playing.store (settings.playing);
+
+    // Off before another song is there and on behind it: no block in between is to hear the wrong one.
+    if (! (settings.active && settings.playing))
+        switchOver();
 
     if (std::exchange (song, std::move (newSong)) != song)
         songs.getWriter().publish ([this] (auto& frame) { frame = song; });
 
+    switchOver();
     changed.callListeners();
+}
+
+void Controller::switchOver() noexcept
+{
+    active.store (settings.active);
+    playing.store (settings.playing);
 }
 } // namespace Zn::Sequencer::MidiPlayer

@@ -45,6 +45,7 @@ public:
 
 private:
     void take (const Settings& newSettings, std::shared_ptr<const Song> newSong);
+    void switchOver() noexcept;
 
     Settings settings;
     std::shared_ptr<const Song> song;
