@@ -227,7 +227,7 @@ TEST (MidiPlayer, LeavesNothingHangingWhateverHappens)
         }
 }
 
-TEST (MidiPlayer, ComesBackWithTheProjectAndTheUndo)
+TEST (MidiPlayer, ComesBackWithTheProjectOnly)
 {
     using Type = Sequencer::MidiPlayer::Resource::Type;
     ChordPlayer p;
