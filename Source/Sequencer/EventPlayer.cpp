@@ -12,7 +12,11 @@ namespace
 constexpr std::size_t maxNotes = 4096, maxMarks = 256; // overlapping one run; more are passed over
 constexpr double markWindow = 0.001;              // quarter notes from a mark's start in which it is passed
 constexpr int lastFlushedRow = Cell::numRows - 2; // going back leaves the highest row to the sweep
-constexpr float softest = 0.01f;                  // velocities below still sound, at the lowest byte
+
+// Clocks round their positions to 2^-30 of a quarter note. What lies before a sample by no more than that stands on it.
+constexpr double clockRounding = 1.0 / (1 << 29); // quarter notes
+
+constexpr float softest = 0.01f; // velocities below still sound, at the lowest byte
 
 Cell cellOf (const NoteEvent& event) noexcept
 {
@@ -83,7 +87,14 @@ struct EventPlayer::Run
 
     int sampleOf (double position) const noexcept
     {
-        return isRising ? crossingSampleOfRising (positions, position) : crossingSample (positions, position);
+        const auto sample =
+            isRising ? crossingSampleOfRising (positions, position) : crossingSample (positions, position);
+        const auto next = static_cast<std::size_t> (sample) + 1;
+
+        return next < positions.size() && positions[next] > position
+                       && positions[next] - position < clockRounding
+                   ? sample + 1
+                   : sample;
     }
 
     /** Collects the pointers to what overlaps the run; the list is sorted, so what follows

@@ -82,6 +82,23 @@ TEST (HostClock, PlaysEveryPassOfALoopAlikeWhereverItWraps)
     }
 }
 
+TEST (HostClock, StartsTripletsOnTheirSamplesThoughNoBinaryNumberIsTheirs)
+{
+    for (const auto numSteps : { 3, 6, 12, 24, 48, 96 })
+    {
+        Song song;
+        song.drawSteps (0, numSteps, 0);
+        song.host.run (8 * bar);
+
+        std::vector<int> expected;
+
+        for (auto start = 0; start < 8 * bar; start += bar / numSteps)
+            expected.push_back (start);
+
+        EXPECT_EQ (song.starts(), expected) << numSteps << " steps a bar";
+    }
+}
+
 TEST (HostClock, LeavesNothingHangingInLoopsThatMakeNoSense)
 {
     struct Row
