@@ -1,6 +1,6 @@
 #include "Presets/AtomicFile.h"
 
-#include "Presets/NativePath.h"
+#include "Foundation/NativePath.h"
 
 #include <cstdio>
 #include <system_error>

@@ -1,6 +1,6 @@
 #include "Presets/PresetFile.h"
 
-#include "Presets/NativePath.h"
+#include "Foundation/NativePath.h"
 #include "Presets/Reflection/JsonText.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "Presets/PresetFinder.h"
 
-#include "Presets/NativePath.h"
+#include "Foundation/NativePath.h"
 #include "Presets/PresetFile.h"
 
 #include <algorithm>

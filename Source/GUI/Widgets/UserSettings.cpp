@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <optional>
 
 namespace Zn::GUI
 {
@@ -84,18 +85,22 @@ Values sound (Values values)
     return values;
 }
 
-Values readFile (const juce::File& file)
+/** None if there is something else in the file; what is not there has its default. */
+std::optional<Values> readFile (const juce::File& file)
 {
     Values values;
 
-    if (! file.existsAsFile() || file.getSize() > largestFile)
+    if (! file.existsAsFile())
         return values;
+
+    if (file.getSize() > largestFile)
+        return {};
 
     const auto text = file.loadFileAsString().toStdString();
     const auto json = Json::parse (text, nullptr, false);
 
     if (! json.is_object())
-        return values;
+        return {};
 
     const auto readField = [&json] (const char* name, auto& value) {
         if (const auto found = json.find (name); found != json.end())
@@ -104,6 +109,30 @@ Values readFile (const juce::File& file)
 
     visitFields (readField, values);
     return sound (values);
+}
+
+void merge (auto& target, const auto& before, const auto& after)
+{
+    if (before != after)
+        target = after;
+}
+
+/** Line by line, as others may have added some and removed some. */
+void merge (juce::StringArray& target, const juce::StringArray& before, const juce::StringArray& after)
+{
+    for (const auto& line : before)
+        if (! after.contains (line))
+            target.removeString (line);
+
+    for (const auto& line : after)
+        if (! before.contains (line))
+            target.addIfNotAlreadyThere (line);
+}
+
+/** What nobody can read is no longer in the way, but still there for whoever can mend it. */
+bool keepAside (const juce::File& file)
+{
+    return file.moveFileTo (file.getSiblingFile (file.getFileName() + ".bad").getNonexistentSibling (false));
 }
 
 std::string textOf (const Values& values)
@@ -115,7 +144,8 @@ std::string textOf (const Values& values)
 } // namespace
 
 UserSettings::UserSettings (const juce::File& fileToUse)
-    : watcher (fileToUse, [this] { take (readFile (watcher.getFile())); }), values (readFile (fileToUse))
+    : watcher (fileToUse, [this] { take (readFile (watcher.getFile()).value_or (values)); })
+    , values (readFile (fileToUse).value_or (Values()))
 {}
 
 juce::File UserSettings::defaultFile()
@@ -131,15 +161,15 @@ void UserSettings::set (const Values& newValues)
 
     // Another editor may have changed other settings just now: those stay.
     const auto& file = watcher.getFile();
-    auto merged = file.existsAsFile() ? readFile (file) : values;
-    const auto merge = [] (const char*, auto& target, const auto& before, const auto& after) {
-        if (before != after)
-            target = after;
-    };
+    const auto inFile = file.existsAsFile() ? readFile (file) : values;
+    auto merged = inFile.value_or (values);
 
-    visitFields (merge, merged, values, newValues);
+    visitFields ([] (const char*, auto&... field) { merge (field...); }, merged, values, newValues);
     file.getParentDirectory().createDirectory();
-    Presets::replaceFile (file, textOf (merged), Presets::Durability::canBeMadeAgain);
+
+    if (inFile || keepAside (file))
+        Presets::replaceFile (file, textOf (merged), Presets::Durability::survivesPowerLoss);
+
     take (merged);
 }
 

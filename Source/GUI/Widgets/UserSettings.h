@@ -8,8 +8,8 @@
 namespace Zn::GUI
 {
 /** What a user wants of every editor, kept in a file of theirs. Tells its listeners of changes, and writes them
-    at once; takes in what other open editors write. Whatever cannot be read in the file has its default.
-    Thread: message.
+    at once; takes in what other open editors write. Whatever cannot be read in the file has its default; a file that
+    cannot be read at all is kept beside the new one when that is written. Thread: message.
 */
 class UserSettings : public Events::HasBroadcaster
 {

@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstring>
+#include <filesystem>
 
 namespace Zn::GUI
 {
@@ -14,9 +16,10 @@ using Values = UserSettings::Values;
 
 struct SettingsFile
 {
-    ~SettingsFile() { file.deleteFile(); }
+    SettingsFile() { file.getParentDirectory().createDirectory(); }
+    ~SettingsFile() { file.getParentDirectory().deleteRecursively(); }
 
-    juce::File file = juce::File::createTempFile ("json");
+    juce::File file = juce::File::createTempFile ("settings").getChildFile ("settings.json");
 };
 } // namespace
 
@@ -56,24 +59,51 @@ TEST (UserSettings, TakeTheDefaultOfWhateverMakesNoSense)
     EXPECT_FALSE (settings.get().tooltips);
 }
 
+TEST (UserSettings, KeepWhatCannotBeReadAndWhatIsKnownAlready)
+{
+    const SettingsFile settingsFile;
+    const auto& file = settingsFile.file;
+    const auto broken = R"({"favourites": ["Vornel/One")";
+    file.replaceWithText (broken);
+
+    UserSettings settings (file);
+    settings.set ({ .favourites = { "Vornel/Two" } });
+    EXPECT_EQ (file.getSiblingFile ("settings.json.bad").loadFileAsString(), broken);
+
+    file.replaceWithText (broken);
+    settings.check();
+    settings.set ({ .tooltips = false, .favourites = { "Vornel/Two" } });
+    EXPECT_EQ (UserSettings (file).get().favourites, juce::StringArray ("Vornel/Two"));
+    EXPECT_EQ (file.getParentDirectory().getNumberOfChildFiles (juce::File::findFiles), 3);
+}
+
 TEST (UserSettings, AreSharedByOpenEditors)
 {
     const SettingsFile settingsFile;
+    UserSettings (settingsFile.file).set ({ .favourites = { "both", "old" } });
     UserSettings one (settingsFile.file), other (settingsFile.file);
     auto numChanges = 0;
     const Events::Listener listener (other, [&] { ++numChanges; });
 
     auto values = one.get();
     values.middleC = 4;
+    values.favourites = { "both", "one" };
     one.set (values);
+    one.check();
 
     values = other.get(); // which has not looked yet
     values.tooltips = false;
+    values.favourites.add ("other");
     other.set (values);
     EXPECT_EQ (numChanges, 1);
     EXPECT_EQ (other.get().middleC, 4);
 
-    settingsFile.file.setLastModificationTime (juce::Time::getCurrentTime() + juce::RelativeTime (5.0));
+    EXPECT_EQ (other.get().favourites, juce::StringArray ("both", "one", "other"));
+
+    const auto path = settingsFile.file.getFullPathName().toStdString();
+    std::filesystem::last_write_time (path,
+                                      std::filesystem::last_write_time (path)
+                                          + std::chrono::milliseconds (1)); // on coarse clocks, too
     one.check();
     EXPECT_TRUE (one.get() == other.get());
 }

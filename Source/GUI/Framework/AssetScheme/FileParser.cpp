@@ -1,13 +1,13 @@
 #include "GUI/Framework/AssetScheme/FileParser.h"
 
+#include "Foundation/NativePath.h"
+
 #include <utility>
 
 namespace Zn::GUI::AssetScheme
 {
 FileParser::FileParser (juce::File fileToWatch, CallbackFunc callbackToUse)
-    : file (std::move (fileToWatch))
-    , callback (std::move (callbackToUse))
-    , modified (file.getLastModificationTime())
+    : file (std::move (fileToWatch)), callback (std::move (callbackToUse)), modified (readTime())
 {
     constexpr auto intervalMilliseconds = 500;
     startTimer (intervalMilliseconds);
@@ -15,12 +15,18 @@ FileParser::FileParser (juce::File fileToWatch, CallbackFunc callbackToUse)
 
 void FileParser::check()
 {
-    const auto now = file.getLastModificationTime();
+    const auto now = readTime();
 
     if (now == modified)
         return;
 
     modified = now;
     callback();
+}
+
+FileParser::Time FileParser::readTime() const
+{
+    std::error_code error; // while there is no file: the earliest time
+    return std::filesystem::last_write_time (nativePath (file), error);
 }
 } // namespace Zn::GUI::AssetScheme

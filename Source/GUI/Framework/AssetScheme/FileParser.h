@@ -4,10 +4,13 @@
 
 #include <juce_events/juce_events.h>
 
+#include <filesystem>
+
 namespace Zn::GUI::AssetScheme
 {
 /** Watches a file and calls a function when its time of modification has become another one: when it was
-    written, or has come or gone. Does not call for what it finds at first. Thread: message.
+    written, or has come or gone. Does not call for what it finds at first. The time is as fine as the file system's:
+    JUCE's has steps of a second on some, and two editors may write within one. Thread: message.
 */
 class FileParser : private juce::Timer
 {
@@ -20,10 +23,13 @@ public:
     const juce::File& getFile() const noexcept { return file; }
 
 private:
+    using Time = std::filesystem::file_time_type;
+
     void timerCallback() override { check(); }
+    Time readTime() const;
 
     const juce::File file;
     const CallbackFunc callback;
-    juce::Time modified;
+    Time modified;
 };
 } // namespace Zn::GUI::AssetScheme

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-namespace Zn::Presets
+namespace Zn
 {
 /** A file for the standard library, whose functions tell what they did and follow no link unasked. */
 inline std::filesystem::path nativePath (const juce::File& file)
@@ -19,4 +19,4 @@ inline juce::File fileFromPath (const std::filesystem::path& path)
     const auto text = path.u8string();
     return juce::File (juce::String::fromUTF8 (std::string (text.begin(), text.end()).c_str()));
 }
-} // namespace Zn::Presets
+} // namespace Zn
