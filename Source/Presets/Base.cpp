@@ -182,11 +182,11 @@ nlohmann::json Base::load (const juce::File& file)
     auto document = PresetFile::read (file);
 
     // A file that was valid once may have been changed since.
-    if (document.is_object())
-        applyAsPreset (document, file.getFileNameWithoutExtension());
-    else
-        document = nullptr;
+    if (! document.is_object())
+        return nullptr;
 
+    lastFile = file;
+    applyAsPreset (document, file.getFileNameWithoutExtension());
     return document;
 }
 
@@ -207,6 +207,7 @@ bool Base::save (const juce::URL& destination)
         return false;
     }
 
+    lastFile = file;
     headers().forget (file);
     validator().setValid (getProduct(), file);
     list.forget();
@@ -228,6 +229,11 @@ const std::vector<Base::Entry>& Base::getList()
     });
 }
 
+int Base::getPosition()
+{
+    return positionOf (getList(), header.id, header.name, lastFile);
+}
+
 void Base::rescan()
 {
     list.forget();
@@ -238,7 +244,7 @@ void Base::step (int direction)
 {
     const auto entries = getList(); // a copy: listeners may save
     const auto size = static_cast<int> (entries.size());
-    auto position = positionOf (entries, header.id, header.name);
+    auto position = getPosition();
 
     for (auto numTried = 0; numTried < size; ++numTried)
     {

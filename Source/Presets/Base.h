@@ -98,6 +98,11 @@ public:
     /** Factory presets, then the user's. Built when first asked for, and again after each save. */
     const std::vector<Entry>& getList();
 
+    /** Where in the list the preset is that is loaded; -1 if it is no longer there. Of files that hold the same under
+        one name it is the one that was loaded or saved last.
+    */
+    int getPosition();
+
     /** The list is searched for anew: files have come or gone. */
     void rescan();
 
@@ -132,6 +137,7 @@ private:
     void loadFromArchive (const juce::File& file);
 
     DocumentHeader header;
+    juce::File lastFile; // loaded or saved
     PresetList list;
 };
 } // namespace Zn::Presets

@@ -12,11 +12,18 @@ const std::vector<PresetEntry>& PresetList::get (const Search& search)
     return *entries;
 }
 
-int positionOf (const std::vector<PresetEntry>& entries, const juce::String& id, const juce::String& name)
+int positionOf (const std::vector<PresetEntry>& entries,
+                const juce::String& id,
+                const juce::String& name,
+                const juce::File& likely)
 {
-    const auto found = std::find_if (entries.begin(), entries.end(), [&] (const PresetEntry& entry) {
+    const auto isIt = [&] (const PresetEntry& entry) {
         return entry.id == id && entry.file.getFileNameWithoutExtension() == name;
-    });
+    };
+    auto found = std::find (entries.begin(), entries.end(), PresetEntry { likely, id });
+
+    if (found == entries.end() || ! isIt (*found))
+        found = std::find_if (entries.begin(), entries.end(), isIt);
 
     return found == entries.end() ? -1 : static_cast<int> (found - entries.begin());
 }

@@ -32,8 +32,13 @@ private:
     std::optional<std::vector<PresetEntry>> entries;
 };
 
-/** The place of a preset among others, -1 if it is not there. Files of another stamp are not looked at further. */
-int positionOf (const std::vector<PresetEntry>& entries, const juce::String& id, const juce::String& name);
+/** The place of a preset among others, -1 if it is not there. Of several copies of one it is the file that is likely,
+    or the first.
+*/
+int positionOf (const std::vector<PresetEntry>& entries,
+                const juce::String& id,
+                const juce::String& name,
+                const juce::File& likely);
 
 /** Where a step from a position leads in a list of `size` presets, round its ends. From -1, which is nowhere, to
     the first or the last.

@@ -53,13 +53,10 @@ void PresetActions::makeReady()
 
 std::optional<juce::File> PresetActions::getCurrentFile()
 {
-    const auto& list = getLibrary().getList();
-    const auto position = Presets::positionOf (list, getLibrary().getId(), getLibrary().getName());
+    if (const auto position = getLibrary().getPosition(); position >= 0)
+        return getLibrary().getList()[static_cast<std::size_t> (position)].file;
 
-    if (position < 0)
-        return {};
-
-    return list[static_cast<std::size_t> (position)].file;
+    return {};
 }
 
 bool PresetActions::load (const juce::File& file)

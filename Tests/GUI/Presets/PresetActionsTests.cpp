@@ -57,6 +57,20 @@ TEST_F (PresetActionsTest, FindAndLoadWhatWasSaved)
     EXPECT_EQ (state.getName(), "Init") << "a load is one step";
 }
 
+TEST_F (PresetActionsTest, KnowTheFileThatWasLoadedFromItsCopies)
+{
+    ASSERT_EQ (patterns.save (own ("Mine", "House")), "");
+    const auto copy = own ("Mine", "Techno");
+    ASSERT_TRUE (copy.getParentDirectory().createDirectory() && own ("Mine", "House").copyFileTo (copy));
+    patterns.rescan();
+    EXPECT_EQ (patterns.getCurrentFile(), own ("Mine", "House"));
+
+    patterns.step (1);
+    EXPECT_EQ (patterns.getCurrentFile(), copy);
+    patterns.step (1);
+    EXPECT_FALSE (patterns.getCurrentFile() == copy) << "goes on from there";
+}
+
 TEST_F (PresetActionsTest, KeepTheNewNameWhenTheNextEditIsUndone)
 {
     context.edits.perform ("Before", [this] { return edit(), true; });
