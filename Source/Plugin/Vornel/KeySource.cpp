@@ -35,6 +35,10 @@ void KeySource::process (juce::MidiBuffer& events,
 
 void KeySource::takeFile (juce::MidiBuffer& events, const Sequencer::ClockSlice& clock) noexcept
 {
+    for (const auto event : events)
+        if (Midi::isController (event, Midi::allNotesOffController)) // a panic: the host's goes around us
+            Midi::EventWriter (fileNotes).add (event);
+
     events.clear();
 
     // The pedal goes with the keys: its lift would never come, and it would hold one chord over the next.

@@ -18,6 +18,7 @@ void append (juce::MidiBuffer& target, const juce::MidiBuffer& source, int sampl
 void releaseEverything (Midi::EventWriter& input) noexcept
 {
     input.add (Midi::ShortMessage { { 0xB0, Midi::sustainController, 0 } }, 0);
+    input.add (Midi::ShortMessage { { 0xB0, Midi::allNotesOffController, 0 } }, 0); // of a file, too
 
     for (auto note = 0; note < 128; ++note)
         input.add (Midi::ShortMessage::noteOff (1, note), 0);
