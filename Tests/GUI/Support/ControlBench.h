@@ -2,49 +2,13 @@
 
 #include "Foundation/Singleton.h"
 #include "GUI/Support/Hand.h"
+#include "GUI/Support/RecordedOverlay.h"
 #include "GUI/Widgets/EditorContext.h"
 #include "Parameters/CreateForwarder.h"
 #include "Support/MessageLoop.h"
 
 namespace Zn::Tests
 {
-/** Remembers what would come up above an editor. */
-struct RecordedOverlay : GUI::Overlay
-{
-    void openPopup (std::unique_ptr<juce::Component>) override {}
-    void closePopup() override {}
-    juce::Component* getPopup() const noexcept override { return nullptr; }
-    void showMenu (const Parameters::MenuItems::Item& newMenu, juce::Component*) override
-    {
-        choices = newMenu;
-    }
-    void showMenu (const juce::PopupMenu& newMenu, juce::Component*, std::function<void (int)>) override
-    {
-        menu = newMenu;
-    }
-    void showReadout (const juce::String&, const juce::String& value, juce::Point<int>) override
-    {
-        readout = value;
-    }
-    void hideReadout() override { readout.clear(); }
-    void showMessage (const juce::String&, const juce::String&, CallbackFunc) override {}
-    void showUndo (const juce::String&) override {}
-    bool isEnteringValue() const noexcept override { return false; }
-    void enterValue (juce::Component&,
-                     const juce::String& text,
-                     std::function<bool (const juce::String&)> newAccept,
-                     CallbackFunc) override
-    {
-        offered = text;
-        accept = std::move (newAccept);
-    }
-
-    Parameters::MenuItems::Item choices;
-    juce::PopupMenu menu;
-    juce::String readout, offered;
-    std::function<bool (const juce::String&)> accept; // of the text entry
-};
-
 /** Counts the steps that an undo would take back. */
 struct CountedUndo : Undo::Interface
 {
