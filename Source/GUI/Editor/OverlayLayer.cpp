@@ -92,24 +92,6 @@ void OverlayLayer::poll()
         message.setVisible (false);
 }
 
-void OverlayLayer::appear (juce::Component& card, juce::Component& shadow) const
-{
-    if (! card.isShowing() || ! mayMove())
-        return;
-
-    for (auto* part : { &card, &shadow })
-    {
-        part->setAlpha (0.0f);
-        juce::Desktop::getInstance().getAnimator().animateComponent (part,
-                                                                     part->getBounds(),
-                                                                     1.0f,
-                                                                     milliseconds ("PopupFadeSeconds"),
-                                                                     false,
-                                                                     1.0,
-                                                                     1.0);
-    }
-}
-
 //======================================================================================================================
 void OverlayLayer::openPopup (std::unique_ptr<juce::Component> newPopup)
 {
@@ -134,7 +116,7 @@ void OverlayLayer::openPopup (std::unique_ptr<juce::Component> newPopup)
     message.toFront (false);
 
     if (! isReplaced)
-        appear (*popup, *popupShadow);
+        fadeIn (*popup, *popupShadow, settings);
 
     focusPopup();
 }
@@ -227,7 +209,7 @@ void OverlayLayer::showMessage (const juce::String& text, const juce::String& ac
     message.show (text, actionText, std::move (action), [this] { message.setVisible (false); });
     message.setVisible (true);
     message.toFront (false);
-    appear (message, messageShadow);
+    fadeIn (message, messageShadow, settings);
 
     messageEnd = juce::Time::getMillisecondCounter() + juce::uint32 (milliseconds ("MessageSeconds"));
     juce::AccessibilityHandler::postAnnouncement (text,

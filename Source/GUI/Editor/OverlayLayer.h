@@ -61,7 +61,6 @@ private:
     };
 
     void poll();
-    void appear (juce::Component& card, juce::Component& shadow) const;
     void focusPopup();
     void withdrawUndo();
     void closeEntry (ValueEntry::End end, const CallbackFunc& next);

@@ -8,6 +8,8 @@ namespace Zn::GUI
 {
 namespace
 {
+constexpr auto textInterval = 200; // milliseconds: what is shown may change, but not with each poll
+
 TooltipCard& addedTo (juce::Component& parent, TooltipCard& card)
 {
     parent.addChildComponent (card);
@@ -67,6 +69,11 @@ void Tooltips::look (juce::Component* underPointer, juce::Point<int> pointer, in
     if (owner == nullptr || (! isShown && restedMilliseconds < delayOf (*owner)))
         return hide();
 
+    const auto thisLook = restedMilliseconds / textInterval;
+
+    if (std::exchange (lastLook, thisLook) == thisLook && isShown)
+        return;
+
     const auto newText = dynamic_cast<const TooltipSource&> (*owner).getTooltipText();
 
     if (newText.title.isEmpty() && newText.help.isEmpty())
@@ -75,6 +82,7 @@ void Tooltips::look (juce::Component* underPointer, juce::Point<int> pointer, in
     if (isShown && newText == text)
         return;
 
+    const auto comesUp = ! card.isVisible();
     const auto staysThere = isShown && newText.title == text.title;
     explained = owner;
     text = newText;
@@ -85,5 +93,8 @@ void Tooltips::look (juce::Component* underPointer, juce::Point<int> pointer, in
 
     card.setVisible (true);
     card.toFront (false);
+
+    if (comesUp)
+        fadeIn (card, shadow, settings);
 }
 } // namespace Zn::GUI

@@ -35,6 +35,7 @@ private:
     juce::Component::SafePointer<juce::Component> explained, pressed;
     juce::Point<int> lastPointer;
     juce::uint32 restsSince = 0; // milliseconds
+    int lastLook = 0;            // in intervals of looks at a text
     Events::Listener pollListener;
 };
 } // namespace Zn::GUI

@@ -63,6 +63,7 @@ void PresetPopup::rebuild()
 
     if (catalogue.getGroups().empty() || listed != newList || favourites != newFavourites)
     {
+        previews.lookAgain();
         listed = newList;
         favourites = newFavourites;
 

@@ -68,7 +68,7 @@ const PresetPreview* PresetPreviews::find (const juce::File& file)
     const auto known = records.find (file.getFullPathName());
     const auto isKnown = known != records.end();
 
-    if (! isKnown || known->second.time != file.getLastModificationTime())
+    if (! isKnown || ! known->second.isFresh)
     {
         std::erase (wanted, file);
         wanted.push_front (file);
@@ -78,6 +78,12 @@ const PresetPreview* PresetPreviews::find (const juce::File& file)
     }
 
     return isKnown ? &known->second.preview : nullptr;
+}
+
+void PresetPreviews::lookAgain()
+{
+    for (auto& [path, record] : records)
+        record.isFresh = false;
 }
 
 bool PresetPreviews::readSome()
@@ -90,7 +96,13 @@ bool PresetPreviews::readSome()
         wanted.pop_front();
 
         auto& record = records[file.getFullPathName()];
-        record = { .time = file.getLastModificationTime(), .preview = {} };
+        const auto time = file.getLastModificationTime();
+        record.isFresh = true;
+
+        if (record.time == time)
+            continue;
+
+        record = { .time = time, .isFresh = true };
 
         try
         {

@@ -23,7 +23,7 @@ struct PresetPreview
     static PresetPreview of (nlohmann::json& document);
 };
 
-/** The previews of preset files. Reads no file while something waits for it: what is not known yet comes with one of
+/** The previews of preset files. Looks at no file while something waits for it: what is not known yet comes with one of
     the next calls of readSome(), newest wish first. Thread: message.
 */
 class PresetPreviews
@@ -32,14 +32,18 @@ public:
     /** Null while it has not been read; it will be then. Holds until the next readSome(). */
     const PresetPreview* find (const juce::File& file);
 
+    /** Files may be others now: those that are asked for from now on are read again where that is so. */
+    void lookAgain();
+
     /** Reads a few of those that were asked for. Whether there were any. */
     bool readSome();
 
 private:
     struct Record
     {
-        juce::Time time;
-        PresetPreview preview;
+        juce::Time time {};
+        bool isFresh = false;
+        PresetPreview preview {};
     };
 
     std::map<juce::String, Record> records; // by full path

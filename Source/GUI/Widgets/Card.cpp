@@ -88,4 +88,21 @@ void CardShadow::componentBeingDeleted (juce::Component&)
     card = nullptr;
     setVisible (false);
 }
+
+void fadeIn (juce::Component& card, CardShadow& shadow, const UserSettings& settings)
+{
+    if (! card.isShowing() || settings.get().reducedMotion)
+        return;
+
+    const auto milliseconds =
+        juce::roundToInt (1000.0f * AssetScheme::Base::get().constantOf ("PopupFadeSeconds"));
+
+    for (auto* part : std::initializer_list<juce::Component*> { &card, &shadow })
+    {
+        part->setAlpha (0.0f);
+        juce::Desktop::getInstance()
+            .getAnimator()
+            .animateComponent (part, part->getBounds(), 1.0f, milliseconds, false, 1.0, 1.0);
+    }
+}
 } // namespace Zn::GUI

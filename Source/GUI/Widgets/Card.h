@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GUI/Framework/AssetScheme/Canvas.h"
+#include "GUI/Widgets/UserSettings.h"
 
 namespace Zn::GUI
 {
@@ -32,4 +33,7 @@ private:
     juce::Component* card; // null once it is gone
     const AssetScheme::Canvas& canvas;
 };
+
+/** Lets a card that has just come up fade in, unless the user wants nothing to move. */
+void fadeIn (juce::Component& card, CardShadow& shadow, const UserSettings& settings);
 } // namespace Zn::GUI
