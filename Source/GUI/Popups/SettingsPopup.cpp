@@ -17,19 +17,6 @@ namespace
 {
 constexpr std::array windowPercents { 75, 100, 125, 150, 200, 250, 300 };
 
-EditorContext withEdits (const EditorContext& context, Edits& edits)
-{
-    return { .processor = context.processor,
-             .canvas = context.canvas,
-             .settings = context.settings,
-             .edits = edits,
-             .overlay = context.overlay,
-             .learning = context.learning,
-             .polls = context.polls,
-             .shownSlot = context.shownSlot,
-             .actions = context.actions };
-}
-
 juce::File coloursFile()
 {
     return Presets::Folders::user (AssetScheme::UserColours::fileName);
@@ -51,19 +38,18 @@ const Toggle::Options pill { .look = Toggle::Look::pill, .accent = "Text" };
 
 SettingsPopup::SettingsPopup (EditorContext& contextToUse)
     : Popup (contextToUse, "SettingsPopup", "Settings")
-    , settingsContext (withEdits (contextToUse, edits))
-    , middleC (settingsContext, "SettingsMiddleC", number (&Values::middleC, { 3, 4 }, { "C3", "C4" }))
-    , windowSize (settingsContext, "SettingsWindowSize", windowSizeParam())
-    , colours (settingsContext, "SettingsColours", coloursParam())
-    , tooltips (settingsContext, "SettingsTooltips", flag (&Values::tooltips), pill)
-    , reducedMotion (settingsContext, "SettingsReducedMotion", flag (&Values::reducedMotion), pill)
-    , playHead (settingsContext,
-                "SettingsPlayHead",
-                number (&Values::playHeadHertz, { 60, 30 }, { "60 Hz", "30 Hz" }))
-    , follow (settingsContext, "SettingsFollow", flag (&Values::followsPlayingSlot), pill)
-    , wheel (settingsContext, "SettingsWheel", flag (&Values::wheelTurnsKnobs), pill)
-    , folders (settingsContext, "SettingsFolders", { .text = "Show" }, [this] { showFolders(); })
-    , panic (settingsContext, "SettingsPanic", { .text = "Panic" }, [this] { context.state().panic(); })
+    , form (contextToUse)
+    , middleC (form.context, "SettingsMiddleC", number (&Values::middleC, { 3, 4 }, { "C3", "C4" }))
+    , windowSize (form.context, "SettingsWindowSize", windowSizeParam())
+    , colours (form.context, "SettingsColours", coloursParam())
+    , tooltips (form.context, "SettingsTooltips", flag (&Values::tooltips), pill)
+    , reducedMotion (form.context, "SettingsReducedMotion", flag (&Values::reducedMotion), pill)
+    , playHead (
+          form.context, "SettingsPlayHead", number (&Values::playHeadHertz, { 60, 30 }, { "60 Hz", "30 Hz" }))
+    , follow (form.context, "SettingsFollow", flag (&Values::followsPlayingSlot), pill)
+    , wheel (form.context, "SettingsWheel", flag (&Values::wheelTurnsKnobs), pill)
+    , folders (form.context, "SettingsFolders", { .text = "Show" }, [this] { showFolders(); })
+    , panic (form.context, "SettingsPanic", { .text = "Panic" }, [this] { context.state().panic(); })
     , rows { &middleC,  &windowSize, &colours, &tooltips, &reducedMotion,
              &playHead, &follow,     &wheel,   &folders,  &panic }
 {

@@ -3,6 +3,7 @@
 #include "GUI/Popups/SettingParam.h"
 #include "GUI/Widgets/Button.h"
 #include "GUI/Widgets/Choice.h"
+#include "GUI/Widgets/FormContext.h"
 #include "GUI/Widgets/Popup.h"
 #include "GUI/Widgets/Segments.h"
 #include "GUI/Widgets/Toggle.h"
@@ -46,10 +47,7 @@ private:
     void resetColours() const;
     void showFolders();
 
-    // Settings are no part of the project: what is done here is not undone there.
-    Undo::Interface forgetful;
-    Edits edits { forgetful, [] {} };
-    EditorContext settingsContext;
+    FormContext form;
 
     List list { *this };
     Segments middleC;

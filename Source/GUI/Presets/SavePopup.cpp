@@ -31,36 +31,22 @@ juce::String currentCategory (PresetActions& actions)
     const auto file = actions.getCurrentFile();
     return file ? categoryOf (actions.getLibrary(), *file) : juce::String();
 }
-
-/** The same editor, but what is done here is remembered by another undo. */
-EditorContext withEdits (const EditorContext& context, Edits& edits)
-{
-    return { .processor = context.processor,
-             .canvas = context.canvas,
-             .settings = context.settings,
-             .edits = edits,
-             .overlay = context.overlay,
-             .learning = context.learning,
-             .polls = context.polls,
-             .shownSlot = context.shownSlot,
-             .actions = context.actions };
-}
 } // namespace
 
 SavePopup::SavePopup (PresetActions& actionsToUse, std::function<void (const juce::File&)> saveTo)
     : Popup (actionsToUse.getContext(), "SavePopup", "Save " + actionsToUse.getKind().title.toLowerCase())
     , actions (actionsToUse)
     , save (std::move (saveTo))
-    , formContext (withEdits (context, noEdits))
+    , form (context)
     , withSound (actions.getKind().state.savesParams)
     , category (std::make_shared<CategoryParam> (
           categoriesOf (actions.getLibrary()), currentCategory (actions), [this] { askForCategory(); }))
-    , nameLabel (formContext, "SaveNameLabel", "Name")
+    , nameLabel (form.context, "SaveNameLabel", "Name")
     , name (context.canvas, "SaveName")
-    , categoryLabel (formContext, "SaveCategoryLabel", "Category")
-    , categoryField (formContext, "SaveCategory", category)
-    , cancelButton (formContext, "SaveCancel", { .text = "Cancel" }, [this] { close(); })
-    , confirmButton (formContext,
+    , categoryLabel (form.context, "SaveCategoryLabel", "Category")
+    , categoryField (form.context, "SaveCategory", category)
+    , cancelButton (form.context, "SaveCancel", { .text = "Cancel" }, [this] { close(); })
+    , confirmButton (form.context,
                      "SaveConfirm",
                      { .text = "Save", .look = Button::Look::primary, .accent = actions.getKind().accent },
                      [this] { confirm(); })
@@ -68,7 +54,7 @@ SavePopup::SavePopup (PresetActions& actionsToUse, std::function<void (const juc
 {
     if (actions.getKind().hasPatterns)
         withSoundToggle.emplace (
-            formContext,
+            form.context,
             "SaveWithSound",
             std::make_shared<Parameters::BoolRef> (withSound, "Keep the sound", true),
             Toggle::Options { .look = Toggle::Look::box, .text = "Keep the sound and arp settings with it" });

@@ -5,6 +5,7 @@
 #include "GUI/Presets/TextField.h"
 #include "GUI/Widgets/Button.h"
 #include "GUI/Widgets/Choice.h"
+#include "GUI/Widgets/FormContext.h"
 #include "GUI/Widgets/Label.h"
 #include "GUI/Widgets/Popup.h"
 #include "GUI/Widgets/Toggle.h"
@@ -35,9 +36,7 @@ private:
     PresetActions& actions;
     const std::function<void (const juce::File&)> save;
 
-    Undo::Interface noUndo;
-    Edits noEdits { noUndo, [] {} };
-    EditorContext formContext;
+    FormContext form;
 
     bool withSound;
     std::shared_ptr<CategoryParam> category;
