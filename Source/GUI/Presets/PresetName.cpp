@@ -2,8 +2,6 @@
 
 #include "GUI/Widgets/Chevron.h"
 
-#include <cmath>
-
 namespace Zn::GUI
 {
 namespace
@@ -183,14 +181,9 @@ void PresetName::mouseWheelMove (const juce::MouseEvent& event, const juce::Mous
         return Control::mouseWheelMove (event, wheel);
 
     constexpr auto smoothStep = 0.25f; // of a wheel that turns without notches, for one preset
-    const auto downwards = wheel.isReversed ? wheel.deltaY : -wheel.deltaY;
-    wheelRemainder += wheel.isSmooth ? downwards / smoothStep : std::copysign (1.0f, downwards);
 
-    if (const auto steps = static_cast<int> (wheelRemainder); steps != 0)
-    {
-        wheelRemainder -= static_cast<float> (steps);
-        actions.step (steps > 0 ? 1 : -1);
-    }
+    if (const auto steps = wheelSteps.upIn (wheel, smoothStep); steps != 0)
+        actions.step (steps > 0 ? -1 : 1);
 }
 
 bool PresetName::keyPressed (const juce::KeyPress& key)

@@ -3,6 +3,7 @@
 #include "GUI/Framework/SVGPainter.h"
 #include "GUI/Presets/PresetActions.h"
 #include "GUI/Widgets/Control.h"
+#include "GUI/Widgets/WheelSteps.h"
 
 #include <functional>
 
@@ -54,7 +55,7 @@ private:
     const Callbacks callbacks;
     Shown shown;
     bool isStale = true;
-    float wheelRemainder = 0.0f; // of a preset
+    WheelSteps wheelSteps;
 
     SVGPainter star { "star.svg" }, starred { "starred.svg" }, chevron { "down.svg" };
     juce::Font nameFont, categoryFont;

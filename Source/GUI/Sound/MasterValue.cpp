@@ -18,6 +18,22 @@ void MasterValue::schemeChanged()
     font = context.canvas.fontOf ("FontSmall");
 }
 
+void MasterValue::pressed (const juce::MouseEvent& event)
+{
+    setWantsKeyboardFocus (true);
+
+    if (isShowing())
+        grabKeyboardFocus();
+
+    ValueControl::pressed (event);
+}
+
+void MasterValue::focusLost (FocusChangeType cause)
+{
+    setWantsKeyboardFocus (false);
+    ValueControl::focusLost (cause);
+}
+
 void MasterValue::paintControl (juce::Graphics& g)
 {
     paintText (g, shownText() + " dB", font, area(), juce::Justification::centred, colour ("Text"));

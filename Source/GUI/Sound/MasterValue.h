@@ -4,17 +4,21 @@
 
 namespace Zn::GUI
 {
-/** The master volume in decibels, beside its slider, which has the keyboard. Thread: message. */
+/** The master volume in decibels, beside its slider, where Tab stops; this has the keyboard only after a press.
+    Thread: message.
+*/
 class MasterValue : public ValueControl
 {
 public:
     MasterValue (EditorContext& contextToUse, std::string element);
 
     void schemeChanged() override;
+    void focusLost (FocusChangeType cause) override;
 
 private:
     void paintControl (juce::Graphics& g) override;
     juce::Rectangle<int> valueArea() const override { return getLocalBounds(); }
+    void pressed (const juce::MouseEvent& event) override;
 
     juce::Font font;
 };

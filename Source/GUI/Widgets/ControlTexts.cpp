@@ -51,6 +51,8 @@ constexpr Row rows[] = {
       signedPercent },
     { "SwingRef", "Swing step", "The length that swings." },
     { "OctaveRange", "Octave range", "Notes outside are folded back in by octaves.", "", "Range" },
+    { "OctaveRangeLow", "Lowest octave", "Notes outside are folded back in by octaves." },
+    { "OctaveRangeHigh", "Highest octave", "Notes outside are folded back in by octaves." },
     { "BrushBank", "Tool", "What the pointer does in the roll." },
     { "BrushPencil", "Draw", "Draw notes. Click a note to erase it.", "D", "Draw" },
     { "BrushCursor", "Select", "Select, move and resize notes.", "S", "Select" },

@@ -1,259 +1,152 @@
 #include "GUI/Widgets/RangeSlider.h"
 
-#include "GUI/Widgets/ValueKeys.h"
+#include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Widgets/OctaveEnd.h"
+#include "GUI/Widgets/ValueControl.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace Zn::GUI
 {
-RangeSlider::RangeSlider (EditorContext& contextToUse,
-                          std::string element,
-                          std::shared_ptr<Parameters::Parameter> low,
-                          std::shared_ptr<Parameters::Parameter> high)
-    : Control (contextToUse, std::move (element))
-    , ends { std::move (low), std::move (high) }
-    , limits (ends[0]->getTextForNormalised (0.0f).getIntValue(),
-              ends[1]->getTextForNormalised (1.0f).getIntValue())
+class RangeSlider::End : public ValueControl
 {
-    RangeSlider::poll();
+public:
+    End (RangeSlider& slider, const char* name, std::shared_ptr<OctaveEnd> octave)
+        : ValueControl (slider.context, slider.getElement() + name, std::move (octave)), owner (slider)
+    {}
+
+    float position() const { return shownPosition(); }
+
+    bool hitTest (int x, int) override { return owner.isNearer (*this, static_cast<float> (x)); }
+
+    void focusGained (FocusChangeType cause) override
+    {
+        ValueControl::focusGained (cause);
+        repaint();
+    }
+
+    void focusLost (FocusChangeType cause) override
+    {
+        ValueControl::focusLost (cause);
+        repaint();
+    }
+
+private:
+    float proportionOf (juce::Point<float> movement) const override
+    {
+        return movement.x / std::max (1.0f, owner.lineLength());
+    }
+
+    juce::String getReadout() const override { return owner.getShownText(); }
+
+    void paintControl (juce::Graphics& g) override
+    {
+        const auto handle = owner.handleOf (*this);
+        const auto corner = pixels ("DefaultStroke");
+        g.setColour (surface ("KnobPointer"));
+        g.fillRoundedRectangle (handle, corner);
+
+        if (ring.isShown()) // lies round both
+        {
+            const auto stroke = pixels ("ThinStroke");
+            g.setColour (colour ("Focus"));
+            g.drawRoundedRectangle (handle.expanded (stroke), corner, stroke);
+        }
+    }
+
+    RangeSlider& owner;
+};
+
+RangeSlider::RangeSlider (EditorContext& contextToUse,
+                          const std::string& element,
+                          std::shared_ptr<Parameters::Parameter> lowest,
+                          std::shared_ptr<Parameters::Parameter> highest)
+    : Element (contextToUse.canvas, element)
+    , context (contextToUse)
+    , low (std::make_unique<End> (
+          *this,
+          "Low",
+          std::make_shared<OctaveEnd> (OctaveEnd::Side::low, lowest, highest, context.settings)))
+    , high (std::make_unique<End> (
+          *this,
+          "High",
+          std::make_shared<OctaveEnd> (OctaveEnd::Side::high, highest, lowest, context.settings)))
+{
+    setTitle (controlText (element).title);
+    addAndMakeVisible (*low);
+    addAndMakeVisible (*high);
 }
 
 RangeSlider::~RangeSlider() = default;
 
 juce::String RangeSlider::getShownText() const
 {
-    constexpr auto octaveOfMiddleC = 5;
     constexpr juce::juce_wchar enDash = 0x2013;
+    const auto &lowest = *low->getParameter(), &highest = *high->getParameter();
 
-    const auto low = ends[0]->getInt(), high = ends[1]->getInt();
-
-    if (low <= limits.getStart() && high >= limits.getEnd())
+    if (lowest.getNormalised() <= 0.0f && highest.getNormalised() >= 1.0f)
         return "All";
 
-    const auto shift = context.settings.get().middleC - octaveOfMiddleC;
-    const auto dash = " " + juce::String::charToString (enDash) + " ";
-    return withTrueMinus ("C" + juce::String (low + shift)) + dash
-           + withTrueMinus ("B" + juce::String (high - 1 + shift));
+    return lowest.getCurrentText() + " " + juce::String::charToString (enDash) + " "
+           + highest.getCurrentText();
 }
 
-TooltipText RangeSlider::getTooltipText() const
+float RangeSlider::lineLength() const
 {
-    auto tooltip = Control::getTooltipText();
-    tooltip.value = getShownText();
-    return tooltip;
+    return pointAt (1.0f).x - pointAt (0.0f).x;
 }
 
-void RangeSlider::resetToDefault()
+juce::Point<float> RangeSlider::pointAt (float position) const
 {
-    context.edits.perform (getText().title, [this] {
-        const auto reset = [] (auto& p) { p.setNormalisedNotifying (p.getDefault()); };
-        const auto lowChanged = changeAtOnce (*ends[0], reset);
-        return changeAtOnce (*ends[1], reset) || lowChanged;
-    });
-    poll();
+    const auto area = getLocalBounds().toFloat();
+    const auto inset =
+        context.canvas.pixelsOf ("RangeThumbWidth") / 2.0f + context.canvas.pixelsOf ("ThinStroke");
+    return { inset + position * (area.getWidth() - 2.0f * inset), area.getCentreY() };
 }
 
-void RangeSlider::mouseDown (const juce::MouseEvent& event)
+juce::Rectangle<float> RangeSlider::handleOf (const End& end) const
 {
-    ring.mousePressed();
-
-    if (! isEnabled() || event.mods.isPopupMenu())
-        return;
-
-    if (event.mods.isCommandDown())
-        return resetToDefault();
-
-    held = endAt (event.position.x);
-    edit = std::make_unique<ParameterEdit> (context.edits, ends[held], getText().title);
-    setPressed (true);
+    return juce::Rectangle<float> (context.canvas.pixelsOf ("RangeThumbWidth"),
+                                   context.canvas.pixelsOf ("SliderThumb"))
+        .withCentre (pointAt (end.position()));
 }
 
-void RangeSlider::mouseDrag (const juce::MouseEvent& event)
+bool RangeSlider::isNearer (const End& end, float x) const
 {
-    if (edit == nullptr)
-        return;
-
-    const auto left = pointOf (limits.getStart()).x, right = pointOf (limits.getEnd()).x;
-    const auto position = (event.position.x - left) / (right - left);
-    moveTo (limits.getStart() + juce::roundToInt (position * static_cast<float> (limits.getLength())));
-    context.overlay.showReadout (getText().title, getShownText(), event.getScreenPosition());
+    const auto lowIsNearer =
+        std::abs (x - pointAt (low->position()).x) < std::abs (x - pointAt (high->position()).x);
+    return lowIsNearer == (&end == low.get());
 }
 
-void RangeSlider::moveTo (int value)
+void RangeSlider::paint (juce::Graphics& g)
 {
-    ends[held]->setInt (held == 0 ? std::min (value, ends[1]->getInt() - 1)
-                                  : std::max (value, ends[0]->getInt() + 1));
-    poll();
-}
-
-void RangeSlider::stepBy (int steps)
-{
-    context.edits.join (ends[held].get(), getText().title, [this, steps] {
-        return changeAtOnce (*ends[held], [this, steps] (auto& p) { moveTo (p.getInt() + steps); });
-    });
-}
-
-void RangeSlider::mouseUp (const juce::MouseEvent&)
-{
-    endDrag();
-}
-
-void RangeSlider::endDrag()
-{
-    if (edit == nullptr)
-        return;
-
-    edit.reset();
-    setPressed (false);
-    context.overlay.hideReadout();
-}
-
-bool RangeSlider::restoreDrag()
-{
-    if (edit == nullptr)
-        return false;
-
-    edit->restore();
-    endDrag();
-    poll();
-    return true;
-}
-
-void RangeSlider::mouseDoubleClick (const juce::MouseEvent& event)
-{
-    if (! isEnabled() || ! event.mods.isLeftButtonDown() || event.mods.isAnyModifierKeyDown())
-        return;
-
-    endDrag();
-    resetToDefault();
-}
-
-void RangeSlider::mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel)
-{
-    if (! isEnabled() || ! isWheelMeant() || ! context.settings.get().wheelTurnsKnobs || edit != nullptr)
-        return Control::mouseWheelMove (event, wheel);
-
-    held = endAt (event.position.x);
-    stepBy ((wheel.deltaY > 0.0f) == wheel.isReversed ? -1 : 1);
-}
-
-bool RangeSlider::keyPressed (const juce::KeyPress& key)
-{
-    using enum ValueKey::Wish;
-
-    if (! isEnabled())
-        return false;
-
-    const auto [wish, steps, fine] = ValueKey::of (key);
-
-    if (wish == restore)
-        return restoreDrag();
-
-    if (wish == stepUp || wish == stepAlong)
-        stepBy (steps);
-    else if (wish == minimum || wish == maximum)
-        held = wish == minimum ? 0 : 1;
-    else if (wish == reset)
-        resetToDefault();
-    else
-        return false;
-
-    ring.keyPressed();
-    return true;
-}
-
-std::size_t RangeSlider::endAt (float x) const
-{
-    const auto distance = [&] (std::size_t end) { return std::abs (x - handleOf (end).getCentreX()); };
-    return distance (0) < distance (1) ? 0 : 1;
-}
-
-void RangeSlider::poll()
-{
-    const std::array now { ends[0]->getInt(), ends[1]->getInt() };
-
-    if (std::exchange (drawn, now) == now)
-        return;
-
-    repaint();
-
-    if (auto* handler = getAccessibilityHandler())
-        handler->notifyAccessibilityEvent (juce::AccessibilityEvent::valueChanged);
-}
-
-juce::Point<float> RangeSlider::pointOf (int value) const
-{
-    const auto position =
-        static_cast<float> (value - limits.getStart()) / static_cast<float> (limits.getLength());
-    const auto inset = pixels ("RangeThumbWidth") / 2.0f + pixels ("ThinStroke");
-    return { inset + position * (area().getWidth() - 2.0f * inset), area().getCentreY() };
-}
-
-juce::Rectangle<float> RangeSlider::handleOf (std::size_t end) const
-{
-    return juce::Rectangle<float> (pixels ("RangeThumbWidth"), pixels ("SliderThumb"))
-        .withCentre (pointOf (drawn[end]));
-}
-
-void RangeSlider::paintControl (juce::Graphics& g)
-{
-    const auto stroke = pixels ("DefaultStroke");
-    const auto bar = [&] (int from, int to) {
-        const juce::Rectangle<float> between { pointOf (from), pointOf (to) };
+    const auto& scheme = AssetScheme::Base::get();
+    const auto stroke = context.canvas.pixelsOf ("DefaultStroke");
+    const auto bar = [&] (float from, float to) {
+        const juce::Rectangle<float> between { pointAt (from), pointAt (to) };
         g.fillRoundedRectangle (between.expanded (0.0f, stroke / 2.0f), stroke / 2.0f);
     };
 
-    g.setColour (colour ("KnobTrack"));
-    bar (limits.getStart(), limits.getEnd());
-    g.setColour (colour ("Pattern"));
-    bar (drawn[0], drawn[1]);
-    paintOctaves (g);
-    g.setColour (surface ("KnobPointer"));
+    g.setColour (scheme.colourOf ("KnobTrack"));
+    bar (0.0f, 1.0f);
+    g.setColour (scheme.colourOf ("Pattern"));
+    bar (low->position(), high->position());
 
-    for (std::size_t end = 0; end < 2; ++end)
-        g.fillRoundedRectangle (handleOf (end), stroke);
-}
+    // A dot for each octave, below the line.
+    const auto size = context.canvas.pixelsOf ("ThinStroke");
+    const auto below = 0.75f * context.canvas.pixelsOf ("SliderThumb");
+    const auto numOctaves = low->getParameter()->getNumSteps();
+    g.setColour (scheme.colourOf ("GridBar"));
 
-/** A dot for each octave, below the line. */
-void RangeSlider::paintOctaves (juce::Graphics& g) const
-{
-    const auto size = pixels ("ThinStroke");
-    const auto below = 0.75f * pixels ("SliderThumb");
-    g.setColour (colour ("GridBar"));
-
-    for (auto value = limits.getStart(); value <= limits.getEnd(); ++value)
+    for (auto octave = 0; octave <= numOctaves; ++octave)
         g.fillEllipse (
-            juce::Rectangle<float> (size, size).withCentre (pointOf (value).translated (0.0f, below)));
+            juce::Rectangle<float> (size, size)
+                .withCentre (pointAt (static_cast<float> (octave) / static_cast<float> (numOctaves)))
+                .translated (0.0f, below));
 }
 
 std::unique_ptr<juce::AccessibilityHandler> RangeSlider::createAccessibilityHandler()
 {
-    /** Speaks both ends, moves the one that was moved last. */
-    struct Spoken : juce::AccessibilityValueInterface
-    {
-        explicit Spoken (RangeSlider& sliderToRead) : slider (sliderToRead) {}
-
-        bool isReadOnly() const override { return ! slider.isEnabled(); }
-        double getCurrentValue() const override { return slider.ends[slider.held]->getInt(); }
-        juce::String getCurrentValueAsString() const override { return slider.getShownText(); }
-        void setValue (double value) override
-        {
-            slider.stepBy (juce::roundToInt (value) - slider.ends[slider.held]->getInt());
-        }
-        void setValueAsString (const juce::String& text) override { setValue (text.getDoubleValue()); }
-        AccessibleValueRange getRange() const override
-        {
-            return { { double (slider.limits.getStart()), double (slider.limits.getEnd()) }, 1.0 };
-        }
-
-        RangeSlider& slider;
-    };
-
-    return std::make_unique<juce::AccessibilityHandler> (
-        *this,
-        juce::AccessibilityRole::slider,
-        juce::AccessibilityActions(),
-        juce::AccessibilityHandler::Interfaces { std::make_unique<Spoken> (*this) });
+    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
 }
 } // namespace Zn::GUI

@@ -1,56 +1,40 @@
 #pragma once
 
-#include "GUI/Widgets/Control.h"
-#include "GUI/Widgets/ParameterEdit.h"
+#include "GUI/Framework/AssetScheme/Element.h"
+#include "GUI/Widgets/EditorContext.h"
 
-#include <array>
 #include <memory>
 
 namespace Zn::GUI
 {
-/** Two handles on one line, the ends of a range of octaves, which stay at least one apart. Keys move the end that was
-    moved last. Thread: message.
+/** Two handles on one line, the ends of a range of octaves, which stay at least one apart. Each is a control of its own,
+    read as the pitch it stands at; the pointer moves the nearer one. Thread: message.
 */
-class RangeSlider : public Control
+class RangeSlider : public AssetScheme::Element<>
 {
 public:
+    /** The ends have the names "...Low" and "...High" in the scheme. */
     RangeSlider (EditorContext& contextToUse,
-                 std::string element,
-                 std::shared_ptr<Parameters::Parameter> low,
-                 std::shared_ptr<Parameters::Parameter> high);
+                 const std::string& element,
+                 std::shared_ptr<Parameters::Parameter> lowest,
+                 std::shared_ptr<Parameters::Parameter> highest);
     ~RangeSlider() override;
 
     /** The lowest and the highest pitch, as in "C1 – B5", or "All". */
     juce::String getShownText() const;
 
-    void resetToDefault();
-
-    TooltipText getTooltipText() const override;
-    void mouseDown (const juce::MouseEvent& event) override;
-    void mouseDrag (const juce::MouseEvent& event) override;
-    void mouseUp (const juce::MouseEvent& event) override;
-    void mouseDoubleClick (const juce::MouseEvent& event) override;
-    void mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel) override;
-    bool keyPressed (const juce::KeyPress& key) override;
+    void paint (juce::Graphics& g) override;
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 
 private:
-    void paintControl (juce::Graphics& g) override;
-    void poll() override;
-    void paintOctaves (juce::Graphics& g) const;
+    class End;
 
-    void moveTo (int value);
-    void stepBy (int steps);
-    bool restoreDrag();
-    void endDrag();
-    std::size_t endAt (float x) const;
-    juce::Point<float> pointOf (int value) const;
-    juce::Rectangle<float> handleOf (std::size_t end) const;
+    float lineLength() const; // pixels
+    juce::Point<float> pointAt (float position) const;
+    juce::Rectangle<float> handleOf (const End& end) const;
+    bool isNearer (const End& end, float x) const;
 
-    const std::array<std::shared_ptr<Parameters::Parameter>, 2> ends; // low, high
-    const juce::Range<int> limits;                                    // lowest, highest
-    std::array<int, 2> drawn {};
-    std::unique_ptr<ParameterEdit> edit; // while one is dragged
-    std::size_t held = 0;                // the end that was moved last
+    EditorContext& context;
+    const std::unique_ptr<End> low, high;
 };
 } // namespace Zn::GUI

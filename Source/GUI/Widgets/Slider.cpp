@@ -9,22 +9,6 @@ Slider::Slider (EditorContext& contextToUse,
     : ValueControl (contextToUse, std::move (element), std::move (parameterToShow)), options (optionsToUse)
 {}
 
-void Slider::mouseDrag (const juce::MouseEvent& event)
-{
-    ValueControl::mouseDrag (event);
-
-    if (isDragging() && options.showsReadout)
-        context.overlay.showReadout (getText().title, shownText(), event.getScreenPosition());
-}
-
-void Slider::mouseUp (const juce::MouseEvent& event)
-{
-    ValueControl::mouseUp (event);
-
-    if (options.showsReadout)
-        context.overlay.hideReadout();
-}
-
 bool Slider::isAcross() const noexcept
 {
     return options.direction == Direction::across

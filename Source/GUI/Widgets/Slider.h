@@ -30,12 +30,10 @@ public:
             std::shared_ptr<Parameters::Parameter> parameterToShow,
             Options optionsToUse);
 
-    void mouseDrag (const juce::MouseEvent& event) override;
-    void mouseUp (const juce::MouseEvent& event) override;
-
 private:
     void paintControl (juce::Graphics& g) override;
     float proportionOf (juce::Point<float> movement) const override;
+    juce::String getReadout() const override { return options.showsReadout ? shownText() : juce::String(); }
 
     bool isAcross() const noexcept;
     juce::Line<float> track() const;

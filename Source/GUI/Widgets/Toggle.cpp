@@ -32,10 +32,7 @@ Toggle::Toggle (EditorContext& contextToUse,
 
 void Toggle::setOn (bool shouldBeOn)
 {
-    context.edits.perform (getText().title, [this, shouldBeOn] {
-        return changeAtOnce (*getParameter(), [shouldBeOn] (auto& p) { p.setBool (shouldBeOn); });
-    });
-    poll();
+    change ([shouldBeOn] (auto& p) { p.setBool (shouldBeOn); });
 }
 
 void Toggle::setLabel (const juce::String& newLabel)
@@ -62,15 +59,22 @@ void Toggle::schemeChanged()
 
 void Toggle::pressed (const juce::MouseEvent&)
 {
+    endStroke(); // one whose end was lost
     setPressed (true);
-    stroke = context.edits.begin (getText().title);
-    setOn (! isOn());
+    paintOver (*this, ! isOn());
+}
+
+void Toggle::paintOver (Toggle& other, bool on)
+{
+    stroke.push_back (std::make_unique<ParameterEdit> (context.edits, other.getParameter(), getText().title));
+    other.getParameter()->setBool (on);
+    other.poll();
 }
 
 /** Paints its new state over others of its kind. */
 void Toggle::mouseDrag (const juce::MouseEvent& event)
 {
-    if (stroke == nullptr)
+    if (stroke.empty())
         return;
 
     auto* root = getTopLevelComponent();
@@ -78,13 +82,33 @@ void Toggle::mouseDrag (const juce::MouseEvent& event)
     auto* other = dynamic_cast<Toggle*> (under);
 
     if (other != nullptr && other->isEnabled() && isOfKindOf (*other) && other->isOn() != isOn())
-        other->setOn (isOn());
+        paintOver (*other, isOn());
+}
+
+void Toggle::endStroke()
+{
+    setPressed (false);
+
+    while (! stroke.empty()) // what was begun first is the whole step, and ends last
+        stroke.pop_back();
+}
+
+bool Toggle::restoreDrag()
+{
+    if (stroke.empty())
+        return false;
+
+    for (const auto& edit : stroke)
+        edit->restore();
+
+    endStroke();
+    poll();
+    return true;
 }
 
 void Toggle::mouseUp (const juce::MouseEvent&)
 {
-    setPressed (false);
-    stroke.reset();
+    endStroke();
 }
 
 bool Toggle::isOfKindOf (const Toggle& other) const

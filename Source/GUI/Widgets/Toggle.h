@@ -57,6 +57,9 @@ private:
     }
 
     bool isOfKindOf (const Toggle& other) const;
+    void paintOver (Toggle& other, bool on);
+    void endStroke();
+    bool restoreDrag() override;
     void pressed (const juce::MouseEvent& event) override;
     juce::Rectangle<float> learnArea() const override;
     juce::Rectangle<float> pillArea() const;
@@ -67,7 +70,7 @@ private:
     const Options options;
     const std::string accent, fill;
     Caption caption;
-    std::unique_ptr<Undo::Transaction> stroke; // while it is pressed
+    std::vector<std::unique_ptr<ParameterEdit>> stroke; // what it has flipped while it is pressed
     SVGPainter check { "check.svg" };
 };
 } // namespace Zn::GUI

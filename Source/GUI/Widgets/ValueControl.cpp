@@ -6,8 +6,6 @@
 #include "GUI/Widgets/SpokenValue.h"
 #include "GUI/Widgets/ValueKeys.h"
 
-#include <cmath>
-
 namespace Zn::GUI
 {
 namespace
@@ -106,10 +104,7 @@ void ValueControl::stepBy (int steps, bool fine)
 
 void ValueControl::resetToDefault()
 {
-    context.edits.perform (getText().title, [this] {
-        return changeAtOnce (*parameter, [] (auto& p) { p.setNormalisedNotifying (p.getDefault()); });
-    });
-    poll();
+    change ([] (auto& p) { p.setNormalisedNotifying (p.getDefault()); });
 }
 
 bool ValueControl::setFromTyped (const juce::String& typed)
@@ -119,10 +114,7 @@ bool ValueControl::setFromTyped (const juce::String& typed)
     if (! text)
         return false;
 
-    context.edits.perform (getText().title, [&] {
-        return changeAtOnce (*parameter, [&] (auto& p) { p.setFromText (*text); });
-    });
-    poll();
+    change ([&text] (auto& p) { p.setFromText (*text); });
     return true;
 }
 
@@ -136,8 +128,21 @@ void ValueControl::typeValue()
         [self] (const juce::String& typed) { return self == nullptr || self->setFromTyped (typed); },
         [self] {
             if (self != nullptr)
-                self->moveKeyboardFocusToSibling (true);
+                self->typeNext();
         });
+}
+
+/** The next stop of the Tab key, with its own text entry if it is a value. */
+void ValueControl::typeNext()
+{
+    const auto traverser = createKeyboardFocusTraverser();
+    auto* const next = traverser != nullptr ? traverser->getNextComponent (this) : nullptr;
+
+    if (next != nullptr && next->isShowing())
+        next->grabKeyboardFocus();
+
+    if (auto* const value = dynamic_cast<ValueControl*> (next))
+        value->typeValue();
 }
 
 void ValueControl::showMenu()
@@ -189,6 +194,9 @@ void ValueControl::mouseDrag (const juce::MouseEvent& event)
         parameter->setNormalisedNotifying (static_cast<float> (drag->position));
 
     poll();
+
+    if (const auto text = getReadout(); text.isNotEmpty())
+        context.overlay.showReadout (getText().title, text, event.getScreenPosition());
 }
 
 void ValueControl::mouseUp (const juce::MouseEvent& event)
@@ -199,6 +207,9 @@ void ValueControl::mouseUp (const juce::MouseEvent& event)
 
 void ValueControl::endDrag()
 {
+    if (drag && getReadout().isNotEmpty())
+        context.overlay.hideReadout();
+
     setPressed (false);
     drag.reset();
     poll();
@@ -226,16 +237,9 @@ void ValueControl::mouseWheelMove (const juce::MouseEvent& event, const juce::Mo
     }
 
     constexpr auto smoothStep = 0.05f; // of a wheel that turns without notches, for a step of the value
-    const auto turned = std::abs (wheel.deltaY) > std::abs (wheel.deltaX) ? wheel.deltaY : wheel.deltaX;
-    const auto up = wheel.isReversed ? -turned : turned;
-    wheelRemainder +=
-        wheel.isSmooth ? up / smoothStep : static_cast<float> (juce::roundToInt (std::copysign (1.0f, up)));
 
-    if (const auto steps = static_cast<int> (wheelRemainder); steps != 0)
-    {
-        wheelRemainder -= static_cast<float> (steps);
+    if (const auto steps = wheelSteps.upIn (wheel, smoothStep); steps != 0)
         stepBy (steps * upwards(), event.mods.isShiftDown());
-    }
 }
 
 bool ValueControl::keyPressed (const juce::KeyPress& key)
@@ -302,14 +306,22 @@ void ValueControl::typeFrom (const juce::KeyPress& key)
         entry->keyPressed (key); // takes the place of what is selected
 }
 
-void ValueControl::changeJoining (const std::function<void (Parameters::Parameter&)>& change)
+void ValueControl::change (const Change& set)
 {
     if (isUndoable)
-        context.edits.join (parameter.get(), getText().title, [&] {
-            return changeAtOnce (*parameter, change);
-        });
+        context.edits.perform (getText().title, [&] { return changeAtOnce (*parameter, set); });
     else
-        changeAtOnce (*parameter, change);
+        changeAtOnce (*parameter, set);
+
+    poll();
+}
+
+void ValueControl::changeJoining (const Change& set)
+{
+    if (isUndoable)
+        context.edits.join (parameter.get(), getText().title, [&] { return changeAtOnce (*parameter, set); });
+    else
+        changeAtOnce (*parameter, set);
 
     poll();
 }

@@ -2,6 +2,7 @@
 
 #include "GUI/Widgets/Control.h"
 #include "GUI/Widgets/ParameterEdit.h"
+#include "GUI/Widgets/WheelSteps.h"
 
 #include <optional>
 
@@ -43,8 +44,13 @@ public:
     /** Whether that is a value of it. */
     bool understands (const juce::String& typed) const;
 
+    using Change = std::function<void (Parameters::Parameter&)>;
+
+    /** One step of undo by itself. */
+    void change (const Change& set);
+
     /** One step of undo, which quick turns of a wheel and presses of keys join. */
-    void changeJoining (const std::function<void (Parameters::Parameter&)>& change);
+    void changeJoining (const Change& set);
 
     void typeValue();
     void showMenu();
@@ -81,6 +87,12 @@ protected:
     /** A press that is for the value: neither menu, nor default, nor learn. Begins the drag. */
     virtual void pressed (const juce::MouseEvent& event);
 
+    /** What stands beside the pointer while it is dragged; nothing where its value has a place of its own. */
+    virtual juce::String getReadout() const { return {}; }
+
+    /** Puts back what was there ahead of the drag. Whether there was one. */
+    virtual bool restoreDrag();
+
     /** What is drawn has changed. */
     virtual void valueChanged() { repaint(); }
 
@@ -108,7 +120,7 @@ private:
     };
 
     bool answer (const juce::KeyPress& key);
-    bool restoreDrag();
+    void typeNext();
     void typeFrom (const juce::KeyPress& key);
     void setLimit (float normalised);
     void look();
@@ -117,7 +129,7 @@ private:
     const ValueText valueText;
     std::optional<Drag> drag;
     bool isUndoable = true;
-    float wheelRemainder = 0.0f; // of a step
+    WheelSteps wheelSteps;
 
     juce::String drawnText;
     float drawnPosition = 0.0f; // normalised

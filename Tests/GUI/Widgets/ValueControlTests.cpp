@@ -92,6 +92,10 @@ TEST_F (Controls, KeysAloneSetAnyValue)
     EXPECT_TRUE (bench.overlay.accept ("42"));
     EXPECT_EQ (knob->getShownText(), "42 %");
 
+    stepped->typeValue();
+    bench.overlay.next(); // Tab
+    EXPECT_EQ (bench.overlay.enteredOver, "DelayMix");
+
     EXPECT_FALSE (Hand::press (*knob, "spacebar")) << "belongs to the host";
     EXPECT_FALSE (Hand::press (*knob, "ctrl + cursor up"));
 }
@@ -167,7 +171,17 @@ TEST_F (Controls, TogglesPaintOverOthersOfTheirKindInOneStep)
             .toFloat();
     };
 
-    Hand::drag (*toggles[0], { middleOf (0), middleOf (1), middleOf (2), middleOf (1) });
+    auto& first = *toggles[0];
+    first.mouseDown (Hand::mouseEvent (first, middleOf (0), middleOf (0), Hand::leftButton));
+    first.mouseDrag (Hand::mouseEvent (first, middleOf (1), middleOf (0), Hand::leftButton, 1, true));
+    EXPECT_FALSE (toggles[1]->isOn());
+    EXPECT_TRUE (Hand::press (first, "escape"));
+
+    for (const auto& toggle : toggles)
+        EXPECT_TRUE (toggle->isOn());
+
+    EXPECT_EQ (bench.undo.steps, 0);
+    Hand::drag (first, { middleOf (0), middleOf (1), middleOf (2), middleOf (1) });
 
     for (const auto& toggle : toggles)
         EXPECT_FALSE (toggle->isOn());
@@ -203,16 +217,34 @@ TEST_F (Controls, TheEndsOfARangeStayApart)
     const auto high = std::make_shared<Parameters::Connector> (
         std::shared_ptr<Parameters::Parameter> (std::shared_ptr<void>(), &state.highestOctave));
     const auto range = bench.make<RangeSlider> ("OctaveRange", low, high);
-    const auto right = static_cast<float> (range->getWidth());
+    const auto right = range->getWidth() - 1;
+    auto& lowEnd = Hand::find<ValueControl> (*range, "OctaveRangeLow");
+    auto& highEnd = Hand::find<ValueControl> (*range, "OctaveRangeHigh");
 
     EXPECT_EQ (range->getShownText(), "All");
-    Hand::drag (*range, { { right, 5 }, { right / 2, 5 }, { 0, 5 } });
+    EXPECT_EQ (range->getComponentAt (right - 9, 5), &highEnd) << "the nearer one";
+    EXPECT_EQ (range->getComponentAt (9, 5), &lowEnd);
+    Hand::drag (highEnd, { { float (right), 5 }, { float (right) / 2, 5 }, { -99, 5 } });
     EXPECT_EQ (high->getInt(), 1);
     EXPECT_EQ (bench.undo.steps, 1);
+    EXPECT_EQ (bench.overlay.readout, "") << "gone with the drag";
 
-    Hand::press (*range, "cursor right");
-    EXPECT_EQ (high->getInt(), 2);
-    EXPECT_FALSE (range->getShownText() == "All");
+    const std::tuple<const char*, int, int> rows[] = { { "cursor right", 0, 2 },
+                                                       { "end", 0, 11 },
+                                                       { "page down", 0, 1 },
+                                                       { "delete", 0, 11 } };
+
+    for (const auto& [key, lowest, highest] : rows)
+    {
+        Hand::press (highEnd, key);
+        EXPECT_EQ (low->getInt(), lowest) << key;
+        EXPECT_EQ (high->getInt(), highest) << key;
+    }
+
+    EXPECT_TRUE (lowEnd.setFromTyped ("c1"));
+    EXPECT_FALSE (lowEnd.setFromTyped ("b1")) << "no lowest pitch of an octave";
+    EXPECT_TRUE (highEnd.setFromTyped ("b0")) << "but not below the lowest";
+    EXPECT_EQ (range->getShownText().retainCharacters ("BC1"), "C1B1");
 }
 
 TEST_F (Controls, WhileLearningAPressArmsWhatTheHostKnows)
