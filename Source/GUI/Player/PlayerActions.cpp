@@ -70,7 +70,7 @@ void PlayerActions::play (const juce::File& file)
         auto& state = context.state();
         state.player.choose (Sequencer::MidiPlayer::resourceOf (file));
 
-        if (state.player.getSong() != nullptr)
+        if (state.player.getSong() != nullptr && ! state.player.get().active)
             state.setPlayerActive (true);
     });
 }

@@ -182,8 +182,13 @@ TEST (PlayerBand, PlaysWhatIsDroppedOnTheWindow)
     editor.page.filesDropped ({ bad.getFullPathName() }, 1, 1);
     EXPECT_EQ (editor.settings().resource, Sequencer::MidiPlayer::Resource());
 
-    editor.undo();
-    editor.undo();
+    editor.getState().keyMode = false;
+    editor.page.filesDropped ({ good.getFullPathName() }, 1, 1);
+    EXPECT_FALSE (editor.getState().keyMode.load()) << "it was switched while the player was on";
+
+    for (auto drops = 3; --drops >= 0;)
+        editor.undo();
+
     EXPECT_FALSE (editor.settings().active) << "a drop is one step";
 
     good.deleteFile();
