@@ -156,7 +156,8 @@ TEST_F (Plugin, FollowsTempoStopAndStartAlikeInEveryHost)
                     if (block == 0)
                         playHead.jumpTo (9.0);
                 },
-            .numBlocks = 7 * blocksPerSecond } },
+            .numBlocks = 7 * blocksPerSecond,
+            .blockSizes = { 240 } } }, // the loop ends with a block: an LV2 host cannot tell that it ends inside
         { "stopped from the start",
           { .script = [] (auto& playHead, int) { playHead.stop(); }, .numBlocks = 2 * blocksPerSecond } },
         { "stop, move, start",

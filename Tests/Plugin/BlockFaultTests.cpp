@@ -137,7 +137,7 @@ TEST (HostBlocks, SoundTheSameInAnySizes)
     const auto expected = play ({ prepared });
     ASSERT_GT (*std::ranges::max_element (expected), 0.01f);
 
-    for (const auto& sizes : { std::vector { 2, 31, 64, 1024 },
+    for (const auto& sizes : { std::vector { 3, 31, 64, 1024 },
                                std::vector { 1024 },
                                std::vector { 2 * prepared, 10 * prepared, 33333, 7 } })
     {

@@ -177,7 +177,7 @@ TEST (EditorLifetime, TakesNoMoreMemoryEachTime)
 
     auto leastGrowth = std::numeric_limits<double>::max();
 
-    for (auto stretch = 0; stretch < std::max (4, numRounds() / roundsOfAStretch); ++stretch)
+    for (auto stretch = 0; stretch < std::max (10, numRounds() / roundsOfAStretch); ++stretch)
     {
         const auto before = bytesInUse();
 
