@@ -46,6 +46,9 @@ OutputFile::OutputFile (const juce::File& given) : target (behindLinks (given)),
 
 bool OutputFile::write (const void* data, std::size_t size)
 {
+    if (error == 0 && size == 0) // then there need not be any data
+        return true;
+
     if (error != 0 || ! succeeds (std::fwrite (data, 1, size, file.get()) == size))
         return false;
 
