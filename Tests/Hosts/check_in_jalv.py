@@ -8,7 +8,6 @@ end is 0 if all pass, 1 if one fails or a program is missing, and 77 (skipped) w
 """
 
 import os
-import secrets
 import signal
 import subprocess
 import sys
@@ -23,6 +22,7 @@ from sessions import (
     Fault,
     demand,
     jack_server,
+    jack_server_name,
     private_environment,
     running,
     time_left,
@@ -80,9 +80,7 @@ def check(bundle, uri, tests, name=""):
     demand(PROGRAMS)
 
     # Clients are named after it, since two of one name get in each other's way even on different servers.
-    server = f"vornel-{secrets.token_hex(4)}"
-
-    with tempfile.TemporaryDirectory() as home:
+    with jack_server_name() as server, tempfile.TemporaryDirectory() as home:
         folder = Path(home)
         environment = private_environment(server, folder) | {"LV2_PATH": str(bundle.parent)}
 

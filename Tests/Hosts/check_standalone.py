@@ -10,7 +10,6 @@ if all is well, 1 if not, and 77 (skipped) where JACK cannot run.
 
 import json
 import os
-import secrets
 import signal
 import subprocess
 import sys
@@ -21,7 +20,8 @@ from pathlib import Path
 from time import monotonic, sleep
 
 from sessions import (
-    PATIENCE, SHARED_MEMORY, SKIPPED, Fault, demand, jack_server, private_environment, running, time_left,
+    PATIENCE, SHARED_MEMORY, SKIPPED, Fault, demand, jack_server, jack_server_name, private_environment, running,
+    time_left,
 )
 from x11 import Display, Unavailable
 
@@ -195,9 +195,8 @@ def use(editor, environment, folder):
 
 def check(program, scheme, pictures):
     demand(PROGRAMS)
-    server = f"vornel-{secrets.token_hex(4)}"
 
-    with tempfile.TemporaryDirectory() as home:
+    with jack_server_name() as server, tempfile.TemporaryDirectory() as home:
         folder = Path(home)
         environment = private_environment(server, folder)
         choose_jack(folder)

@@ -1,9 +1,11 @@
 """Programs that tests run in the background, among them a JACK server that needs neither sound card nor rights."""
 
+import fcntl
 import os
 import shutil
 import subprocess
 from contextlib import contextmanager
+from itertools import count
 from pathlib import Path
 from time import monotonic, sleep
 
@@ -29,7 +31,8 @@ def running(command, environment, folder, stdin=subprocess.DEVNULL):
     log = folder / f"{Path(command[0]).name}.log"
 
     with open(log, "wb") as output:
-        process = subprocess.Popen(command, env=environment, stdin=stdin, stdout=output, stderr=output)
+        process = subprocess.Popen(command, env=environment, stdin=stdin, stdout=output, stderr=output,
+                                   close_fds=False)
 
     try:
         yield process
@@ -70,15 +73,38 @@ def demand(programs):
 
 
 @contextmanager
+def jack_server_name():
+    """A name that no other run uses meanwhile, and that comes again: JACK gives the place of a server that was killed
+    only to one of the same name, and has eight places."""
+    for number in count():
+        name = f"vornel-{os.getuid()}-{number}"
+
+        with open(SHARED_MEMORY / f"{name}.lock", "w", encoding="utf-8") as lock:
+            try:
+                fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+            except BlockingIOError:
+                continue
+
+            os.set_inheritable(lock.fileno(), True)  # a server that outlives us keeps its name
+            yield name
+            return
+
+
+@contextmanager
 def jack_server(server, environment, folder):
     command = ["jackd", "--no-realtime", "--sync", "-n", server, "-d", "dummy", "-r", "48000", "-p", "256"]
 
-    with running(command, environment, folder) as jackd:
-        wait_for(server, environment, jackd)
-        yield
+    for attempt in range(2):  # where one was killed, the first only clears its place
+        with running(command, environment, folder) as jackd:
+            if answers(server, environment, jackd):
+                yield
+                return
+
+            if attempt == 1:
+                raise Fault("The JACK server does not start.")
 
 
-def wait_for(server, environment, jackd):
+def answers(server, environment, jackd):
     limit = monotonic() + PATIENCE
 
     while jackd.poll() is None and monotonic() < limit:
@@ -86,8 +112,8 @@ def wait_for(server, environment, jackd):
                                capture_output=True, timeout=time_left(), check=False)
 
         if found.stdout.startswith("running"):
-            return
+            return True
 
         sleep(0.1)
 
-    raise Fault("The JACK server does not start.")
+    return False
