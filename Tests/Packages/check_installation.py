@@ -70,7 +70,7 @@ class Installation(unittest.TestCase):
     def test_installer_leaves_only_what_is_not_its_own(self):
         for arguments, folders in (
                 ([], (".vst3", ".lv2", ".local/bin", ".local/share")),
-                (["--prefix", "{home}/else where"], ("else where/lib", "else where/bin", "else where/share"))):
+                (["--prefix", "{home}/else $w%re"], ("else $w%re/lib", "else $w%re/bin", "else $w%re/share"))):
             with self.subTest(arguments), tempfile.TemporaryDirectory(dir=self.folder) as home:
                 home = Path(home)
                 arguments = [argument.format(home=home) for argument in arguments]
@@ -83,7 +83,8 @@ class Installation(unittest.TestCase):
 
                 entry = next(home.rglob("*.desktop")).read_text(encoding="utf-8")
                 program = next(path for path in home.rglob("bin/vornel"))
-                self.assertIn(f'\nExec="{program}"\nTryExec={program}\n', entry)
+                quoted = str(program).replace("$", r"\\$").replace("%", "%%")
+                self.assertIn(f'\nExec="{quoted}"\nTryExec={program}\n', entry)
                 self.assertIn("Usage", output_of(program.with_name("vornel-presets"), "--help"))
 
                 foreign = next(home.rglob("Vornel.lv2")) / "mine.ttl"
@@ -93,6 +94,25 @@ class Installation(unittest.TestCase):
                 call("--uninstall")
                 self.assertEqual(files_in(home), {foreign.relative_to(home).as_posix()})
                 self.assertEqual([path for path in home.rglob("*") if path.is_dir() and not any(path.iterdir())], [])
+
+    def test_installer_that_breaks_off_leaves_nothing_for_good(self):
+        for obstacle, is_folder, stays in ((".local/bin", False, True),               # seen before anything is touched
+                                           (".local/bin/vornel-tonq", True, False)):  # met on the way
+            with self.subTest(obstacle), tempfile.TemporaryDirectory(dir=self.folder) as home:
+                home = Path(home)
+                call = lambda *more: subprocess.run([self.installer, *more], env=os.environ | {
+                    "HOME": str(home), "XDG_DATA_HOME": ""}, capture_output=True, check=False).returncode
+
+                self.assertEqual(call(), 0)
+                shutil.move(home / obstacle, home / "moved")
+                (home / obstacle).mkdir() if is_folder else (home / obstacle).touch()
+                before = files_in(home)
+
+                self.assertEqual(call(), 1)
+                self.assertEqual(files_in(home) == before, stays)
+                self.assertEqual(call("--uninstall"), 0)
+                shutil.rmtree(home / "moved") if stays else (home / "moved").unlink()
+                self.assertEqual(files_in(home), {obstacle} if stays else set())
 
     def test_installer_explains_itself(self):
         self.assertIn("--uninstall", output_of(self.installer, "--help"))

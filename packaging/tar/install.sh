@@ -21,10 +21,16 @@ settings are left alone.
 TEXT
 }
 
-refuse()
+# fail TEXT [STATUS]
+fail()
 {
     echo "install.sh: $1" >&2
-    exit 2
+    exit "${2:-1}"
+}
+
+refuse()
+{
+    fail "$1" 2
 }
 
 prefix=
@@ -85,20 +91,41 @@ make_folder()
     fi
 }
 
+# The folder, or the nearest one above it that is there already.
+demand_writable()
+{
+    if [ ! -e "$1" ]; then
+        demand_writable "$(dirname "$1")"
+    elif [ ! -d "$1" ] || [ ! -w "$1" ]; then
+        fail "nothing can be written to $1"
+    fi
+}
+
+# demand_room FOLDER DESTINATION
+demand_room()
+{
+    folders=$(mktemp)
+    (cd "$here/$1" && find . -type d) > "$folders"
+
+    while IFS= read -r folder; do
+        demand_writable "$2${folder#.}"
+    done < "$folders"
+
+    rm "$folders"
+}
+
 # install_file FILE DESTINATION
 install_file()
 {
-    make_folder "$(dirname "$2")"
+    make_folder "${2%/*}"
     rm -f "$2" # a host that runs keeps the file that it has loaded
-    cp "$1" "$2"
     note "$2"
+    cp "$1" "$2"
 }
 
 # install_tree FOLDER DESTINATION
 install_tree()
 {
-    [ -d "$here/$1" ] || return 0
-
     # Read from a file: behind a pipe the loop would lose its notes.
     files=$(mktemp)
     (cd "$here/$1" && find . -type f | LC_ALL=C sort) > "$files"
@@ -113,12 +140,23 @@ install_tree()
 # The entry of the menu has to find the program where no search path leads to it.
 name_program_in_entry()
 {
-    program=$(printf '%s' "$programs/vornel" | sed 's/[\\&|]/\\&/g')
+    # An entry has its own way with quotes and backslashes, and sed has another.
+    word=$(printf '%s' "$programs/vornel" | sed 's/[\\"`$]/\\&/g; s/%/%%/g; s/\\/\\\\/g; s/[\\&|]/\\&/g')
+    file=$(printf '%s' "$programs/vornel" | sed 's/\\/\\\\/g; s/[\\&|]/\\&/g')
 
     for entry in "$share"/applications/*.vornel.desktop; do
-        sed "s|^Exec=.*|Exec=\"$program\"|; s|^TryExec=.*|TryExec=$program|" "$entry" > "$entry.new"
+        sed "s|^Exec=.*|Exec=\"$word\"|; s|^TryExec=.*|TryExec=$file|" "$entry" > "$entry.new"
         mv "$entry.new" "$entry"
     done
+}
+
+demand_removable()
+{
+    while IFS= read -r path; do
+        if [ -f "$path" ]; then
+            demand_writable "${path%/*}"
+        fi
+    done < "$list"
 }
 
 remove_installed()
@@ -130,7 +168,7 @@ remove_installed()
     while IFS= read -r path; do
         case $path in
             */) rmdir "$path" 2> /dev/null || true ;; # not empty: others have put something there
-            *) rm -f "$path" ;;
+            *) [ -d "$path" ] || rm -f "$path" ;;
         esac
     done < "$old"
 
@@ -154,25 +192,37 @@ tell_what_is_missing()
     esac
 }
 
+# Nothing is touched before all of it can be done.
 if [ -n "$uninstalls" ]; then
     [ -f "$list" ] || refuse "nothing is installed there: there is no $list"
+    demand_removable
     remove_installed
     echo "Vornel is removed."
     exit
 fi
 
+demand_room lib/vst3 "$vst3"
+demand_room lib/lv2 "$lv2"
+demand_room bin "$programs"
+demand_room share "$share"
+demand_writable "$(dirname "$list")"
+
 if [ -f "$list" ]; then
+    demand_removable
     remove_installed
 fi
+
+# Written however this ends, so that what is there by then can be removed.
+make_folder "$(dirname "$list")"
+note "$list"
+trap 'printf "%s" "$made" > "$list"' EXIT
+trap 'exit 1' HUP INT TERM
 
 install_tree lib/vst3 "$vst3"
 install_tree lib/lv2 "$lv2"
 install_tree bin "$programs"
 install_tree share "$share"
 name_program_in_entry
-make_folder "$(dirname "$list")"
-note "$list"
-printf '%s' "$made" > "$list"
 
 echo "Installed the plug-ins in $vst3 and $lv2, and the program as $programs/vornel."
 tell_what_is_missing
