@@ -12,9 +12,9 @@ namespace Zn::Audio::Kernels
 {
 namespace
 {
-using Test::KernelTable;
-using Test::LiteralTable;
-using Test::LiteralVoice;
+using Tests::KernelTable;
+using Tests::LiteralTable;
+using Tests::LiteralVoice;
 using WavetableSynth::Voice;
 
 constexpr double rate = 48000.0;
@@ -70,7 +70,7 @@ struct Patch
 
     std::vector<LiteralTable> plain;
     std::vector<KernelTable> interleaved;
-    Test::VoiceSettings settings;       // of the literal voice
+    Tests::VoiceSettings settings;      // of the literal voice
     WavetableSynth::VoiceSettings ours; // the same
 };
 

@@ -18,13 +18,13 @@ constexpr int numRows = 8;
 RenderedSlot fullPattern (int numColumns)
 {
     const auto width = patternLength / numColumns;
-    Test::Notes notes;
+    Tests::Notes notes;
 
     for (auto column = 0; column < numColumns; ++column)
         for (auto row = 0; row < numRows; ++row)
-            notes.push_back (Test::note (60 + row, column * width, width));
+            notes.push_back (Tests::note (60 + row, column * width, width));
 
-    return Test::loop (patternLength, notes);
+    return Tests::loop (patternLength, notes);
 }
 
 /** Plays a pattern round and round, block by block, and counts what it plays. */

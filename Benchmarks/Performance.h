@@ -40,7 +40,7 @@ public:
     Processor processor { StartUp::empty };
 
 private:
-    Test::TestPlayHead song { rate };
+    Tests::TestPlayHead song { rate };
     juce::AudioBuffer<float> audio;
     juce::MidiBuffer midi;
 };

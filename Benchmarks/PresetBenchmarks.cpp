@@ -47,7 +47,7 @@ private:
     juce::File folder;
 };
 
-struct PresetFolder : Test::ScratchFolder
+struct PresetFolder : Tests::ScratchFolder
 {
     juce::File fill (int numFiles) const
     {

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -101,4 +101,4 @@ TEST (HostPresets, DoWhatTheyDoInThePluginsOwnBrowser)
     }
 }
 } // namespace
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -6,7 +6,7 @@
 #include <map>
 #include <set>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -152,4 +152,4 @@ TEST (HostedParameters, LatencyIsNoneAndTheTailFollowsTheSound)
     EXPECT_NEAR (vst3.getPlugin().getTailLengthSeconds(), 0.5 + 10 * 0.25, 0.01);
 }
 } // namespace
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -11,7 +11,7 @@
 #include <stdexcept>
 #include <thread>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -363,4 +363,4 @@ double JackSession::getSampleRate() const noexcept
 {
     return implementation->sampleRate;
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** Where a song's quarter notes lie on the frames of JACK's transport, from one known place on. */
 struct JackTempoMap
@@ -86,4 +86,4 @@ private:
     struct Implementation;
     std::unique_ptr<Implementation> implementation;
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -12,7 +12,7 @@
 // The plug-in in a host that is not ours: each test finds jalv running a new instance on JACK, and is started by
 // check_in_jalv.py, which names jalv's client in VORNEL_JACK_CLIENT.
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -243,4 +243,4 @@ TEST_F (Jalv, PlaysOnByItselfWhileTheSongIsStopped)
     EXPECT_GE (onsets.size(), 20u);
 }
 } // namespace
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -20,7 +20,7 @@
 #include <map>
 #include <stdexcept>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -365,4 +365,4 @@ void LV2Host::restore (const std::string& text)
                                               implementation->features.data());
     save(); // what was loaded is taken in before it is saved
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** What a host tells its plug-ins about the transport, at a sample of the coming block. */
 struct LV2Message
@@ -69,4 +69,4 @@ private:
     struct Implementation;
     std::unique_ptr<Implementation> implementation;
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -12,7 +12,7 @@
 
 // How instances come and go, in a process that holds many of them.
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -69,7 +69,7 @@ public:
 
     Performance play (const Song& song)
     {
-        return vst3 ? Test::play (*vst3, song) : Test::play (*lv2, song, Talk::changesInBars);
+        return vst3 ? Tests::play (*vst3, song) : Tests::play (*lv2, song, Talk::changesInBars);
     }
 
     juce::MemoryBlock save() { return vst3 ? vst3->save() : lv2->save(); }
@@ -218,4 +218,4 @@ TEST (PluginLifetime, LeavesNothingBehindWhenTheLastOfManyInstancesGoes)
     const Holdings after;
     EXPECT_TRUE (after.isBackTo (before, 100'000)) << before << ", then " << after;
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -87,4 +87,4 @@ TEST (MidiEffect, AllocatesNothingWhileAnLV2HostRunsIt)
         EXPECT_EQ (host.heapCallsOfRun (blockSize, {}), 0) << "block " << block;
 }
 } // namespace
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -8,7 +8,7 @@
 #include <fstream>
 #include <stdexcept>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -77,4 +77,4 @@ int VST3Library::scan() const
 
     return numClasses;
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

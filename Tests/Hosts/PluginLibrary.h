@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** Whether a library whose path ends like this is in the memory of this process. */
 bool isLoaded (const std::string& endOfPath);
@@ -27,4 +27,4 @@ public:
 private:
     void* handle = nullptr;
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

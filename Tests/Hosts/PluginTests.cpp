@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -299,4 +299,4 @@ TEST_F (Plugin, AllocatesNothingWhileAnLV2HostRunsIt)
         EXPECT_EQ (host.heapCallsOfRun (blockSize, block == 10 ? start : nothing), 0) << "block " << block;
 }
 } // namespace
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -11,7 +11,7 @@
 
 #include <fstream>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -186,4 +186,4 @@ TEST (RenderedProject, SoundsLikeTheHostWhoseProjectItLoadsAndGivesItBack)
     EXPECT_EQ (nlohmann::json::diff (documentIn (project), documentIn (other.save())).dump(), "[]");
     EXPECT_LT (largestDifference (playedBy (other).audio, hosted.audio), 1e-6f);
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <optional>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -188,4 +188,4 @@ testing::AssertionResult sameSound (const Performance& first, const Performance&
 
     return testing::AssertionFailure() << "up to " << loudest << ", with a difference of " << difference;
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** A piece of music for a host to play: a chord of C, E and G held from start to end, under a transport that the
     script may move at the start of any block.
@@ -53,4 +53,4 @@ testing::AssertionResult sameOnsets (const Performance& first, const Performance
 
 /** Whether both sound, and alike. */
 testing::AssertionResult sameSound (const Performance& first, const Performance& second);
-} // namespace Zn::Test
+} // namespace Zn::Tests

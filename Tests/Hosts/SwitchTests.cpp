@@ -4,7 +4,7 @@
 
 // What hosts switch around the processing, and nobody hears.
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -64,4 +64,4 @@ TEST (PluginSwitches, OfTheInputThatNobodyHearsChangeNothing)
         EXPECT_TRUE (sameSound (performance, expected)) << isOn;
     }
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 VST3Host::VST3Host (const std::string& bundle, double sampleRate, int maxBlockSize)
 {
@@ -63,4 +63,4 @@ juce::MidiBuffer VST3Host::run (int numSamples, const juce::MidiBuffer& midi)
     plugin->processBlock (audio, events);
     return events;
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** The plug-in as a VST3 host has it, loaded from its bundle. Throws if it cannot be. */
 class VST3Host
@@ -32,4 +32,4 @@ private:
     std::unique_ptr<juce::AudioPluginInstance> plugin;
     juce::AudioBuffer<float> audio;
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

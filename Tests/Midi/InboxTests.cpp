@@ -7,7 +7,7 @@
 #include <thread>
 
 using namespace Zn::Midi;
-using namespace Zn::Test;
+using namespace Zn::Tests;
 
 TEST (Inbox, PutsMessagesBehindThoseOfTheFirstSample)
 {

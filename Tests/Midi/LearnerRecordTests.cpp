@@ -7,7 +7,7 @@
 #include <thread>
 
 using namespace Zn::Midi::Learn;
-using namespace Zn::Test;
+using namespace Zn::Tests;
 
 namespace
 {

@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-using namespace Zn::Test;
+using namespace Zn::Tests;
 
 TEST (MidiText, ReadsBackWhatItWrites)
 {

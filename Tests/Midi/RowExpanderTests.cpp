@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 using namespace Zn::Midi;
-using namespace Zn::Test;
+using namespace Zn::Tests;
 
 namespace
 {

@@ -8,7 +8,7 @@
 #include <thread>
 
 using namespace Zn::Midi;
-using namespace Zn::Test;
+using namespace Zn::Tests;
 using testing::ElementsAreArray;
 
 namespace

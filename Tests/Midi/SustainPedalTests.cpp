@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 using namespace Zn::Midi;
-using namespace Zn::Test;
+using namespace Zn::Tests;
 
 TEST (SustainPedal, HoldsBackTheEndsOfNotesUntilItIsLifted)
 {

@@ -348,7 +348,7 @@ TEST (ConnectorLifetimes, SurviveAChangeThatRebuildsTheEditor)
 
 TEST (ConnectorLifetimes, EndAnOpenGestureWithTheForwarder)
 {
-    Zn::Test::PlainProcessor processor;
+    Zn::Tests::PlainProcessor processor;
     Audio::ManagedParameters managed;
     Model model;
     Audio::HostParamList host { managed };

@@ -11,9 +11,9 @@ namespace Zn::Audio
 {
 namespace
 {
-using Test::PlainProcessor;
 using Tests::HostLog;
 using Tests::Lines;
+using Tests::PlainProcessor;
 
 struct Tree : ParamList
 {

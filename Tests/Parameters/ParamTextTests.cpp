@@ -193,7 +193,7 @@ TEST (Params, ReadOnTheAudioThreadWithoutLockOrText)
     auto sum = 0.0f;
 
     {
-        const Zn::Test::ExpectRealTimeSafe guard { "reading parameters" };
+        const Zn::Tests::ExpectRealTimeSafe guard { "reading parameters" };
         sum += float (params.enable.get()) + float (params.octave.get()) + params.cutoff.get();
         sum += float (params.quantize.get()) + params.master.get();
     }

@@ -16,13 +16,13 @@ namespace Zn::Audio::Plugins::Vornel
 namespace
 {
 using Midi::ShortMessage;
-using Test::events;
-using Test::ExpectRealTimeSafe;
-using Test::isAtMostOneLate;
-using Test::TestHost;
-using Test::text;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using Tests::events;
+using Tests::ExpectRealTimeSafe;
+using Tests::isAtMostOneLate;
+using Tests::TestHost;
+using Tests::text;
 
 constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
 constexpr int bar = 4 * quarter;

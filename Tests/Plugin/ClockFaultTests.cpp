@@ -13,12 +13,12 @@ namespace Zn::Audio::Plugins::Vornel
 namespace
 {
 using PositionInfo = juce::AudioPlayHead::PositionInfo;
-using Test::events;
-using Test::isAtMostOneLate;
-using Test::TestHost;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
+using Tests::events;
+using Tests::isAtMostOneLate;
+using Tests::TestHost;
 
 constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
 constexpr int bar = 4 * quarter;

@@ -11,7 +11,7 @@ namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
-using Test::note;
+using Tests::note;
 
 const auto cMajor = Midi::RowToPitchTable::from ({ 60, 64, 67 }, Midi::wholeKeyboard);
 
@@ -56,21 +56,23 @@ TEST (ExportSlot, WritesOnePassOfWhatIsHeard)
 
     const Row rows[] = {
         { "steps",
-          Zn::Test::loop (2.0, Zn::Test::steps ("x-.x")),
+          Zn::Tests::loop (2.0, Zn::Tests::steps ("x-.x")),
           "60 v102 0-960, 60 v102 1440-1920, end 1920" },
-        { "chance and spread", Zn::Test::loop (1.0, Zn::Test::Notes { never }), "64 v102 480-960, end 960" },
-        { "disabled", Zn::Test::loop (1.0, Zn::Test::Notes { disabled }), "end 960" },
+        { "chance and spread",
+          Zn::Tests::loop (1.0, Zn::Tests::Notes { never }),
+          "64 v102 480-960, end 960" },
+        { "disabled", Zn::Tests::loop (1.0, Zn::Tests::Notes { disabled }), "end 960" },
         { "swung",
-          Zn::Test::loop (1.0, Zn::Test::Notes { note (64, 0.36, 0.24) }),
+          Zn::Tests::loop (1.0, Zn::Tests::Notes { note (64, 0.36, 0.24) }),
           "60 v102 345-576, end 960" },
         { "a row over itself",
-          Zn::Test::loop (1.0, Zn::Test::Notes { note (64, 0.0, 0.75), note (64, 0.5, 0.25) }),
+          Zn::Tests::loop (1.0, Zn::Tests::Notes { note (64, 0.0, 0.75), note (64, 0.5, 0.25) }),
           "60 v102 0-480, 60 v102 480-720, end 960" },
         { "over the end",
-          Zn::Test::loop (1.0, Zn::Test::Notes { note (67, 0.5, 9.0) }),
+          Zn::Tests::loop (1.0, Zn::Tests::Notes { note (67, 0.5, 9.0) }),
           "72 v102 480-960, end 960" },
         { "over bars",
-          Zn::Test::loop (9.0, Zn::Test::Notes { note (64, 3.5, 1.0), note (65, 8.0, 1.0) }),
+          Zn::Tests::loop (9.0, Zn::Tests::Notes { note (64, 3.5, 1.0), note (65, 8.0, 1.0) }),
           "60 v102 3360-4320, 64 v102 7680-8640, end 8640" },
         { "empty", {}, "end 0" },
     };
@@ -82,7 +84,7 @@ TEST (ExportSlot, WritesOnePassOfWhatIsHeard)
 TEST (ExportSlot, CanBePlayedAgain)
 {
     juce::MemoryOutputStream bytes;
-    exportSlot (Zn::Test::loop (8.0, Zn::Test::steps ("x.x.x.x.")), cMajor, 124.0).writeTo (bytes);
+    exportSlot (Zn::Tests::loop (8.0, Zn::Tests::steps ("x.x.x.x.")), cMajor, 124.0).writeTo (bytes);
 
     const auto content = bytes.getMemoryBlock();
     const auto song =
@@ -96,16 +98,16 @@ TEST (ExportSlot, TakesTheLastChord)
 {
     ProcessorFixture f;
     f.drawQuarters (0, 1);
-    Zn::Test::TestHost host (f.processor);
+    Zn::Tests::TestHost host (f.processor);
 
     const auto firstPitch = [&] { return text (exportSlot (f.state, 0)).substr (0, 2); };
     EXPECT_EQ (firstPitch(), "64") << "of C major";
 
-    host.send (Zn::Test::events ("on 57 @0, on 61 @0, on 64 @9"));
+    host.send (Zn::Tests::events ("on 57 @0, on 61 @0, on 64 @9"));
     host.run (512);
     EXPECT_EQ (firstPitch(), "61");
 
-    host.send (Zn::Test::events ("off 57 @0, off 64 @9, off 61 @600"));
+    host.send (Zn::Tests::events ("off 57 @0, off 64 @9, off 61 @600"));
     host.run (1024);
     EXPECT_EQ (firstPitch(), "61");
 

@@ -8,10 +8,10 @@ namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
-using Test::events;
-using Test::TestHost;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using Tests::events;
+using Tests::TestHost;
 
 constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
 constexpr int bar = 4 * quarter;
@@ -290,7 +290,7 @@ TEST (HangingNotes, AreNotMadeByKeysThatNoHandPresses)
     for (auto note = 0; note < 128; ++note)
         allKeys.addEvent (juce::MidiMessage::noteOn (1 + note % 16, note, 0.5f), 0);
 
-    const auto manyKeys = Zn::Test::text (allKeys);
+    const auto manyKeys = Zn::Tests::text (allKeys);
     const auto noKeys = [&manyKeys] {
         auto lifted = juce::String (manyKeys).replace ("on ", "off ").replace ("@0", "@1");
         return lifted.toStdString();

@@ -109,6 +109,6 @@ inline void besideMessageThread (const std::function<void()>& call)
         ended = true;
     });
 
-    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return ended.load(); }));
+    EXPECT_TRUE (Zn::Tests::runMessageLoopUntil ([&] { return ended.load(); }));
 }
 } // namespace Zn::Audio::Plugin

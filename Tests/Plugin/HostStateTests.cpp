@@ -150,7 +150,7 @@ TEST (HostState, AnswersAWorkerThatTheMessageThreadWaitsFor)
     EXPECT_FLOAT_EQ (after.at ("FlatParams")[0].get<float>(), 0.1234567f);
     EXPECT_EQ (processor.lastHeard, "silence");
 
-    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return ! processor.isLoadPending(); }));
+    EXPECT_TRUE (Zn::Tests::runMessageLoopUntil ([&] { return ! processor.isLoadPending(); }));
     processor.renderBlock();
     EXPECT_EQ (processor.lastHeard, "song");
     EXPECT_FLOAT_EQ (processor.getParameters()[0]->getValue(), 0.1234567f) << "the rounded text came later";
@@ -219,7 +219,7 @@ TEST (HostState, IsReadAndWrittenByManyThreadsAtOnce)
     });
 
     EXPECT_EQ (torn, 0);
-    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return ! processor.isLoadPending(); }));
+    EXPECT_TRUE (Zn::Tests::runMessageLoopUntil ([&] { return ! processor.isLoadPending(); }));
 }
 
 TEST (HostState, AskedForWhileItIsLoadedIsWhatItWillBe)
@@ -310,6 +310,6 @@ TEST (HostState, GoesWithAProcessorThatDiesBeforeItIsLoaded)
         processor.reset();
     });
 
-    Zn::Test::runPendingMessages();
+    Zn::Tests::runPendingMessages();
 }
 } // namespace Zn::Audio::Plugin

@@ -15,10 +15,10 @@ namespace
 {
 using Midi::Learn::Target;
 using testing::IsEmpty;
-using Zn::Test::events;
-using Zn::Test::isAtMostOneLate;
-using Zn::Test::TestHost;
-using Zn::Test::text;
+using Zn::Tests::events;
+using Zn::Tests::isAtMostOneLate;
+using Zn::Tests::TestHost;
+using Zn::Tests::text;
 
 constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
 

@@ -14,11 +14,11 @@ namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
-using Test::events;
-using Test::ExpectRealTimeSafe;
-using Test::isAtMostOneLate;
-using Test::text;
 using testing::ElementsAre;
+using Tests::events;
+using Tests::ExpectRealTimeSafe;
+using Tests::isAtMostOneLate;
+using Tests::text;
 
 constexpr int blockSize = 512;
 

@@ -10,11 +10,11 @@ namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
-using Test::events;
-using Test::TestHost;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
+using Tests::events;
+using Tests::TestHost;
 
 constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
 constexpr int bar = 4 * quarter;

@@ -51,7 +51,7 @@ TEST (PresetTask, RunsWhatAnotherThreadAddsAsSoonAsTheMessageThreadIsFree)
         task.add (&first, [&] { ranOnMessageThread = juce::MessageManager::existsAndIsCurrentThread(); });
     }).join();
 
-    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return ranOnMessageThread; }));
+    EXPECT_TRUE (Zn::Tests::runMessageLoopUntil ([&] { return ranOnMessageThread; }));
 }
 
 TEST (PresetTask, WaitsForARunningJobWhenItsOwnerLeavesOnAnotherThread)

@@ -61,7 +61,7 @@ struct ProcessorFixture
 };
 
 /** The samples at which a note was started. */
-inline std::vector<int> startsOf (const Test::TestHost& host, int note)
+inline std::vector<int> startsOf (const Tests::TestHost& host, int note)
 {
     std::vector<int> samples;
 

@@ -97,7 +97,7 @@ public:
     juce::Random random;
     Processor processor { StartUp::empty };
     State& state = processor.getState();
-    Test::TestHost host;
+    Tests::TestHost host;
 
 private:
     void send (const juce::MidiMessage& message)

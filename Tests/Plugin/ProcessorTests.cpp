@@ -8,10 +8,10 @@ namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
-using Test::events;
-using Test::TestHost;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using Tests::events;
+using Tests::TestHost;
 
 constexpr int sixteenth = 6000; // samples at 48 kHz and 120 beats a minute
 constexpr int quarter = 4 * sixteenth;
@@ -30,7 +30,7 @@ std::vector<juce::String> hostIdentifiers (const juce::AudioProcessor& processor
     return identifiers;
 }
 
-std::vector<Test::Received> ofNote (const std::vector<Test::Received>& all, int note)
+std::vector<Tests::Received> ofNote (const std::vector<Tests::Received>& all, int note)
 {
     auto selected = all;
     std::erase_if (selected, [note] (const auto& message) { return message.note() != note; });
@@ -193,7 +193,7 @@ TEST (Processor, LeavesTheMidiOfAMonoBlockAlone)
     auto midi = events ("on 60 ch5 @3, hex C4 10 @5");
 
     f.processor.processBlock (mono, midi);
-    EXPECT_EQ (Zn::Test::text (midi), Zn::Test::text (events ("on 60 ch5 @3, hex C4 10 @5")));
+    EXPECT_EQ (Zn::Tests::text (midi), Zn::Tests::text (events ("on 60 ch5 @3, hex C4 10 @5")));
 }
 
 TEST (Processor, KeepsTheKeysOfABlockWithoutSamples)

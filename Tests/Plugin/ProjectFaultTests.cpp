@@ -18,9 +18,9 @@ namespace Zn::Audio::Plugins::Vornel
 namespace
 {
 using nlohmann::json;
-using Test::events;
-using Test::runMessageLoopUntil;
-using Test::TestHost;
+using Tests::events;
+using Tests::runMessageLoopUntil;
+using Tests::TestHost;
 
 /** What a project holds but for the tempo, which follows the host. */
 json withoutTempo (json document)

@@ -15,11 +15,11 @@ namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
-using Test::events;
-using Test::runMessageLoopUntil;
-using Test::runPendingMessages;
-using Test::TestHost;
 using testing::IsEmpty;
+using Tests::events;
+using Tests::runMessageLoopUntil;
+using Tests::runPendingMessages;
+using Tests::TestHost;
 
 constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
 

@@ -15,7 +15,7 @@ namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
-using Test::events;
+using Tests::events;
 
 constexpr double rate = 48000.0;
 constexpr int blockSize = 256;

@@ -13,11 +13,11 @@ namespace Zn::Audio
 namespace
 {
 using PositionInfo = juce::AudioPlayHead::PositionInfo;
-using Test::TestPlayHead;
 using ::testing::DoubleNear;
 using ::testing::Each;
 using ::testing::ElementsAreArray;
 using ::testing::Pointwise;
+using Tests::TestPlayHead;
 
 constexpr auto nan = std::numeric_limits<double>::quiet_NaN();
 constexpr auto infinity = std::numeric_limits<double>::infinity();

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 inline constexpr std::array exampleNames { "old-hundredth.mid", "auld-lang-syne.mid", "gymnopedie-1.mid" };
 
@@ -22,4 +22,4 @@ inline std::vector<std::uint8_t> bytesOf (const juce::File& file)
     const auto* data = static_cast<const std::uint8_t*> (block.getData());
     return { data, data + block.getSize() };
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

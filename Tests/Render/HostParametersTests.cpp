@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 using namespace Zn::Render;
-using Zn::Test::TestProcessor;
+using Zn::Tests::TestProcessor;
 
 TEST (HostParameters, AreSetByWhatTheyShow)
 {

@@ -4,7 +4,7 @@
 #include <initializer_list>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 using Bytes = std::vector<std::uint8_t>;
 
@@ -32,4 +32,4 @@ inline Bytes midiFile (int format, int division, std::initializer_list<Bytes> tr
 
     return file;
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -11,7 +11,7 @@
 #include <random>
 
 using namespace Zn::Render;
-using namespace Zn::Test;
+using namespace Zn::Tests;
 
 namespace
 {

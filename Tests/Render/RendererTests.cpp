@@ -10,7 +10,7 @@
 #include <algorithm>
 
 using namespace Zn::Render;
-using namespace Zn::Test;
+using namespace Zn::Tests;
 
 namespace
 {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** Lets the MIDI through, plays a tone level of the number of keys held, and writes down what the host did.
 */
@@ -65,4 +65,4 @@ private:
 
     int heldKeys = 0;
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

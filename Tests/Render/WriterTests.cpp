@@ -10,7 +10,7 @@
 #include <cmath>
 
 using namespace Zn::Render;
-using namespace Zn::Test;
+using namespace Zn::Tests;
 
 namespace
 {

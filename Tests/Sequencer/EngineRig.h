@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** An engine with a song to play against: a clock of an eighth of a quarter note for each sample, unless a test
     sets another, and the patterns that a test draws.
@@ -82,4 +82,4 @@ public:
 private:
     bool wasPlaying = false;
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -234,4 +234,4 @@ TEST (EventPlayer, FollowsTheRulesAsTheyAreWrittenDown)
         }
     }
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -20,8 +20,8 @@ namespace Zn::Sequencer::MidiPlayer
 {
 namespace
 {
-using Test::Bytes;
-using Test::midiFile;
+using Tests::Bytes;
+using Tests::midiFile;
 
 constexpr int division = 4; // ticks in a quarter note, so that a delta of 16 is a bar
 
@@ -114,13 +114,13 @@ const FileRow fileRows[] = {
 Bytes wordyFile (std::uint32_t headerSize, std::uint32_t numTracks, std::uint32_t sizeOfChunk)
 {
     Bytes file { 'M', 'T', 'h', 'd' };
-    Test::append (file, headerSize, 4);
-    Test::append (file, 0, 2);
-    Test::append (file, numTracks, 2);
-    Test::append (file, division, 2);
+    Tests::append (file, headerSize, 4);
+    Tests::append (file, 0, 2);
+    Tests::append (file, numTracks, 2);
+    Tests::append (file, division, 2);
     file.resize (8 + headerSize, 1);
     file.insert (file.end(), { 'X', 'F', 'I', 'H' });
-    Test::append (file, sizeOfChunk, 4);
+    Tests::append (file, sizeOfChunk, 4);
     file.insert (file.end(), { 1, 2, 3 });
 
     const auto plain = midiFile (0, division, { plainTrack });
@@ -249,7 +249,7 @@ TEST (MidiPlayerSong, LeavesOutWhatIsTooMuch)
 
 TEST (MidiPlayerResource, IsReadFromWhereItLies)
 {
-    const Zn::Test::ScratchFolder folder;
+    const Zn::Tests::ScratchFolder folder;
     const auto file = folder.file (juce::CharPointer_UTF8 ("\xC3\xA4 song.mid"));
     const auto bytes = midiFile (0, division, { plainTrack });
     file.replaceWithData (bytes.data(), bytes.size());

@@ -9,7 +9,7 @@
 #include <map>
 #include <set>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -325,4 +325,4 @@ TEST (PatternEngineLaws, SurviveNumbersThatMakeNoSense)
         EXPECT_TRUE (rig.playAt ({ 0.0 }).isEmpty()) << "seed " << seed;
     }
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -262,4 +262,4 @@ TEST (PatternEngine, ReportsEachMarkItPassesUntilTheEditorHasSeenIt)
     ASSERT_EQ (rig.engine.getFiredMarks().size(), 1u);
     EXPECT_EQ (rig.engine.getFiredMarks()[0].sample, 6);
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 using Audio::Kernels::TableView;
 
@@ -18,4 +18,4 @@ TableView KernelTable::view() const
 {
     return { samples.data() + TableView::guardFramesAhead * numChannels, numFrames, numChannels };
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

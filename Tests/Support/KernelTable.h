@@ -3,7 +3,7 @@
 #include "Support/LiteralVoice.h"
 #include "Synth/Kernels/VoiceKernels.h"
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** The kernels to hold against a plain reading; where a processor lacks a set its kernels are the scalar ones. */
 inline constexpr Audio::Kernels::InstructionSet allSets[] { Audio::Kernels::InstructionSet::scalar,
@@ -22,4 +22,4 @@ private:
     std::vector<float> samples;
     int numFrames, numChannels;
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** For Pointwise over samples: as expected, or one later. What falls between the last sample of a block and the first
     of the next is heard at the latter.
@@ -14,4 +14,4 @@ inline auto isAtMostOneLate()
         return late == 0 || late == 1;
     });
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

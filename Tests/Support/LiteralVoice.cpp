@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -309,4 +309,4 @@ void LiteralVoice::advanceEnvelope (const VoiceSettings& settings)
         break;
     }
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

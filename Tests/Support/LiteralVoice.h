@@ -5,7 +5,7 @@
 #include <array>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** A wavetable as plain channels, without guards or interleaving. */
 using LiteralTable = std::vector<std::vector<float>>;
@@ -113,4 +113,4 @@ private:
     float level = 0.0f, releaseStep = 0.0f;
     bool noteIsDown = false;
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

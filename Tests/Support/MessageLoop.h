@@ -9,7 +9,7 @@ namespace juce
 bool dispatchNextMessageOnSystemQueue (bool returnIfNoPendingMessages); // what JUCE's own loops call
 }
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** Serves the message queue until the condition holds; false when it does not within the time. A test that wants the
     message thread blocked just does not call this.
@@ -38,4 +38,4 @@ inline void runPendingMessages()
     while (juce::dispatchNextMessageOnSystemQueue (true))
     {}
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -5,7 +5,7 @@
 #include <sstream>
 #include <stdexcept>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -122,4 +122,4 @@ std::string text (const juce::MidiBuffer& events)
 
     return out.str();
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** MIDI events as text, so that a test states whole event lists and a failure shows a readable difference.
 
@@ -33,4 +33,4 @@ juce::MidiBuffer events (std::string_view first, Texts... others)
     note-on, velocity 0 of a note-off, channel 1. An empty buffer gives an empty text.
 */
 std::string text (const juce::MidiBuffer& events);
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -4,7 +4,7 @@
 #include <array>
 #include <random>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -101,4 +101,4 @@ std::vector<int> randomBlocks (int seed, int numSamples)
 
     return lengths;
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** Counts of note-ons and note-offs that do not match, as "60: 2 on 1 off, ..."; empty when each pitch got as
     many of one as of the other.
@@ -49,4 +49,4 @@ juce::MidiBuffer inBlocks (const juce::MidiBuffer& input, const std::vector<int>
 
     return output;
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

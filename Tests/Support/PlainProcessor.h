@@ -2,7 +2,7 @@
 
 #include <juce_audio_processors/juce_audio_processors.h>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** A processor that does nothing: a test overrides what it is about. */
 class PlainProcessor : public juce::AudioProcessor
@@ -27,4 +27,4 @@ public:
     void getStateInformation (juce::MemoryBlock&) override {}
     void setStateInformation (const void*, int) override {}
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

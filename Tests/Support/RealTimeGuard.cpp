@@ -7,7 +7,7 @@
 #include <memory>
 #include <utility>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -91,4 +91,4 @@ ExpectRealTimeSafe::~ExpectRealTimeSafe()
     const auto report = guard.describe();
     ADD_FAILURE() << what << (what.empty() ? "" : ": ") << report;
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

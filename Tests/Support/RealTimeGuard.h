@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** Counts what the audio thread must not do: while it lives, every heap call and every lock that could wait,
     made by the thread that created it.
@@ -66,4 +66,4 @@ private:
     const int permitted;
     RealTimeGuard guard; // last: what comes before it is not watched
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

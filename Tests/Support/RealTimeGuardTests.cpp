@@ -15,7 +15,7 @@
 #include <thread>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -157,4 +157,4 @@ TEST (ExpectRealTimeSafe, FailsTheTestForMoreThanIsPermitted)
     EXPECT_NONFATAL_FAILURE (watched (1), "the mixer: 2 heap calls");
     EXPECT_NONFATAL_FAILURE (watched (0), "the first at\n");
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 using Notes = std::vector<Sequencer::TimedNote>;
 
@@ -63,4 +63,4 @@ Sequencer::RenderedSlot once (const Rows&... rows)
     slot.looping = false;
     return slot;
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

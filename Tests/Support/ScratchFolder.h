@@ -2,7 +2,7 @@
 
 #include <juce_core/juce_core.h>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** A folder for a test's files that goes with it. */
 struct ScratchFolder
@@ -17,4 +17,4 @@ struct ScratchFolder
 
     const juce::File folder = juce::File::createTempFile ("scratch");
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

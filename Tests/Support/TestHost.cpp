@@ -6,7 +6,7 @@
 
 #include <map>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 namespace
 {
@@ -157,4 +157,4 @@ std::string TestHost::noteOns() const
 
     return texts.joinIntoString (" ").toStdString();
 }
-} // namespace Zn::Test
+} // namespace Zn::Tests

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** A message that the host received, at its sample from the beginning of the render. */
 struct Received
@@ -89,4 +89,4 @@ private:
     std::int64_t position = 0; // samples from the beginning
     int numBlocks = 0;
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

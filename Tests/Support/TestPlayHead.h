@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <functional>
 
-namespace Zn::Test
+namespace Zn::Tests
 {
 /** A host's transport that a test writes: a steady song that plays, stops, jumps and loops as told.
 
@@ -85,4 +85,4 @@ public:
     double samples = 0.0; // the same in samples
     LoopPoints loop;      // quarter notes; none unless its end is above its start
 };
-} // namespace Zn::Test
+} // namespace Zn::Tests

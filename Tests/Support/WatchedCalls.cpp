@@ -21,7 +21,7 @@
 #define ZN_SANITIZED 0
 #endif
 
-using Zn::Test::RealTimeGuard;
+using Zn::Tests::RealTimeGuard;
 
 #if ZN_SANITIZED
 

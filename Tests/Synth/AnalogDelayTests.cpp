@@ -299,7 +299,7 @@ TEST (AnalogDelay, IsSafeForTheAudioThread)
     delay.prepare (sampleRate);
     auto sound = noise (512, 1);
 
-    const Zn::Test::ExpectRealTimeSafe guard { "delay" };
+    const Zn::Tests::ExpectRealTimeSafe guard { "delay" };
     auto wasFinite = true;
 
     for (const auto tempo : { 120.0, 90.0, 0.0 })

@@ -117,7 +117,7 @@ TEST (SampleList, LeavesOutWhatPresetsCouldNotTellApartOrNobodyCanRead)
 
 TEST (SampleList, ReadsTheUsersFolderInNaturalOrder)
 {
-    const Zn::Test::ScratchFolder user;
+    const Zn::Tests::ScratchFolder user;
     const auto add = [&user] (const juce::String& name, const juce::MemoryBlock& bytes) {
         user.file (name).replaceWithData (bytes.getData(), bytes.getSize());
     };
@@ -220,7 +220,7 @@ TEST (SampleList, IsOneForAllAndReadWithoutWaiting)
     const auto& list = SampleList::get();
     EXPECT_EQ (&list, &SampleList::get());
 
-    const Zn::Test::ExpectRealTimeSafe guard { "reading tables" };
+    const Zn::Tests::ExpectRealTimeSafe guard { "reading tables" };
     auto sum = 0;
 
     for (auto index = -1; index <= list.size(); ++index)

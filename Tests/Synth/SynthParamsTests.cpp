@@ -121,7 +121,7 @@ TEST (DelayParams, KeepTimeWithTheSong)
 
     Parameters::setFromText (params.mode.getParameter(), "Free");
     Parameters::setFromText (params.time.getParameter(), "0.25");
-    const Zn::Test::ExpectRealTimeSafe guard { "reading the delay's time" };
+    const Zn::Tests::ExpectRealTimeSafe guard { "reading the delay's time" };
     EXPECT_DOUBLE_EQ (params.delaySeconds (120.0), 0.25);
 }
 } // namespace Zn::Audio::WavetableSynth

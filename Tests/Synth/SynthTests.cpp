@@ -13,7 +13,7 @@ namespace Zn::Audio::WavetableSynth
 {
 namespace
 {
-using Test::events;
+using Tests::events;
 
 constexpr double rate = 48000.0;
 
@@ -34,8 +34,8 @@ struct TwinTable
         interleaved.emplace (plain);
     }
 
-    Test::LiteralTable plain;
-    std::optional<Test::KernelTable> interleaved;
+    Tests::LiteralTable plain;
+    std::optional<Tests::KernelTable> interleaved;
 };
 
 struct Rig
@@ -96,7 +96,7 @@ juce::MidiBuffer everyKey (int status, int lowest, int count)
 }
 
 /** Sets our voices and the literal one to the same. */
-void choose (Rig& rig, Zn::Test::VoiceSettings& literal, juce::Random& random)
+void choose (Rig& rig, Zn::Tests::VoiceSettings& literal, juce::Random& random)
 {
     const auto flip = [&random] { return random.nextInt (4) > 0; };
 
@@ -141,8 +141,8 @@ void choose (Rig& rig, Zn::Test::VoiceSettings& literal, juce::Random& random)
 void compareANote (const Kernels::VoiceKernels& kernels, juce::Random& random)
 {
     Rig rig (kernels);
-    Zn::Test::VoiceSettings literal;
-    Zn::Test::LiteralVoice reference (rate, 4096);
+    Zn::Tests::VoiceSettings literal;
+    Zn::Tests::LiteralVoice reference (rate, 4096);
 
     const auto expectSame = [&] (int numSamples, const juce::MidiBuffer& midi, const char* what) {
         juce::AudioBuffer<float> expected (2, numSamples);
@@ -178,7 +178,7 @@ void compareANote (const Kernels::VoiceKernels& kernels, juce::Random& random)
 
 TEST (Synth, SoundsLikeTheLiteralVoiceWhileAllSettingsChange)
 {
-    for (const auto set : Zn::Test::allSets)
+    for (const auto set : Zn::Tests::allSets)
     {
         juce::Random random (3);
 
@@ -283,7 +283,7 @@ TEST (Synth, SurvivesMoreNotesThanItHasVoices)
     juce::AudioBuffer<float> audio (2, 512);
 
     {
-        const Zn::Test::ExpectRealTimeSafe watched ("a block with 128 new notes");
+        const Zn::Tests::ExpectRealTimeSafe watched ("a block with 128 new notes");
         rig.synth.render (audio, all);
     }
 

@@ -28,7 +28,7 @@ void onWorker (const std::function<void()>& work)
         ended = true;
     });
 
-    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return ended.load(); }));
+    EXPECT_TRUE (Zn::Tests::runMessageLoopUntil ([&] { return ended.load(); }));
 }
 } // namespace
 
@@ -79,13 +79,13 @@ TEST (CallOnMessageThreadAndBlock, GivesUpOnAMessageThreadThatWaitsForIt)
 
     EXPECT_LT (Clock::now() - start, 3s) << "it is known by now to be stuck";
 
-    Zn::Test::runPendingMessages();
+    Zn::Tests::runPendingMessages();
     EXPECT_EQ (numCalled, 0) << "the callers had gone";
 
     const auto again = Clock::now();
     callFromWorker();
     EXPECT_GT (Clock::now() - again, 900ms) << "it has come back meanwhile";
-    Zn::Test::runPendingMessages();
+    Zn::Tests::runPendingMessages();
 }
 
 TEST (CallOnMessageThreadAndBlock, GivesUpOnACallThatWaitsForItsCaller)
@@ -100,7 +100,7 @@ TEST (CallOnMessageThreadAndBlock, GivesUpOnACallThatWaitsForItsCaller)
         hasLeft = true;
     });
 
-    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return hasLeft.load(); }));
+    EXPECT_TRUE (Zn::Tests::runMessageLoopUntil ([&] { return hasLeft.load(); }));
 }
 
 TEST (GetAsyncCallback, CallsOnTheMessageThreadForAsLongAsItsOwnerLives)
@@ -116,12 +116,12 @@ TEST (GetAsyncCallback, CallsOnTheMessageThreadForAsLongAsItsOwnerLives)
         post();
         post();
     });
-    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return calls == 2; }));
+    EXPECT_TRUE (Zn::Tests::runMessageLoopUntil ([&] { return calls == 2; }));
 
     post();
     owner.reset();
     post();
-    Zn::Test::runPendingMessages();
+    Zn::Tests::runPendingMessages();
     EXPECT_EQ (calls, 2);
 }
 
@@ -144,13 +144,13 @@ TEST (GetAsyncCallback, IsWaitedForByAnOwnerThatGoesOnAnotherThread)
         EXPECT_TRUE (hasEnded);
     });
 
-    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return hasEnded.load(); }));
+    EXPECT_TRUE (Zn::Tests::runMessageLoopUntil ([&] { return hasEnded.load(); }));
 }
 
 TEST (GetAsyncCallback, MayEndItsOwnOwner)
 {
     std::optional<Lifeline> owner { std::in_place };
     getAsyncCallback (*owner, [&] { owner.reset(); })();
-    EXPECT_TRUE (Zn::Test::runMessageLoopUntil ([&] { return ! owner.has_value(); }));
+    EXPECT_TRUE (Zn::Tests::runMessageLoopUntil ([&] { return ! owner.has_value(); }));
 }
 } // namespace Zn::Threads

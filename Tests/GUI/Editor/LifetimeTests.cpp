@@ -120,7 +120,7 @@ TEST (EditorLifetime, ClosesInTheMiddleOfAnythingWhileItPlays)
         const auto button = round % 3 == 2 ? Tests::Hand::rightButton : Tests::Hand::leftButton;
         part->mouseDown (Tests::Hand::mouseEvent (*part, centre, centre, button));
         part->mouseDrag (Tests::Hand::mouseEvent (*part, centre.translated (20, 9), centre, button, 1, true));
-        Zn::Test::runPendingMessages();
+        Zn::Tests::runPendingMessages();
     }
 
     EXPECT_EQ (processor.getActiveEditor(), nullptr);
@@ -156,7 +156,7 @@ TEST (EditorLifetime, StaysOpenWhileProjectsAreLoadedAndSavedOnOtherThreads)
         processor.getState().step (1);
         draw (*editor);
         editor->getPage().getContext().polls.callListeners();
-        Zn::Test::runPendingMessages();
+        Zn::Tests::runPendingMessages();
         editor->getPage().getContext().edits.undo();
     }
 
@@ -188,7 +188,7 @@ TEST (EditorLifetime, TakesNoMoreMemoryEachTime)
             if (round % 5 == 0)
                 draw (*editor);
 
-            Zn::Test::runPendingMessages();
+            Zn::Tests::runPendingMessages();
         }
 
         leastGrowth = std::min (leastGrowth, bytesInUse() - before);

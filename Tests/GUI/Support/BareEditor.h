@@ -31,7 +31,7 @@ struct BareEditor
     }
 
     Singleton::UserToken singletonsStay;
-    Test::ScratchFolder folder;
+    Tests::ScratchFolder folder;
     Audio::Plugins::Vornel::Processor processor { Audio::Plugins::Vornel::StartUp::empty };
     juce::Component root;
     GUI::AssetScheme::Canvas canvas { root };

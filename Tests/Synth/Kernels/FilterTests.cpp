@@ -14,9 +14,9 @@ namespace Zn::Audio::Kernels
 {
 namespace
 {
-using Test::allSets;
 using ::testing::FloatNear;
 using ::testing::Pointwise;
+using Tests::allSets;
 
 constexpr FilterType allTypes[] = { FilterType::lowPass, FilterType::bandPass, FilterType::highPass };
 

@@ -9,10 +9,10 @@ namespace Zn::Audio::Kernels
 {
 namespace
 {
-using Test::allSets;
-using Test::KernelTable;
-using Test::LiteralTable;
-using Test::LiteralVoice;
+using Tests::allSets;
+using Tests::KernelTable;
+using Tests::LiteralTable;
+using Tests::LiteralVoice;
 
 LiteralTable noise (int numChannels, int numFrames, juce::Random& random)
 {
