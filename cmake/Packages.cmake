@@ -20,10 +20,11 @@ set (CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set (CPACK_DEBIAN_COMPRESSION_TYPE xz)
 
 # dpkg-shlibdeps sees what is linked. JUCE loads by itself what a window needs, all of it or none, and JACK if it is there.
+# Folders are shown by xdg-open, and files asked for by the dialogue of the desktop, where there is one.
 set (CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set (CPACK_DEBIAN_PACKAGE_DEPENDS "libx11-6, libxcursor1, libxext6, libxinerama1, libxrandr2, libxrender1")
-set (CPACK_DEBIAN_PACKAGE_RECOMMENDS "libjack-jackd2-0 | libjack-0.125")
-set (CPACK_DEBIAN_PACKAGE_SUGGESTS "ardour | jalv, jackd")
+set (CPACK_DEBIAN_PACKAGE_RECOMMENDS "libjack-jackd2-0 | libjack-0.125, xdg-utils")
+set (CPACK_DEBIAN_PACKAGE_SUGGESTS "ardour | jalv, jackd, zenity | kdialog")
 set (CPACK_DEBIAN_PACKAGE_PROVIDES lv2-plugin)
 
 set (VORNEL_DEBIAN_VERSION "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
