@@ -82,6 +82,28 @@ TEST (HostClock, PlaysEveryPassOfALoopAlikeWhereverItWraps)
     }
 }
 
+TEST (HostClock, KeepsAPatternThatItsSwitchStartsAtTheEndOfALoop)
+{
+    // The loop's end lies on the edge of a block, in one, and in one's first and last samples.
+    for (const auto blockSize : { 500, 512, 777, 10667, 95999 })
+    {
+        Song song { blockSize };
+        song.drawSteps (0, 0, 0);
+        song.drawSteps (1, 1, 0);
+        song.state.liveSlots->quantum = 1.0;
+        song.host.playHead.jumpTo (2.0);
+        song.host.playHead.setLoop (2.0, 6.0);
+
+        song.host.run (7 * quarter / 2);
+        song.state.liveSlots->pending = 1;
+        song.host.run (3 * bar - 7 * quarter / 2);
+
+        // Where it starts counts as its beginning up to the loop's next end, then the song's does.
+        EXPECT_THAT (song.starts(), ElementsAre (bar, 2 * bar + 2 * quarter)) << blockSize;
+        song.expectBalanced();
+    }
+}
+
 TEST (HostClock, StartsTripletsOnTheirSamplesThoughNoBinaryNumberIsTheirs)
 {
     for (const auto numSteps : { 3, 6, 12, 24, 48, 96 })

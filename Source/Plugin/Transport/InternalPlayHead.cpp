@@ -147,8 +147,11 @@ void InternalPlayHead::update (juce::AudioPlayHead* host, int numSamples) noexce
     const auto playing = isPlaying();
     const auto time = getTimeInSamples();
 
+    const auto isForced = std::exchange (jumpForced, false);
+
     stateChanged = wasPlaying != playing;
-    jumped = std::exchange (jumpForced, false) || isAwayFrom (time);
+    jumped = isForced || isAwayFrom (expectedSample);
+    songJumped = isForced || (jumped && ! (loopsInside && ! isAwayFrom (expectedSample - loopLength)));
     wasPlaying = playing;
     startPpq = endPpq = info.getPpqPosition().orFallback (0.0);
     expectedSample = playing ? time + n : time;
@@ -195,12 +198,14 @@ void InternalPlayHead::follow (const PositionInfo& host) noexcept
         info.setPpqPosition (unrounded (*ppq, expectedPpq));
 }
 
-bool InternalPlayHead::isAwayFrom (std::int64_t time) const noexcept
+bool InternalPlayHead::isAwayFrom (std::int64_t expected) const noexcept
 {
-    if (! isPlaying())
-        return time != expectedSample;
+    const auto time = getTimeInSamples();
 
-    return time < expectedSample - jitterSamples || time >= expectedSample + jitterSamples;
+    if (! isPlaying())
+        return time != expected;
+
+    return time < expected - jitterSamples || time >= expected + jitterSamples;
 }
 
 void InternalPlayHead::fillPlaying (int numSamples) noexcept
@@ -230,6 +235,7 @@ void InternalPlayHead::fillSong() noexcept
         return;
 
     loopsInside = true;
+    loopLength = nearestSample (length / ppqPerSample);
     songPpq.resize (ppqBySample.size());
     std::ranges::transform (ppqBySample, songPpq.begin(), [&] (double ppq) {
         return ppq < loop.ppqEnd ? ppq : rounded (ppq - length);

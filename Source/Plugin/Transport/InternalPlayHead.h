@@ -46,6 +46,7 @@ public:
 
     bool isPlaying() const noexcept { return info.getIsPlaying(); }
     bool hasJumped() const noexcept { return jumped; }             // the block does not continue the last one
+    bool hasSongJumped() const noexcept { return songJumped; }     // the same, for who reads `getSongPpq`
     bool hasStateChanged() const noexcept { return stateChanged; } // playing differs from the last block
     double getTempo() const noexcept; // quarter notes a minute, 100 if none is known
     double getPpqPerSample() const noexcept { return ppqPerSample; }
@@ -55,7 +56,7 @@ public:
     std::span<const double> getPpqBySample() const noexcept { return ppqBySample; }
 
     /** The same as the song goes on behind the end of the host's loop: at the loop's start. A host that does not cut
-        its blocks there tells of it with its next block only.
+        its blocks there tells of it with its next block only, which is no jump to who has gone on here.
     */
     std::span<const double> getSongPpq() const noexcept { return loopsInside ? songPpq : ppqBySample; }
 
@@ -65,12 +66,13 @@ public:
 private:
     void follow (const PositionInfo& host) noexcept;
     void updateRate() noexcept;
-    bool isAwayFrom (std::int64_t time) const noexcept;
+    bool isAwayFrom (std::int64_t expected) const noexcept;
     void fillPlaying (int numSamples) noexcept;
     void fillSong() noexcept;
     double wrapIntoLoop (double ppq) const noexcept;
 
     bool jumped = false;
+    bool songJumped = false;
     bool stateChanged = false;
     bool wasPlaying = false;
     double startPpq = 0.0, endPpq = 0.0; // quarter notes
@@ -81,6 +83,7 @@ private:
     std::vector<double> ppqBySample; // quarter notes, one a sample of the block
     std::vector<double> songPpq;     // the same, if the song wraps inside the block
     bool loopsInside = false;
+    std::int64_t loopLength = 0; // samples, of the loop that the song wraps in
     PositionInfo info;
     LoopPoints loop; // quarter notes; empty unless the host loops
 };

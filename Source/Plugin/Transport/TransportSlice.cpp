@@ -21,7 +21,7 @@ TransportSlice::TransportSlice (const InternalPlayHead& clock, BlockSlice run) n
     , offset (std::clamp (run.start, 0, blockSizeOf (clock)))
     , length (std::clamp (run.length, 0, blockSizeOf (clock) - offset))
 {
-    jumped = offset == 0 && clock.hasJumped();
+    jumped = offset == 0 && clock.hasSongJumped();
     stateChanged = offset == 0 && clock.hasStateChanged();
 }
 
