@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Sourced by ./run, ./test and Tools/check.sh: the project's `root`, and how a preset is configured and built.
+# Sourced by ./run, ./test, ./package and the scripts in Tools: the project's `root`, and how a preset is configured and built.
 
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 

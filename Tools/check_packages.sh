@@ -86,7 +86,8 @@ rm -rf "$used"
 cp --archive "$bare" "$used"
 cp /etc/resolv.conf "$used/etc"
 mount -t proc proc "$used/proc"
-mkdir -p "$used/dev/shm" "$used/tmp/.X11-unix" /tmp/.X11-unix
+mkdir -p "$used/dev/shm" "$used/tmp/.X11-unix"
+mkdir -p -m 1777 /tmp/.X11-unix # as the X servers of every user need it
 mount -t tmpfs tmpfs "$used/dev/shm"
 mount --bind /tmp/.X11-unix "$used/tmp/.X11-unix"
 

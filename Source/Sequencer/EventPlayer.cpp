@@ -13,7 +13,8 @@ constexpr std::size_t maxNotes = 4096, maxMarks = 256; // overlapping one run; m
 constexpr double markWindow = 0.001;              // quarter notes from a mark's start in which it is passed
 constexpr int lastFlushedRow = Cell::numRows - 2; // going back leaves the highest row to the sweep
 
-// Clocks round their positions to 2^-30 of a quarter note. What lies before a sample by no more than that stands on it.
+// Clocks round their positions to 2^-30 of a quarter note. What lies before a sample by less than two of these stands
+// on it.
 constexpr double clockRounding = 1.0 / (1 << 29); // quarter notes
 
 constexpr float softest = 0.01f; // velocities below still sound, at the lowest byte

@@ -11,6 +11,6 @@ namespace Zn::Sequencer
 struct PlayPosition
 {
     std::atomic<double> position { -1.0 }; // quarter notes in the emitter, -1 silent; audio to GUI
-    std::atomic<bool> fired { false };     // a mark was passed; set: audio, cleared: GUI
+    std::atomic<bool> fired { false };     // a mark was passed; set: audio, cleared by who has seen it
 };
 } // namespace Zn::Sequencer

@@ -1,5 +1,6 @@
 #include "SoundInput.h"
 
+#include "Foundation/NativePath.h"
 #include "Support/Errors.h"
 #include "Synth/Formats/TONQ/Format.h"
 #include "Synth/Formats/TONQ/Header.h"
@@ -107,7 +108,7 @@ void SoundInput::checkFile() const
 {
     namespace fs = std::filesystem;
     std::error_code ignored;
-    const auto status = fs::status (file.getFullPathName().toStdString(), ignored);
+    const auto status = fs::status (nativePath (file), ignored);
 
     if (! fs::exists (status))
         fail ("does not exist");

@@ -1,6 +1,7 @@
 #include "MidiFileSource.h"
 
 #include "Errors.h"
+#include "Foundation/NativePath.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -46,7 +47,7 @@ std::string nameOf (const juce::File& file)
 std::vector<std::uint8_t> bytesOf (const juce::File& file)
 {
     std::error_code ignored;
-    const auto path = std::filesystem::path (nameOf (file));
+    const auto path = nativePath (file);
 
     if (! std::filesystem::exists (path, ignored))
         throw FileError ("does not exist");

@@ -1,5 +1,6 @@
 #include "Support/OutputFile.h"
 
+#include "Foundation/NativePath.h"
 #include "Support/Errors.h"
 
 #include <cerrno>
@@ -84,10 +85,7 @@ void OutputFile::finish()
     throwIfFailed();
 
     std::error_code problem;
-    const auto pathOf = [] (const juce::File& f) {
-        return std::filesystem::path (f.getFullPathName().toStdString());
-    };
-    std::filesystem::rename (pathOf (temporary.getFile()), pathOf (target), problem);
+    std::filesystem::rename (nativePath (temporary.getFile()), nativePath (target), problem);
 
     if (problem)
         fail (reason (problem.value()));
@@ -102,7 +100,7 @@ void OutputFile::checkTarget() const
 {
     namespace fs = std::filesystem;
     std::error_code ignored;
-    const auto status = fs::status (target.getFullPathName().toStdString(), ignored);
+    const auto status = fs::status (nativePath (target), ignored);
 
     if (fs::is_directory (status))
         fail ("cannot be written: it is a directory");

@@ -1,5 +1,6 @@
 #include "GUI/Presets/PresetActions.h"
 
+#include "Foundation/Trash.h"
 #include "GUI/Presets/SaveTarget.h"
 #include "GUI/Presets/SoundRandomiser.h"
 #include "Presets/PresetFile.h"
@@ -10,15 +11,6 @@ namespace Zn::GUI
 namespace
 {
 constexpr auto indent = 4;
-
-bool moveToBin (const juce::File& file)
-{
-#if JUCE_LINUX || JUCE_BSD
-    juce::File ("~/.local/share/Trash/files").createDirectory(); // where nobody has thrown away anything yet
-#endif
-
-    return file.moveToTrash();
-}
 
 nlohmann::json documentFrom (const juce::String& text)
 {
@@ -194,7 +186,7 @@ juce::String PresetActions::remove (const juce::File& file)
     if (! isOwnFile (getLibrary(), file))
         return "Only your own presets can be deleted.";
 
-    if (! moveToBin (file))
+    if (! moveToTrash (file))
         return "The file could not be moved to the bin.";
 
     getLibrary().rescan();

@@ -1,8 +1,7 @@
 #include "Sequencer/MidiPlayer/ReadResource.h"
 
+#include "Foundation/NativePath.h"
 #include "Sequencer/MidiPlayer/ChordFiles.h"
-
-#include <filesystem>
 
 namespace Zn::Sequencer::MidiPlayer
 {
@@ -17,7 +16,7 @@ std::span<const std::byte> bytesOf (const juce::MemoryBlock& content)
 bool isSmallRegularFile (const juce::String& path)
 {
     std::error_code error;
-    const auto native = std::filesystem::path (path.toStdString());
+    const auto native = nativePath (juce::File (path));
 
     return std::filesystem::is_regular_file (native, error)
            && std::filesystem::file_size (native, error) <= largestFile && ! error;

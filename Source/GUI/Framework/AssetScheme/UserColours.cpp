@@ -1,5 +1,6 @@
 #include "GUI/Framework/AssetScheme/UserColours.h"
 
+#include "Foundation/Trash.h"
 #include "GUI/Framework/AssetScheme/Base.h"
 
 namespace Zn::GUI::AssetScheme
@@ -18,11 +19,7 @@ void UserColours::reset()
 {
     const auto& file = watcher.getFile();
 
-#if JUCE_LINUX || JUCE_BSD
-    juce::File ("~/.local/share/Trash/files").createDirectory(); // where nobody has thrown away anything yet
-#endif
-
-    if (file.existsAsFile() && ! file.moveToTrash())
+    if (file.existsAsFile() && ! moveToTrash (file))
         file.deleteFile();
 
     watcher.check();
