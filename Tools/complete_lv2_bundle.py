@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Completes the LV2 bundle that JUCE has described: with the factory presets, in the list that hosts keep themselves.
+"""Completes the LV2 bundle that JUCE has described: with the factory presets, in the list that hosts keep themselves,
+with what the values of parameters in whole numbers are called, and with the licence.
 
     complete_lv2_bundle.py FACTORY BUNDLE URI [--patterns]
 
@@ -63,6 +64,17 @@ def state_of(kind, document):
     text = json.dumps(present, ensure_ascii=False, separators=(",", ":")).encode() + b"\0"
     return b"VC2!" + pack("<i", len(text)) + text
 
+
+# JUCE's parameters go from 0 to 1; of those with named choices it writes the names itself.
+WHOLE_NUMBERS = {
+    "Transpose": (-12, 12),
+    "Octave": (-3, 3),
+    "Unison-Voice": (1, 2),
+    "Sub-Octave": (-3, 3),
+    **{f"OSC-{oscillator}-Tune": (-24, 24) for oscillator in range(4)},
+}
+
+LICENCE = "https://spdx.org/licenses/GPL-3.0-or-later"
 
 PREFIXES = """@prefix lv2: <http://lv2plug.in/ns/lv2core#> .
 @prefix pset: <http://lv2plug.in/ns/ext/presets#> .
@@ -138,6 +150,13 @@ def state_property(uri):
     )
 
 
+def name_values(description, parameter, lowest, highest):
+    points = (f'[\n\t\trdfs:label "{value}" ;\n\t\trdf:value {(value - lowest) / (highest - lowest):.6g} ;\n\t]'
+              for value in range(lowest, highest + 1))
+    end = re.compile(rf"(?<=\nplug:{parameter}\n)((?:\t.*;\n)+\tlv2:maximum 1\.0) \.\n")
+    replace_once(description, end, rf"\1 ;\n\tlv2:scalePoint {', '.join(points)} .\n")
+
+
 def complete(presets, bundle, uri, has_sound):
     folder = bundle / "presets"
     shutil.rmtree(folder, ignore_errors=True)
@@ -155,6 +174,11 @@ def complete(presets, bundle, uri, has_sound):
 
     with open(bundle / "dsp.ttl", "a", encoding="utf-8") as description:
         description.write(state_property(uri))
+
+    for parameter, (lowest, highest) in WHOLE_NUMBERS.items():
+        name_values(bundle / "dsp.ttl", parameter, lowest, highest)
+
+    replace_once(bundle / "dsp.ttl", re.compile("(?=\tdoap:name )"), f"\tdoap:license <{LICENCE}> ;\n")
 
     if not has_sound:
         replace_once(bundle / "dsp.ttl", re.compile("\ta lv2:Plugin ;"), "\ta lv2:MIDIPlugin , lv2:Plugin ;")

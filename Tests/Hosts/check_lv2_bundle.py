@@ -7,6 +7,7 @@ CLASS is the class's name, PRESETS the number of presets.
 """
 
 import os
+import re
 import subprocess
 import sys
 from pathlib import Path
@@ -37,6 +38,15 @@ def listed_presets(info):
     return [line.strip() for line in lines if line.strip()]
 
 
+def unnamed_defaults(description):
+    """Parameters whose values have names, but not that with which they begin."""
+    for parameter, text in re.findall(r"^plug:(\S+)\n((?:\t.*\n)+)", description, re.MULTILINE):
+        named = re.findall(r"rdf:value (\S+)", text)
+        default = re.search(r"lv2:default (\S+)", text)
+        if named and float(default[1]) not in map(float, named):
+            yield parameter
+
+
 def faults_of(bundle, uri, plugin_class, num_presets):
     turtles = sorted(bundle.rglob("*.ttl"))
 
@@ -53,6 +63,9 @@ def faults_of(bundle, uri, plugin_class, num_presets):
         yield f"lv2_validate did not run: {report.strip()}"
 
     yield from unknown_errors(report)
+
+    for parameter in unnamed_defaults((bundle / "dsp.ttl").read_text(encoding="utf-8")):
+        yield f"the default of {parameter} is none of its named values"
 
     _, found = output_of("lv2ls", LV2_PATH=str(bundle.parent))
 
