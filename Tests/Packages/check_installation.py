@@ -58,6 +58,15 @@ class Installation(unittest.TestCase):
         self.assertEqual(files_in(self.folder / "staged"), {f"usr/{name}" for name in staged})
         self.assertNotIn("@", (self.staged / "share/man/man1/vornel.1").read_text(encoding="utf-8"))
 
+    def test_programs_say_what_they_cannot_do(self):
+        for program, arguments, status in (*((program, ["--frobnicate"], 2) for program in PROGRAMS),
+                                           ("vornel", ["song.json"], 2), ("vornel", [], 1)):
+            with self.subTest(program, arguments=arguments):
+                result = subprocess.run([self.staged / "bin" / program, *arguments], env=os.environ | {"DISPLAY": ""},
+                                        capture_output=True, timeout=60, text=True, check=False)
+                self.assertEqual(result.returncode, status)
+                self.assertRegex(result.stderr, f"^{program}: there is no ")
+
     def test_describes_itself_to_desktops(self):
         for program, *arguments, file in (
                 ("desktop-file-validate", "applications/example.brenvik.vornel.desktop"),

@@ -13,6 +13,7 @@
 
 #include <iostream>
 #include <memory>
+#include <optional>
 
 namespace Zn::Audio
 {
@@ -115,10 +116,15 @@ public:
 
     void initialise (const juce::String&) override
     {
-        if (explain (getCommandLineParameterArray()))
+        if (const auto status = answer (getCommandLineParameterArray()))
+        {
+            setApplicationReturnValue (*status);
             quit();
+        }
         else
+        {
             open();
+        }
     }
 
     void shutdown() override
@@ -143,20 +149,34 @@ public:
     }
 
 private:
-    /** What words on the command line ask for needs no window. */
-    bool explain (const juce::StringArray& words)
+    /** How the program ends where no window is to be opened. */
+    std::optional<int> answer (const juce::StringArray& words)
     {
-        if (words.contains ("--help"))
-            std::cout << "Usage: vornel\n\n"
+        constexpr auto noDisplay = 1, badWord = 2;
+
+        if (words.size() == 1 && words[0] == "--help")
+            std::cout << "Usage: vornel [--help | --version]\n\n"
                          "Opens the window of Vornel, an arpeggiator that you draw.\n\n"
                          "  --help     print this\n"
-                         "  --version  print the version\n";
-        else if (words.contains ("--version"))
+                         "  --version  print the version\n\n"
+                         "Exit status: 0 done, 1 there is no display, 2 wrong arguments.\n";
+        else if (words.size() == 1 && words[0] == "--version")
             std::cout << "vornel " << getApplicationVersion() << '\n';
+        else if (! words.isEmpty())
+            return refuse ("there is no '" + words.joinIntoString (" ") + "'; --help shows what there is",
+                           badWord);
+        else if (juce::Desktop::getInstance().getDisplays().displays.isEmpty())
+            return refuse ("there is no display to open a window on", noDisplay);
         else
-            return false;
+            return {};
 
-        return true;
+        return 0;
+    }
+
+    static int refuse (const juce::String& why, int status)
+    {
+        std::cerr << "vornel: " << why << '\n';
+        return status;
     }
 
     void open()
