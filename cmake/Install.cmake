@@ -113,9 +113,14 @@ if (RSVG_CONVERT)
     add_dependencies (programs icons)
 endif()
 
+# Beside the documents that it links to.
+file (READ "${PROJECT_SOURCE_DIR}/CHANGELOG.md" changelog)
+string (REPLACE "](Docs/" "](" changelog "${changelog}")
+file (WRITE "${PROJECT_BINARY_DIR}/packaging/CHANGELOG.md" "${changelog}")
+
 install (DIRECTORY "${PROJECT_SOURCE_DIR}/Docs/" "${PROJECT_SOURCE_DIR}/Examples"
          DESTINATION "${CMAKE_INSTALL_DOCDIR}"
          COMPONENT documentation)
-install (FILES "${PROJECT_SOURCE_DIR}/CHANGELOG.md" "${PROJECT_SOURCE_DIR}/packaging/copyright"
+install (FILES "${PROJECT_BINARY_DIR}/packaging/CHANGELOG.md" "${PROJECT_SOURCE_DIR}/packaging/copyright"
          DESTINATION "${CMAKE_INSTALL_DOCDIR}"
          COMPONENT documentation)

@@ -5,6 +5,7 @@
 """
 
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -66,6 +67,11 @@ class Installation(unittest.TestCase):
                                         capture_output=True, timeout=60, text=True, check=False)
                 self.assertEqual(result.returncode, status)
                 self.assertRegex(result.stderr, f"^{program}: there is no ")
+
+    def test_documents_lead_to_what_is_there(self):
+        for document in (self.staged / "share/doc").rglob("*.md"):
+            for link in re.findall(r"\]\(([^)#:]+)[)#]", document.read_text(encoding="utf-8")):
+                self.assertTrue((document.parent / link).exists(), f"{document.name}: {link}")
 
     def test_describes_itself_to_desktops(self):
         for program, *arguments, file in (

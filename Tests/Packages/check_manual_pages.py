@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Judges the manual pages of programs by what the programs tell with --help: each option and command, with what it
-takes, is in both.
+takes, and each exit status is in both.
 
     check_manual_pages.py FOLDER PROGRAM...
 """
@@ -31,13 +31,14 @@ def words_of(line):
 def told_by_page(page):
     lines = page.read_text(encoding="utf-8").splitlines()
     heads = [words_of(line) for before, line in zip(lines, lines[1:]) if before == ".TP"]
-    return {head for head in heads if CALL.match(head)}
+    return {head for head in heads if CALL.match(head) or head.isdigit()}
 
 
 def told_by(program):
     text = subprocess.run([program, "--help"], text=True, capture_output=True, check=True, timeout=60).stdout
     calls = re.findall(r"^  (\S.*?)(?:  .*)?$", text, re.MULTILINE)
-    return {call.strip() for call in calls if CALL.match(call)}
+    statuses = re.findall(r"\b\d+\b", text.partition("\nExit status:")[2])
+    return {call.strip() for call in calls if CALL.match(call)} | set(statuses)
 
 
 def faults_of(page, program):

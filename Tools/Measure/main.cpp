@@ -11,7 +11,7 @@ namespace
 constexpr auto heading = R"(# The sound in numbers
 
 Written by `vornel-measure`, at 48 kHz, without the vector instructions unless a section says so; see
-[CONTRIBUTING.md](../CONTRIBUTING.md) for how to make it anew. Levels are in decibels; 0 dBFS is a sample of 1.
+`CONTRIBUTING.md` in the sources for how to make it anew. Levels are in decibels; 0 dBFS is a sample of 1.
 )";
 }
 

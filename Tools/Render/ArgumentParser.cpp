@@ -262,6 +262,7 @@ std::string helpText()
         text += '\n';
     }
 
-    return text + "\nExit status: 0 done, 1 a file cannot be read or written, 2 wrong arguments.\n";
+    return text + "\nExit status: 0 done, 1 a file cannot be read or written, 2 wrong arguments,\n"
+           "130 interrupted.\n";
 }
 } // namespace Zn::Render
