@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Uses the standalone program as somebody does who has just started it: draws notes, hears them, changes their
-velocity and chance, saves the pattern under a name, finds it again, and takes an edit back.
+velocity and chance, saves the pattern under a name, finds it again, takes an edit back, and looks at the devices.
 
     check_standalone.py PROGRAM SCHEME [PICTURES]
 
@@ -28,7 +28,7 @@ from x11 import Display, Unavailable
 PROGRAMS = {"Xvfb": "xvfb", "jackd": "jackd2", "jack_rec": "jackd2"}  # and their packages
 PAGE = ("Main", "ArpHeader", "ArpParamModule", "BrushModule", "SoundModule", "Popups")  # the scheme's files
 ROWS, COLUMNS = 16, 16  # of the roll as it opens
-SMALLEST = 800  # pixels across, of an editor
+SMALLEST, DIALOGUE = 800, 400  # pixels across, of an editor and of the dialogue for devices
 
 
 class Editor:
@@ -193,6 +193,21 @@ def use(editor, environment, folder):
     editor.show("8-undone")
 
 
+def look_at_devices(editor):
+    """Their dialogue has the editor's font, so that it can be read where none is installed."""
+    display, place = editor.display, editor.display.place_of(editor.window)
+    before = set(display.windows())
+    display.click(editor.x + place[2] * 0.1, editor.y + place[3] * 0.926)
+    dialogue = wait_for(lambda: next((w for w in display.windows() if w not in before
+                                      and display.place_of(w)[2] >= DIALOGUE), None), "the dialogue for devices")
+    display.flush(1.0)
+    editor.show("9-devices")
+    x, y, width, height = display.place_of(dialogue)
+    demand_that(len(display.colours_in(x, y, width // 3, height)) > 10, "the dialogue for devices has no labels")
+    display.focus(dialogue)
+    display.press("Escape")
+
+
 def check(program, scheme, pictures):
     demand(PROGRAMS)
 
@@ -202,10 +217,12 @@ def check(program, scheme, pictures):
         choose_jack(folder)
 
         with jack_server(server, environment, folder), display_in(folder) as display:
-            environment["DISPLAY"] = display.name
+            environment |= {"DISPLAY": display.name, "JUCE_FONT_PATH": str(folder / "no fonts")}
 
             with running([program], environment, folder) as running_program:
-                use(Editor(display, scheme, pictures), environment, folder)
+                editor = Editor(display, scheme, pictures)
+                use(editor, environment, folder)
+                look_at_devices(editor)
                 demand_that(running_program.poll() is None, "the program ended by itself")
 
 

@@ -118,8 +118,8 @@ class Display:
         for letter in text:
             self.press("space" if letter == " " else letter)
 
-    def picture(self, path):
-        """Saves the screen as a PNG."""
+    def rows(self):
+        """What the screen shows: red, green, blue of one pixel after the other."""
         dump = self.frame.read_bytes()
         header = struct.unpack(">25I", dump[:100])
         size, width, height, line, colours = header[0], header[4], header[5], header[12], header[19]
@@ -130,14 +130,23 @@ class Display:
             pixels = dump[start + y * line : start + y * line + width * 4]
             row = bytearray(width * 3)
             row[0::3], row[1::3], row[2::3] = pixels[2::4], pixels[1::4], pixels[0::4]
-            rows.append(b"\0" + bytes(row))
+            rows.append(bytes(row))
+
+        return rows
+
+    def colours_in(self, x, y, width, height):
+        return {row[i : i + 3] for row in self.rows()[y : y + height] for i in range(3 * x, 3 * (x + width), 3)}
+
+    def picture(self, path):
+        """Saves the screen as a PNG."""
+        rows = self.rows()
 
         def chunk(kind, content):
             return struct.pack(">I", len(content)) + kind + content + struct.pack(">I", zlib.crc32(kind + content))
 
         Path(path).write_bytes(
             b"\x89PNG\r\n\x1a\n"
-            + chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0))
-            + chunk(b"IDAT", zlib.compress(b"".join(rows), 6))
+            + chunk(b"IHDR", struct.pack(">IIBBBBB", len(rows[0]) // 3, len(rows), 8, 2, 0, 0, 0))
+            + chunk(b"IDAT", zlib.compress(b"".join(b"\0" + row for row in rows), 6))
             + chunk(b"IEND", b"")
         )

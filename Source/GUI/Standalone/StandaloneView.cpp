@@ -16,6 +16,12 @@ int withStrip (int editorHeight)
 }
 } // namespace
 
+StandaloneView::UsualSize::UsualSize()
+{
+    const auto [width, height] = Page::defaultSize();
+    setSize (width, height);
+}
+
 StandaloneView::StandaloneView (std::unique_ptr<juce::AudioProcessorEditor> editorToShow,
                                 Page& pageOfEditor,
                                 CallbackFunc showDevices)
@@ -25,6 +31,7 @@ StandaloneView::StandaloneView (std::unique_ptr<juce::AudioProcessorEditor> edit
 {
     setOpaque (true);
     setWantsKeyboardFocus (true);
+    juce::LookAndFeel::setDefaultLookAndFeel (&look);
     strip.setLookAndFeel (&page.getLookAndFeel());
     addAndMakeVisible (*editor);
     addAndMakeVisible (strip);
@@ -33,6 +40,7 @@ StandaloneView::StandaloneView (std::unique_ptr<juce::AudioProcessorEditor> edit
 
 StandaloneView::~StandaloneView()
 {
+    juce::LookAndFeel::setDefaultLookAndFeel (nullptr);
     strip.setLookAndFeel (nullptr);
     editor->processor.editorBeingDeleted (editor.get());
 }

@@ -8,7 +8,7 @@
 namespace Zn::GUI
 {
 /** What the window of the program shows: the editor, and below it the keyboard strip. The editor's keys act wherever
-    the focus is. Thread: message.
+    the focus is. While it is there, JUCE's own dialogues look like the editor. Thread: message.
 */
 class StandaloneView : public juce::Component
 {
@@ -31,7 +31,18 @@ public:
     void childBoundsChanged (juce::Component* child) override;
 
 private:
+    struct UsualSize : juce::Component
+    {
+        UsualSize();
+    };
+
     Page& page;
+
+    // Of the dialogues that JUCE opens in windows of their own: as in an editor of the usual size.
+    UsualSize usual;
+    AssetScheme::Canvas canvas { usual };
+    EditorLook look { canvas };
+
     std::unique_ptr<juce::AudioProcessorEditor> editor;
     KeyboardStrip strip;
     bool isLayingOut = false;

@@ -107,6 +107,17 @@ void EditorLook::drawPopupMenuBackground (juce::Graphics& g, int width, int heig
     paintCard (g, canvas, { width, height });
 }
 
+void EditorLook::drawPopupMenuBackgroundWithOptions (juce::Graphics& g,
+                                                     int width,
+                                                     int height,
+                                                     const juce::PopupMenu::Options& options)
+{
+    if (options.getParentComponent() == nullptr) // a window, which may not be able to have round corners
+        g.fillAll (colour ("Popup"));
+
+    drawPopupMenuBackground (g, width, height);
+}
+
 void EditorLook::drawPopupMenuItem (juce::Graphics& g,
                                     const juce::Rectangle<int>& area,
                                     bool isSeparator,
@@ -222,11 +233,54 @@ void EditorLook::preparePopupMenuWindow (juce::Component& window)
 }
 
 //======================================================================================================================
+void EditorLook::paintField (juce::Graphics& g, juce::Rectangle<float> area, juce::Colour fill) const
+{
+    g.setColour (fill);
+    g.fillRoundedRectangle (area, fieldCornerOf (canvas, area));
+}
+
+void EditorLook::drawButtonBackground (
+    juce::Graphics& g, juce::Button& button, const juce::Colour&, bool isOver, bool isDown)
+{
+    const auto* const fill = isDown ? "ControlPressed" : isOver ? "ControlHover" : "Control";
+    paintField (g, button.getLocalBounds().toFloat(), colour (fill));
+}
+
+void EditorLook::drawComboBox (
+    juce::Graphics& g, int width, int height, bool isDown, int, int, int, int, juce::ComboBox& box)
+{
+    auto area = juce::Rectangle<int> (width, height).toFloat();
+    const auto isOver = box.isEnabled() && box.isMouseOver (true);
+    paintField (g, area, colour (isDown ? "ControlPressed" : isOver ? "ControlHover" : "Control"));
+
+    const auto side = canvas.pixelsOf ("IconSizeSmall");
+    area.removeFromRight (canvas.pixelsOf ("ControlInset"));
+    down.paint (g,
+                area.removeFromRight (side).withSizeKeepingCentre (side, side),
+                colour (box.isEnabled() ? "TextSecondary" : "TextDisabled"));
+}
+
+void EditorLook::drawTickBox (juce::Graphics& g,
+                              juce::Component&,
+                              float x,
+                              float y,
+                              float width,
+                              float height,
+                              bool isTicked,
+                              bool isEnabled,
+                              bool,
+                              bool)
+{
+    const juce::Rectangle<float> area (x, y, width, height);
+    paintField (g, area, colour ("Control"));
+
+    if (isTicked)
+        tick.paint (g, area, colour (isEnabled ? "Pattern" : "TextDisabled"));
+}
+
 void EditorLook::fillTextEditorBackground (juce::Graphics& g, int width, int height, juce::TextEditor&)
 {
-    const auto area = juce::Rectangle<int> (width, height).toFloat();
-    g.setColour (colour ("Inset"));
-    g.fillRoundedRectangle (area, fieldCornerOf (canvas, area));
+    paintField (g, juce::Rectangle<int> (width, height).toFloat(), colour ("Inset"));
 }
 
 void EditorLook::drawTextEditorOutline (juce::Graphics& g, int width, int height, juce::TextEditor& field)

@@ -9,8 +9,8 @@
 
 namespace Zn::GUI
 {
-/** How the parts that JUCE brings look in our editor: menus, text fields, scroll bars, lists and the file browsers of
-    systems without one. Fonts and colours are those of the scheme.
+/** How the parts that JUCE brings look in our editor: menus, text fields, scroll bars, lists, the file browsers of
+    systems without one, and the dialogue for devices. Fonts and colours are those of the scheme.
 
     The heading of a menu may have a second, quieter line. Thread: message.
 */
@@ -29,6 +29,10 @@ public:
                                     int& idealWidth,
                                     int& idealHeight) override;
     void drawPopupMenuBackground (juce::Graphics& g, int width, int height) override;
+    void drawPopupMenuBackgroundWithOptions (juce::Graphics& g,
+                                             int width,
+                                             int height,
+                                             const juce::PopupMenu::Options& options) override;
     void drawPopupMenuItem (juce::Graphics& g,
                             const juce::Rectangle<int>& area,
                             bool isSeparator,
@@ -49,6 +53,31 @@ public:
     void
     fillTextEditorBackground (juce::Graphics& g, int width, int height, juce::TextEditor& field) override;
     void drawTextEditorOutline (juce::Graphics& g, int width, int height, juce::TextEditor& field) override;
+
+    void drawButtonBackground (juce::Graphics& g,
+                               juce::Button& button,
+                               const juce::Colour& usual,
+                               bool isOver,
+                               bool isDown) override;
+    void drawComboBox (juce::Graphics& g,
+                       int width,
+                       int height,
+                       bool isDown,
+                       int buttonX,
+                       int buttonY,
+                       int buttonWidth,
+                       int buttonHeight,
+                       juce::ComboBox& box) override;
+    void drawTickBox (juce::Graphics& g,
+                      juce::Component& owner,
+                      float x,
+                      float y,
+                      float width,
+                      float height,
+                      bool isTicked,
+                      bool isEnabled,
+                      bool isOver,
+                      bool isDown) override;
 
     void drawScrollbar (juce::Graphics& g,
                         juce::ScrollBar& bar,
@@ -75,6 +104,7 @@ public:
 
 private:
     void update();
+    void paintField (juce::Graphics& g, juce::Rectangle<float> area, juce::Colour fill) const;
     float menuItemInset() const;
 
     AssetScheme::Canvas& canvas;
