@@ -2,15 +2,11 @@
 """Calls vornel-presets as a user does: preset_tool_tests.py PROGRAM"""
 
 import json
-import os
 import re
-import subprocess
 import sys
-import tempfile
 import unittest
-from pathlib import Path
 
-PROGRAM = Path(sys.argv[1])
+from tool_calls import ToolTest
 
 STEP = {"Event": {"channel": 1, "noteNum": 64, "velocity": 0.5}, "Time": {"start": 0.25, "length": 0.5}, "enabled": True}
 OFF = {"Event": {"noteNum": 66}, "Time": {"start": 0.75, "length": 0.25}, "enabled": False}
@@ -27,19 +23,14 @@ PATTERN = {
 SOUND = {"version": "0.0.0", "product": "Vornel Sounds", "Params": {"Master": "-3.19 dB"}}
 
 
-class PresetTool(unittest.TestCase):
+class PresetTool(ToolTest):
     def setUp(self):
-        scratch = tempfile.TemporaryDirectory()
-        self.addCleanup(scratch.cleanup)
-        self.folder = Path(scratch.name)
+        super().setUp()
         self.home = self.folder / "home"
         (self.home / ".config").mkdir(parents=True)
         (self.home / ".config" / "user-dirs.dirs").write_text('XDG_DOCUMENTS_DIR="$HOME/Documents"\n')
-
-    def call(self, *arguments):
-        home = {"HOME": str(self.home), "XDG_CONFIG_HOME": str(self.home / ".config"), "TMPDIR": str(self.folder)}
-        return subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, text=True, timeout=120,
-                              env={**os.environ, **home})
+        self.environment = {"HOME": str(self.home), "XDG_CONFIG_HOME": str(self.home / ".config"),
+                            "TMPDIR": str(self.folder)}
 
     def output(self, *arguments, status=0):
         result = self.call(*arguments)
@@ -57,11 +48,9 @@ class PresetTool(unittest.TestCase):
 
         for arguments, message in (
                 ((), "which command"), (("frobnicate",), "no command"), (("show",), "wants FILE"),
-                (("list", "x"), "no files"), (("show", "--check", "x"), "knows no"), (("diff", "x"), "wants A B")):
+                (("list", "x"), "no files"), (("show", "--check", "x"), "no '--check'"), (("diff", "x"), "wants A B")):
             with self.subTest(arguments=arguments):
-                result = self.call(*arguments)
-                self.assertEqual((result.returncode, result.stdout), (2, ""))
-                self.assertIn(message, result.stderr)
+                self.expect_failure(2, message, *arguments)
 
     def test_tells_why_a_file_is_refused(self):
         for content, reason in (

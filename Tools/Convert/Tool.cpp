@@ -1,10 +1,10 @@
 #include "Tool.h"
 
 #include "Conversion.h"
+#include "Support/Arguments.h"
 #include "Support/Errors.h"
 
 #include <iostream>
-#include <vector>
 
 namespace Zn::TonqTool
 {
@@ -41,37 +41,9 @@ Exit status: 0 done, 1 a file is refused, or cannot be read or written, 2 wrong 
 interrupted.
 )";
 
-struct Arguments
+Tools::Arguments argumentsOf (std::span<const std::string> words)
 {
-    std::vector<juce::File> files;
-    bool isForced = false;
-};
-
-juce::File fileFrom (const std::string& text)
-{
-    if (text.empty())
-        throw ArgumentError ("a file needs a name");
-
-    return juce::File::getCurrentWorkingDirectory().getChildFile (juce::String::fromUTF8 (text.c_str()));
-}
-
-/** Everything behind "--" is a file. */
-Arguments argumentsOf (std::span<const std::string> words)
-{
-    Arguments arguments;
-    auto onlyFiles = false;
-
-    for (const auto& word : words)
-    {
-        if (onlyFiles || ! word.starts_with ('-'))
-            arguments.files.push_back (fileFrom (word));
-        else if (word == "--")
-            onlyFiles = true;
-        else if (word == "--force")
-            arguments.isForced = true;
-        else
-            throw ArgumentError ("there is no '" + word + "'; --help shows what there is");
-    }
+    auto arguments = Tools::Arguments::from (words, "--force");
 
     if (arguments.files.size() != 2)
         throw ArgumentError ("needs two files, SOURCE and TARGET; --help tells more");
@@ -96,7 +68,7 @@ int run (std::span<const std::string> words, const std::atomic<bool>& interrupte
     const auto arguments = argumentsOf (words);
     const auto& target = arguments.files[1];
 
-    if (! arguments.isForced && target.exists())
+    if (! arguments.hasSwitch && target.exists())
         throw FileError (target.getFullPathName().toStdString()
                          + ": is there already; --force writes over it");
 

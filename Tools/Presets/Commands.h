@@ -1,18 +1,10 @@
 #pragma once
 
-#include <juce_core/juce_core.h>
-
-#include <string>
-#include <vector>
+#include "Support/Arguments.h"
 
 namespace Zn::PresetTool
 {
-/** What stands behind a command: its files, and whether its switch is given. */
-struct Arguments
-{
-    std::vector<juce::File> files;
-    bool hasSwitch = false;
-};
+using Tools::Arguments;
 
 // Each prints its results and returns an exit status: 0 done, 1 not so for one of the files. Throws Refused or
 // std::exception, whose text names the file.

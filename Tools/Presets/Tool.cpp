@@ -103,31 +103,9 @@ const Command& commandOf (const std::string& name)
     return *command;
 }
 
-juce::File fileFrom (const std::string& text)
-{
-    if (text.empty())
-        throw ArgumentError ("a file needs a name");
-
-    return juce::File::getCurrentWorkingDirectory().getChildFile (juce::String::fromUTF8 (text.c_str()));
-}
-
-/** Everything behind "--" is a file. */
 Arguments argumentsOf (const Command& command, std::span<const std::string> words)
 {
-    Arguments arguments;
-    auto onlyFiles = false;
-
-    for (const auto& word : words)
-    {
-        if (onlyFiles || ! word.starts_with ('-'))
-            arguments.files.push_back (fileFrom (word));
-        else if (word == "--")
-            onlyFiles = true;
-        else if (word == command.switchName)
-            arguments.hasSwitch = true;
-        else
-            throw ArgumentError (std::string (command.name) + " knows no '" + word + "'; --help shows all");
-    }
+    auto arguments = Arguments::from (words, command.switchName);
 
     if (arguments.files.size() < command.fewestFiles || arguments.files.size() > command.mostFiles)
         throw ArgumentError (std::string (command.name) + " wants "
