@@ -5,7 +5,7 @@ find_package (JUCE CONFIG REQUIRED)
 find_package (PkgConfig REQUIRED)
 
 # Distributions may build JUCE against the system's codecs and image libraries, which its modules do not name.
-pkg_check_modules (ZN_JUCE_CODECS REQUIRED IMPORTED_TARGET flac vorbisenc vorbisfile vorbis ogg libpng libjpeg)
+pkg_check_modules (ZN_JUCE_CODECS REQUIRED IMPORTED_TARGET flac libpng libjpeg)
 
 add_library (zn_juce STATIC)
 
@@ -48,6 +48,10 @@ set_source_files_properties ("${JUCE_MODULES_DIR}/juce_core/juce_core.cpp"
 set_source_files_properties ("${JUCE_MODULES_DIR}/juce_audio_devices/juce_audio_devices.cpp"
                              PROPERTIES COMPILE_DEFINITIONS JUCE_JACK_CLIENT_NAME="Vornel")
 
+# Nobody here reads or writes Ogg Vorbis.
+set_source_files_properties ("${JUCE_MODULES_DIR}/juce_audio_formats/juce_audio_formats.cpp"
+                             PROPERTIES COMPILE_DEFINITIONS JUCE_USE_OGGVORBIS=0)
+
 # Whatever a program does not use is left out of it.
 target_compile_options (zn_juce PRIVATE -w -ffunction-sections -fdata-sections)
-target_link_options (zn_juce INTERFACE -Wl,--gc-sections)
+target_link_options (zn_juce INTERFACE -Wl,--gc-sections -Wl,--as-needed)

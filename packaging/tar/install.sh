@@ -178,7 +178,7 @@ remove_installed()
 tell_what_is_missing()
 {
     if command -v ldd > /dev/null; then
-        missing=$(ldd "$programs/vornel" 2> /dev/null | sed -n 's/^[[:space:]]*\(.*\) => not found$/  \1/p')
+        missing=$(ldd "$programs"/vornel* 2> /dev/null | sed -n 's/^[[:space:]]*\(.*\) => not found$/  \1/p' | sort -u)
 
         if [ -n "$missing" ]; then
             echo "These libraries have to be installed, too:"
