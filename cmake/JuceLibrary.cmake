@@ -2,18 +2,16 @@
 # -DJUCE_DIR=... chooses another JUCE than the one the system provides.
 
 find_package (JUCE CONFIG REQUIRED)
-find_package (PkgConfig REQUIRED)
-
-# Distributions may build JUCE against the system's codecs and image libraries, which its modules do not name.
-pkg_check_modules (ZN_JUCE_CODECS REQUIRED IMPORTED_TARGET flac libpng libjpeg)
 
 add_library (zn_juce STATIC)
+target_link_libraries (zn_juce PRIVATE juce::juce_audio_utils)
 
-target_link_libraries (zn_juce
-    PRIVATE
-        juce::juce_audio_utils
-    PUBLIC
-        PkgConfig::ZN_JUCE_CODECS)
+# Distributions may build JUCE against the system's codecs and image libraries, which its modules do not name.
+if (NOT APPLE AND NOT WIN32)
+    find_package (PkgConfig REQUIRED)
+    pkg_check_modules (ZN_JUCE_CODECS REQUIRED IMPORTED_TARGET flac libpng libjpeg)
+    target_link_libraries (zn_juce PUBLIC PkgConfig::ZN_JUCE_CODECS)
+endif()
 
 target_compile_definitions (zn_juce
     PUBLIC
@@ -53,5 +51,9 @@ set_source_files_properties ("${JUCE_MODULES_DIR}/juce_audio_formats/juce_audio_
                              PROPERTIES COMPILE_DEFINITIONS JUCE_USE_OGGVORBIS=0)
 
 # Whatever a program does not use is left out of it.
-target_compile_options (zn_juce PRIVATE -w -ffunction-sections -fdata-sections)
-target_link_options (zn_juce INTERFACE -Wl,--gc-sections -Wl,--as-needed)
+target_compile_options (zn_juce PRIVATE -w)
+
+if (NOT APPLE AND NOT WIN32)
+    target_compile_options (zn_juce PRIVATE -ffunction-sections -fdata-sections)
+    target_link_options (zn_juce INTERFACE -Wl,--gc-sections -Wl,--as-needed)
+endif()

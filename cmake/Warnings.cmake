@@ -2,6 +2,11 @@
 
 add_library (zn_warnings INTERFACE)
 
+# Clang takes Visual Studio's words there, and -Wall for everything that it could ever say.
+if (MSVC)
+    return()
+endif()
+
 target_compile_options (zn_warnings INTERFACE
     -Werror -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wdouble-promotion -Wold-style-cast
     -Wcast-align -Wcast-qual -Wnon-virtual-dtor -Woverloaded-virtual -Wextra-semi -Wswitch-enum

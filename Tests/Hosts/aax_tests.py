@@ -17,6 +17,7 @@ ROOT, COMPILER, MODULES = Path(sys.argv[1]), sys.argv[2], Path(sys.argv[3])
 OPTION = """
 cmake_minimum_required (VERSION 3.22)
 set (CMAKE_SYSTEM_NAME {system})
+set (CMAKE_CXX_COMPILER_ID {compiler})
 set (VORNEL_AAX_SDK "{sdk}")
 set (JUCE_MODULES_DIR "{modules}")
 function (juce_set_aax_sdk_path path)
@@ -74,9 +75,10 @@ class Option(Folder):
         switched_off = "\n# warning JUCE/Debian disabled AAX support\n# undef JucePlugin_Build_AAX\n"
         self.settings.write_text(self.settings.read_text().replace(switched_off, "\n"))
 
-    def configure(self, system="Windows", name="Vornel"):
+    def configure(self, system="Windows", name="Vornel", compiler="Clang"):
         script = self.folder / "option.cmake"
-        script.write_text(OPTION.format(root=ROOT, sdk=self.sdk, modules=self.modules, system=system, name=name))
+        script.write_text(OPTION.format(root=ROOT, sdk=self.sdk, modules=self.modules, system=system, name=name,
+                                        compiler=compiler))
         return run("cmake", "-P", script)
 
     def test_takes_a_complete_kit(self):
@@ -107,6 +109,8 @@ class Option(Folder):
 
     def test_knows_where_the_format_exists(self):
         self.assertIn("on Windows and macOS only", self.configure(system="Linux")[1])
+        self.assertIn("choose clang-cl", self.configure(compiler="MSVC")[1])
+        self.assertEqual(self.configure(system="Darwin", compiler="AppleClang")[0], 0)
 
     def test_insists_on_the_name_of_the_midi_output(self):
         self.assertIn('would not call its MIDI output "Vornel Out"', self.configure(name="Other")[1])

@@ -2,6 +2,7 @@
 # format off:
 #
 #   cmake -DVORNEL_AAX_SDK=FOLDER -DJUCE_DIR=FOLDER ...
+#   cmake --build ... --target Vornel_AAX
 
 set (VORNEL_AAX_SDK "" CACHE PATH "Folder of the AAX SDK: given it, the AAX plug-in is built too")
 
@@ -71,6 +72,10 @@ function (zn_add_aax plugin_name)
 
     if (NOT CMAKE_SYSTEM_NAME MATCHES "^(Windows|Darwin)$")
         zn_aax_is_missing ("the format exists on Windows and macOS only")
+    endif()
+
+    if (CMAKE_SYSTEM_NAME STREQUAL "Windows" AND NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        zn_aax_is_missing ("the synthesiser's vectors need Clang: on Windows choose clang-cl, with -T ClangCL or as CC and CXX")
     endif()
 
     juce_set_aax_sdk_path ("${VORNEL_AAX_SDK}")
