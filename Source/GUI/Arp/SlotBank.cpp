@@ -240,7 +240,7 @@ void SlotBank::moveFocus (int from, int step)
     for (auto& tile : tiles)
         tile->setWantsKeyboardFocus (tile->getIndex() == next);
 
-    if (step != 0)
+    if (step != 0 && isShowing())
         tiles[static_cast<std::size_t> (next)]->grabKeyboardFocus();
 }
 
