@@ -1,5 +1,6 @@
 #include "GUI/Arp/SlotBank.h"
 
+#include "GUI/Arp/SlotMenu.h"
 #include "GUI/Framework/AssetScheme/Base.h"
 #include "GUI/Widgets/ValueKeys.h"
 
@@ -179,12 +180,6 @@ void SlotBank::open (int slot)
     showStates();
 }
 
-void SlotBank::learn (int slot)
-{
-    context.learning.setActive (true);
-    context.learning.arm (Learning::Target::forSlot (slot));
-}
-
 void SlotBank::drop (int from, int onto, bool swaps)
 {
     if (swaps)
@@ -199,38 +194,11 @@ void SlotBank::drop (int from, int onto, bool swaps)
 
 void SlotBank::showMenu (SlotTile& tile)
 {
-    const auto slot = tile.getIndex();
-    const auto isEmpty = tile.getPreview().isEmpty();
-    const auto canPaste = slotEdits.canPaste();
-    const auto ellipsis = juce::String::charToString (0x2026);
-    const juce::Component::SafePointer<SlotBank> self (this);
-
-    const auto line =
-        [self] (const juce::String& text, bool isEnabled, std::function<void (SlotBank&)> action) {
-            return juce::PopupMenu::Item (text).setEnabled (isEnabled).setAction (
-                [self, action = std::move (action)] {
-                    if (self != nullptr)
-                        action (*self);
-                });
-        };
-
-    juce::PopupMenu menu;
-    menu.addItem (line ("Copy", ! isEmpty, [slot] (SlotBank& b) { b.slotEdits.copyToClipboard (slot); }));
-    menu.addItem (line ("Paste", canPaste, [slot] (SlotBank& b) { b.slotEdits.paste (slot); }));
-    menu.addItem (
-        line ("Paste as variation", canPaste, [slot] (SlotBank& b) { b.slotEdits.pasteAsVariation (slot); }));
-    menu.addItem (line ("Clear", true, [slot] (SlotBank& b) { b.slotEdits.clear (slot); }));
-    menu.addSeparator();
-    menu.addItem (
-        line ("Save as MIDI" + ellipsis, ! isEmpty, [slot] (SlotBank& b) { b.slotExport.saveAs (slot); }));
-    menu.addItem (line ("Learn MIDI" + ellipsis, true, [slot] (SlotBank& b) { b.learn (slot); }));
-
-    if (const auto target = Learning::Target::forSlot (slot); context.learning.textOf (target).isNotEmpty())
-        menu.addItem (line ("Forget " + context.learning.textOf (target), true, [target] (SlotBank& b) {
-            b.context.learning.forget (target);
-        }));
-
-    context.overlay.showMenu (menu, &tile);
+    const SlotMenuTools tools { .owner = *this,
+                                .edits = slotEdits,
+                                .files = slotExport,
+                                .learning = context.learning };
+    context.overlay.showMenu (slotMenu (tools, tile.getIndex(), tile.getPreview().isEmpty()), &tile);
 }
 
 void SlotBank::moveFocus (int from, int step)

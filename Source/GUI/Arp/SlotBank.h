@@ -39,7 +39,6 @@ private:
 
     void play (int slot);
     void open (int slot);
-    void learn (int slot);
     void drop (int from, int onto, bool swaps);
     void showMenu (SlotTile& tile);
     void moveFocus (int from, int step);
