@@ -2,7 +2,6 @@
 
 #include "GUI/Pattern/NoteClip.h"
 #include "GUI/Pattern/NoteEdits.h"
-#include "Midi/RowToPitchTable.h"
 
 #include <utility>
 
@@ -12,8 +11,6 @@ namespace
 {
 using Audio::Plugins::Vornel::Brush;
 using juce::KeyPress;
-
-constexpr auto rounding = 1.0e-6; // of a column: by so little notes may reach over its lines
 
 /** With no modifier, or with Shift where that makes no difference. */
 bool isPlain (const KeyPress& key)
@@ -48,7 +45,11 @@ RollKeys::RollKeys (EditorContext& contextToUse,
                     PatternEditor& editorToUse,
                     RollTools& toolsToUse,
                     View viewToUse)
-    : context (contextToUse), editor (editorToUse), tools (toolsToUse), view (std::move (viewToUse))
+    : context (contextToUse)
+    , editor (editorToUse)
+    , tools (toolsToUse)
+    , view (std::move (viewToUse))
+    , cell (editor, view.reveal)
 {}
 
 bool RollKeys::press (const KeyPress& key)
@@ -194,7 +195,7 @@ bool RollKeys::pressOther (const KeyPress& key)
     else if (key.isKeyCode (KeyPress::tabKey))
         selectNext (key.getModifiers().isShiftDown());
     else if (key.isKeyCode (KeyPress::returnKey))
-        editCell();
+        cell.edit();
     else
         return false;
 
@@ -204,7 +205,7 @@ bool RollKeys::pressOther (const KeyPress& key)
 void RollKeys::moveSelection (int columns, int rows)
 {
     if (editor.getDrawing().selection.isEmpty())
-        return moveCell (columns, rows);
+        return cell.move (columns, rows);
 
     const auto grid = editor.getGrid();
     editor.nudge (PatternEditor::Nudge::move, "Move notes", [&] (Drawing& drawing) {
@@ -220,22 +221,6 @@ void RollKeys::moveByBeats (int beats)
     const auto quarters = drawing.time.length() * (drawing.multiply ? drawing.grid : 1);
     const auto columns = quarters > 0.0 ? juce::roundToInt (drawing.grid / quarters) : 1;
     moveSelection (beats * std::clamp (columns, 1, drawing.grid), 0);
-}
-
-void RollKeys::moveCell (int columns, int rows)
-{
-    const auto grid = editor.getGrid();
-    const auto& cursor = editor.cellCursor.get();
-    auto cell = cursor.value_or (RollCell { .column = 0, .row = Midi::RowToPitchTable::rowOfLowestNote });
-
-    if (cursor) // the first key only shows it
-    {
-        cell.column = std::clamp (cell.column + columns, 0, grid.columns - 1);
-        cell.row = std::clamp (cell.row + rows, 0, NoteEdits::numRows - 1);
-    }
-
-    editor.cellCursor.set (cell);
-    view.reveal (cell.column * grid.column(), (cell.column + 1) * grid.column(), cell.row);
 }
 
 void RollKeys::lengthen (int columns)
@@ -254,45 +239,6 @@ void RollKeys::changeValue (int percent)
             setValue (event, value, valueOf (event, value) + 0.01f * static_cast<float> (percent));
         });
     });
-}
-
-void RollKeys::editCell()
-{
-    if (! editor.getDrawing().selection.isEmpty())
-        return showCellOf (editor.getDrawing().selection.first());
-
-    const auto cell = editor.cellCursor.get();
-
-    if (! cell)
-        return moveCell (0, 0);
-
-    const auto grid = editor.getGrid();
-    const RollPoint place { (cell->column + 0.5) * grid.column(), cell->row + 0.5 };
-    const auto notes =
-        NoteQueries::notesIn (editor.getDrawing(),
-                              { .from = { (cell->column + rounding) * grid.column(), place.row },
-                                .to = { (cell->column + 1.0 - rounding) * grid.column(), place.row } });
-
-    if (notes.isEmpty())
-        editor.perform ("Draw note", [&] (Drawing& drawing) {
-            const NoteGrid wholeColumns { .columns = grid.columns };
-            NoteEdits::add (drawing, NoteEdits::newNote (drawing, wholeColumns, place));
-        });
-    else
-        editor.perform ("Erase notes", [&] (Drawing& drawing) { NoteEdits::erase (drawing, notes); });
-}
-
-/** In place of the selection, which hides the cursor. */
-void RollKeys::showCellOf (int note)
-{
-    const auto& shown = editor.getDrawing().note (note);
-    const auto grid = editor.getGrid();
-    const auto column =
-        std::clamp (static_cast<int> (shown.time.start / grid.column() + rounding), 0, grid.columns - 1);
-
-    editor.cellCursor.set (RollCell { .column = column, .row = shown.event.noteNum });
-    editor.select ({});
-    moveCell (0, 0);
 }
 
 void RollKeys::selectNext (bool backwards)

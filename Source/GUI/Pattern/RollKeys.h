@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GUI/Pattern/CellCursor.h"
 #include "GUI/Pattern/RollTools.h"
 
 namespace Zn::GUI
@@ -38,11 +39,8 @@ private:
 
     void moveSelection (int columns, int rows);
     void moveByBeats (int beats);
-    void moveCell (int columns, int rows);
     void lengthen (int columns);
     void changeValue (int percent);
-    void editCell();
-    void showCellOf (int note);
     void selectNext (bool backwards);
     void take (Audio::Plugins::Vornel::Brush brush);
     void reveal (int note);
@@ -51,5 +49,6 @@ private:
     PatternEditor& editor;
     RollTools& tools;
     const View view;
+    CellCursor cell;
 };
 } // namespace Zn::GUI
