@@ -108,7 +108,8 @@ void TextPopup::Body::schemeChanged()
     const auto inset = juce::roundToInt (getCanvas().pixelsOf ("PopupInset"));
     const auto colourOf = [] (const char* name) { return AssetScheme::Base::get().colourOf (name); };
 
-    setIndents (inset, inset);
+    setIndents (inset, 0);
+    setBorder ({ inset, 0, inset, 0 }); // an indent at the top is scrolled away by what shows the caret
     setLineSpacing (1.2f);
     clear();
 
