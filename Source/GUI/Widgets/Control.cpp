@@ -81,12 +81,16 @@ void Control::paintLearning (juce::Graphics& g) const
     const auto isArmed = context.learning.isArmed (*target);
     const auto learned = context.learning.textOf (*target);
     const auto isFilled = isArmed || learned.isNotEmpty();
-    const auto place = isFilled ? area() : learnArea();
+    const auto around = learnArea();
+    const auto isDial = around.getWidth() == around.getHeight();
     const auto stroke = pixels ("ThinnerStroke");
+
+    // A name takes all of the control; of a dial as much as leaves its label and its value to be read.
+    const auto plate = isDial ? area().withY (around.getY()).withHeight (around.getHeight()) : area();
+    const auto place = isFilled ? plate.reduced (isDial ? stroke : 0.0f, 0.0f) : around;
     const auto edge = place.reduced (stroke / 2.0f);
-    const auto corner = place.getWidth() == place.getHeight()
-                            ? edge.getWidth() / 2.0f
-                            : context.canvas.cornerOf ("ControlCorner", edge);
+    const auto corner =
+        isDial && ! isFilled ? edge.getWidth() / 2.0f : context.canvas.cornerOf ("ControlCorner", edge);
 
     g.setColour (schemeColour ("LearnDim"));
     g.fillRect (getLocalBounds()); // as all around it
