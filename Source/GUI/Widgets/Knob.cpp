@@ -84,7 +84,14 @@ void Knob::paintControl (juce::Graphics& g)
 {
     const auto& label = shortened ? getText().shortLabel : getText().label;
     paintText (g, label, font, labelLine.toFloat(), juce::Justification::centred, colour ("TextSecondary"));
-    paintText (g, shownText(), font, valueLine.toFloat(), juce::Justification::centred, colour ("Text"));
+
+    const auto apart = pixels ("ThinStroke"); // from the values of its neighbours
+    paintText (g,
+               shownText(),
+               font,
+               valueLine.toFloat().reduced (apart, 0.0f),
+               juce::Justification::centred,
+               colour ("Text"));
 
     const auto outer = pixels ("KnobDiameter") / 2.0f;
     const juce::PathStrokeType stroke { pixels ("KnobStroke"),
