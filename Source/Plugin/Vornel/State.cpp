@@ -17,6 +17,23 @@ constexpr int semitonesPerOctave = 12;
 constexpr int lastSlot = Sequencer::numSlots - 1;
 constexpr int mostColumns = 128; // that the editor offers
 
+constexpr auto paramsKey = "Params";
+
+/** A preset of patterns alone holds nothing there. */
+bool bringsSound (Reflector& r)
+{
+    const auto* const params = r.getChild (paramsKey);
+    return params != nullptr && params->getSize() > 0;
+}
+
+/** The sound that a pattern preset has brought is in no file of the sounds, and no edit of the one that was there. */
+void nameAfter (const Presets::Base& patterns, SynthPreset& sound)
+{
+    sound.forgetChanges();
+    sound.setName ("from " + patterns.getName());
+    sound.setDirty (false);
+}
+
 /** An object of a document that is no object of the model. */
 template <typename Fields>
 struct Section
@@ -114,12 +131,10 @@ void State::reflectExtra (Reflector& r)
 
     StateBase::reflectExtra (r);
 
-    const std::string key = "Params";
-
     if (! r.isLoading() && ! r.isForHostChunk() && ! savesParams)
-        r.setValue (key, std::monostate());
+        r.setValue (paramsKey, std::monostate());
     else
-        r.addChild (key, params);
+        r.addChild (paramsKey, params);
 }
 
 void State::reflectMembers (Reflector& r)
@@ -127,7 +142,12 @@ void State::reflectMembers (Reflector& r)
     if (! r.isLoading())
         return reflectDocument (r);
 
-    const juce::ScopeGuard settles { [this, &r] { settleAfterLoad (r.getContext()); } };
+    const juce::ScopeGuard settles { [this, &r] {
+        settleAfterLoad (r.getContext());
+
+        if (r.getContext() == ReflectorContext::forPresetFile() && bringsSound (r))
+            nameAfter (*this, synthPreset);
+    } };
     const juce::ScopedValueSetter<bool> loadIsNoEdit (patternsChangeByHand, false);
     const Sequencer::PatternController::Edit edit (patterns);
     const juce::ScopeGuard swingCounts { [this] { followSwing(); } }; // ahead of the edit's end

@@ -153,6 +153,27 @@ TEST_F (PresetActionsTest, RandomiseTheSoundButForItsLevels)
     EXPECT_EQ (sounds.toText(), before);
 }
 
+TEST_F (PresetActionsTest, NameTheSoundAfterThePresetThatHasBroughtIt)
+{
+    auto& state = editor.getState();
+    ASSERT_EQ (patterns.save (own ("Mine")), "");
+    state.savesParams = false;
+    ASSERT_EQ (patterns.save (own ("Notes")), "");
+    sounds.loadInit();
+    state.synthPreset.setDirty (true);
+
+    EXPECT_TRUE (patterns.load (own ("Notes")));
+    EXPECT_EQ (state.synthPreset.getName(), "Init") << "that has none";
+    EXPECT_TRUE (state.synthPreset.isDirty());
+
+    EXPECT_TRUE (patterns.load (own ("Mine")));
+    EXPECT_EQ (state.synthPreset.getName(), "from Mine");
+    EXPECT_FALSE (state.synthPreset.isDirty());
+
+    context.edits.undo();
+    EXPECT_EQ (state.synthPreset.getName(), "Init");
+}
+
 TEST_F (PresetActionsTest, CarryAPresetAsText)
 {
     auto& state = editor.getState();
