@@ -1,5 +1,7 @@
 #include "GUI/Presets/PresetCatalogue.h"
 
+#include "GUI/Browser/SearchWords.h"
+
 #include <algorithm>
 #include <array>
 #include <set>
@@ -25,19 +27,6 @@ bool comesBefore (const CataloguedPreset& a, const CataloguedPreset& b)
     return a.isOwn != b.isOwn ? b.isOwn : NaturalOrder {}(a.category, b.category);
 }
 
-bool hasWords (const CataloguedPreset& preset, const juce::StringArray& words)
-{
-    return std::all_of (words.begin(), words.end(), [&preset] (const juce::String& word) {
-        return preset.name.containsIgnoreCase (word) || preset.category.containsIgnoreCase (word);
-    });
-}
-
-juce::StringArray wordsIn (const juce::String& text)
-{
-    auto words = juce::StringArray::fromTokens (text, true);
-    words.removeEmptyStrings();
-    return words;
-}
 using Folders = std::array<juce::File, 2>; // the user's first
 
 juce::String categoryIn (const Folders& folders, const juce::File& file)
@@ -85,12 +74,12 @@ PresetCatalogue::PresetCatalogue (std::vector<CataloguedPreset> presetsToSort)
 
 std::vector<int> PresetCatalogue::find (const PresetGroup& group, const juce::String& words) const
 {
-    const auto wanted = wordsIn (words);
+    const SearchWords wanted (words);
     std::vector<int> found;
 
     for (auto index = 0; const auto& preset : presets)
     {
-        if (group.contains (preset) && hasWords (preset, wanted))
+        if (group.contains (preset) && wanted.areIn (preset.name, preset.category))
             found.push_back (index);
 
         ++index;

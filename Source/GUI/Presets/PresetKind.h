@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GUI/Browser/BrowserColours.h"
 #include "Plugin/Vornel/State.h"
 
 #include <string>
@@ -19,6 +20,8 @@ struct PresetKind
     juce::String title;            // as "Pattern preset"
     juce::String noun, plural;     // as "preset"
     std::string_view accent, wash; // colours of the scheme
+
+    BrowserColours getColours() const noexcept { return { accent, wash }; }
 
     static PresetKind patterns (State& state)
     {

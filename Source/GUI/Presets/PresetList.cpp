@@ -1,6 +1,5 @@
 #include "GUI/Presets/PresetList.h"
 
-#include "GUI/Framework/AssetScheme/Base.h"
 #include "GUI/Presets/PresetMenus.h"
 
 #include <algorithm>
@@ -8,27 +7,18 @@
 namespace Zn::GUI
 {
 PresetList::PresetList (PresetActions& actionsToUse, PresetPreviews& previewsToShow)
-    : Element (actionsToUse.getContext().canvas, "PresetList")
+    : BrowserList (actionsToUse.getContext().canvas, "PresetList", actionsToUse.getKind().title + " list")
     , actions (actionsToUse)
     , previews (previewsToShow)
     , style (std::make_unique<PresetRowStyle> (getCanvas(), actionsToUse.getKind()))
 {
-    setTitle (actions.getKind().title + " list");
-    setOutlineThickness (0);
     setModel (this);
-}
-
-PresetList::~PresetList()
-{
-    setModel (nullptr);
 }
 
 void PresetList::schemeChanged()
 {
     style = std::make_unique<PresetRowStyle> (getCanvas(), actions.getKind());
-    setRowHeight (std::max (1, juce::roundToInt (style->row.getHeight())));
-    updateContent();
-    scrollToEnsureRowIsOnscreen (std::max (0, getSelectedRow()));
+    layOutRows (style->row.getHeight());
 }
 
 void PresetList::show (const PresetCatalogue& newCatalogue,
@@ -37,22 +27,14 @@ void PresetList::show (const PresetCatalogue& newCatalogue,
 {
     catalogue = &newCatalogue;
     found = std::move (newFound);
-    hint = newHint;
-
+    setHint (newHint);
     updateContent();
-    repaint();
 }
 
 void PresetList::setCurrent (const std::optional<juce::File>& file)
 {
     current = file.value_or (juce::File());
     repaint();
-}
-
-void PresetList::moveSelection (int numLines)
-{
-    if (! found.empty())
-        selectRow (std::clamp (getSelectedRow() + numLines, 0, getNumRows() - 1));
 }
 
 void PresetList::selectFile (const juce::File& file)
@@ -62,11 +44,6 @@ void PresetList::selectFile (const juce::File& file)
             return selectRow (row);
 
     deselectAllRows();
-}
-
-int PresetList::getNumLinesInSight() const
-{
-    return std::max (1, getHeight() / std::max (1, getRowHeight()));
 }
 
 const CataloguedPreset* PresetList::presetAt (int row) const
@@ -116,18 +93,9 @@ TooltipText PresetList::tooltipOf (const CataloguedPreset& preset)
              .shortcut = {} };
 }
 
-juce::Component* PresetList::refreshComponentForRow (int row, bool isSelected, juce::Component* toUpdate)
+std::unique_ptr<BrowserRow> PresetList::makeRow()
 {
-    std::unique_ptr<juce::Component> existing (toUpdate);
-
-    if (row >= getNumRows())
-        return nullptr;
-
-    if (existing == nullptr)
-        existing = std::make_unique<PresetRow> (static_cast<PresetRowOwner&> (*this));
-
-    static_cast<PresetRow&> (*existing).show (row, isSelected);
-    return existing.release();
+    return std::make_unique<PresetRow> (static_cast<PresetRowOwner&> (*this));
 }
 
 juce::String PresetList::getNameForRow (int row)
@@ -254,21 +222,5 @@ bool PresetList::keyPressed (const juce::KeyPress& key)
         return rename (row), true;
 
     return ListBox::keyPressed (key);
-}
-
-void PresetList::paintOverChildren (juce::Graphics& g)
-{
-    ListBox::paintOverChildren (g);
-
-    if (! found.empty())
-        return;
-
-    constexpr auto mostLines = 3;
-    g.setColour (AssetScheme::Base::get().colourOf ("TextSecondary"));
-    g.setFont (style->name);
-    g.drawFittedText (hint,
-                      getLocalBounds().reduced (juce::roundToInt (style->box.getHeight() / 2.0f)),
-                      juce::Justification::centred,
-                      mostLines);
 }
 } // namespace Zn::GUI

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GUI/Framework/AssetScheme/Element.h"
+#include "GUI/Browser/BrowserList.h"
 #include "GUI/Presets/PresetActions.h"
 #include "GUI/Presets/PresetRow.h"
 
@@ -11,15 +11,12 @@ namespace Zn::GUI
 {
 /** The presets of a browser, a line each: the first pattern in miniature, the name, whether it brings a sound, its star.
 
-    Has as many lines as are in sight, however many presets there are. What it shows outlives it. Thread: message.
+    What it shows outlives it. Thread: message.
 */
-class PresetList : public AssetScheme::Element<juce::ListBox>,
-                   private juce::ListBoxModel,
-                   private PresetRowOwner
+class PresetList : public BrowserList, private PresetRowOwner
 {
 public:
     PresetList (PresetActions& actionsToUse, PresetPreviews& previewsToShow);
-    ~PresetList() override;
 
     /** The places of what is listed in a catalogue, which stays as it is until the next call. The hint stands there
         when nothing is listed.
@@ -29,27 +26,21 @@ public:
     /** The file that is loaded: its line is coloured. */
     void setCurrent (const std::optional<juce::File>& file);
 
-    /** Marks another line, and has it in sight. */
-    void moveSelection (int numLines);
+    /** Marks its line, and has it in sight. */
     void selectFile (const juce::File& file);
 
     /** Loads what is marked; if that is loaded already, the browser is no longer needed and closes. */
-    void activate();
+    void activate() override;
 
     /** Null behind the end. */
     const CataloguedPreset* presetAt (int row) const override;
     int getNumRows() override { return static_cast<int> (found.size()); }
 
-    int getNumLinesInSight() const;
-
     bool keyPressed (const juce::KeyPress& key) override;
-    void paintOverChildren (juce::Graphics& g) override;
     void schemeChanged() override;
 
 private:
-    void paintListBoxItem (int, juce::Graphics&, int, int, bool) override {}
-    juce::Component* refreshComponentForRow (int row, bool isSelected, juce::Component* toUpdate) override;
-    void returnKeyPressed (int) override { activate(); }
+    std::unique_ptr<BrowserRow> makeRow() override;
     juce::String getNameForRow (int row) override;
 
     PresetRowStyle& getStyle() override { return *style; }
@@ -70,7 +61,6 @@ private:
 
     const PresetCatalogue* catalogue = nullptr;
     std::vector<int> found;
-    juce::String hint;
     juce::File current;
     std::unique_ptr<PresetRowStyle> style;
 };

@@ -9,14 +9,41 @@ Button::Options labelled (const juce::String& text)
 {
     return { .text = text };
 }
+
+juce::String textOf (const PresetGroup& group)
+{
+    switch (group.kind)
+    {
+    case PresetGroup::Kind::all:
+        return "All";
+    case PresetGroup::Kind::favourites:
+        return "Favourites";
+    case PresetGroup::Kind::own:
+        return "Mine";
+    case PresetGroup::Kind::category:
+        break;
+    }
+
+    return group.category;
+}
+
+/** No folder has the name of another group: these begin with their kind. */
+juce::String idOf (const PresetGroup& group)
+{
+    if (group.kind == PresetGroup::Kind::all)
+        return {};
+
+    return juce::String (static_cast<int> (group.kind)) + group.category;
+}
 } // namespace
 
 PresetPopup::PresetPopup (PresetActions& actionsToUse, PresetPreviews& previewsToShow, CallbackFunc saveAs)
-    : Popup (actionsToUse.getContext(), "PresetPopup", "Choose a " + actionsToUse.getKind().noun)
+    : BrowserPopup (actionsToUse.getContext(),
+                    "Preset",
+                    "Choose a " + actionsToUse.getKind().noun,
+                    actionsToUse.getKind().getColours())
     , actions (actionsToUse)
     , previews (previewsToShow)
-    , search (context.canvas, "PresetSearch", "search.svg")
-    , groups (context.canvas, actions.getKind(), [this] { showFound(); })
     , list (actionsToUse, previewsToShow)
     , divider (context, "PresetPopupDivider")
     , loadDefault (context, "PresetLoadDefault", labelled ("Load Default"), [this] { actions.loadDefault(); })
@@ -30,9 +57,7 @@ PresetPopup::PresetPopup (PresetActions& actionsToUse, PresetPreviews& previewsT
     , settingsListener (context.settings, [this] { isStale = true; })
     , pollListener (context.polls, [this] { poll(); })
 {
-    for (auto* part : std::initializer_list<juce::Component*> { &search,
-                                                                &groups,
-                                                                &list,
+    for (auto* part : std::initializer_list<juce::Component*> { &list,
                                                                 &divider,
                                                                 &loadDefault,
                                                                 &loadInit,
@@ -41,13 +66,12 @@ PresetPopup::PresetPopup (PresetActions& actionsToUse, PresetPreviews& previewsT
         addAndMakeVisible (part);
 
     search.setTitle ("Search " + actions.getKind().plural);
-    search.onKey = [this] (const juce::KeyPress& key) { return answerSearchKey (key); };
 
     const auto current = actions.getCurrentFile();
 
     if (const auto category = current ? categoryOf (actions.getLibrary(), *current) : juce::String();
         category.isNotEmpty())
-        groups.choose ({ PresetGroup::Kind::category, category });
+        groups.choose (idOf ({ PresetGroup::Kind::category, category }));
 
     rebuild();
 
@@ -73,7 +97,7 @@ void PresetPopup::rebuild()
         catalogue = catalogueOf (actions.getLibrary(), favourites);
         search.setPlaceholder ("Search " + juce::String (catalogue.getPresets().size()) + " "
                                + actions.getKind().plural);
-        groups.show (catalogue, words);
+        showGroups();
         showFound();
         list.selectFile (selectedFile);
     }
@@ -81,38 +105,38 @@ void PresetPopup::rebuild()
     list.setCurrent (actions.getCurrentFile());
 }
 
-/** Words are searched for everywhere at first; whoever then chooses a group means that. */
-void PresetPopup::answerTyping()
+void PresetPopup::showGroups()
 {
-    const auto before = std::exchange (words, search.getText().trim());
+    std::vector<BrowserGroups::Line> lines;
 
-    if (words == before)
-        return;
+    for (const auto& group : catalogue.getGroups())
+        lines.push_back ({ .id = idOf (group),
+                           .text = textOf (group),
+                           .count = catalogue.count (group, getWords()),
+                           .hasStar = group.kind == PresetGroup::Kind::favourites,
+                           .endsBlock = group.kind == PresetGroup::Kind::own });
 
-    if (before.isEmpty())
-    {
-        groupBeforeSearch = groups.getChosen();
-        groups.choose ({});
-    }
-    else if (words.isEmpty())
-    {
-        groups.choose (groupBeforeSearch);
-    }
+    groups.show (std::move (lines));
+}
 
-    groups.show (catalogue, words);
-    showFound();
-    list.selectRow (0);
+PresetGroup PresetPopup::getGroup() const
+{
+    for (const auto& group : catalogue.getGroups())
+        if (idOf (group) == groups.getChosen())
+            return group;
+
+    return {};
 }
 
 void PresetPopup::showFound()
 {
-    const auto& group = groups.getChosen();
-    list.show (catalogue, catalogue.find (group, words), hintOf (group));
+    const auto group = getGroup();
+    list.show (catalogue, catalogue.find (group, getWords()), hintOf (group));
 }
 
 juce::String PresetPopup::hintOf (const PresetGroup& group) const
 {
-    if (words.isNotEmpty())
+    if (getWords().isNotEmpty())
         return "Nothing has these words. Try fewer, or \"All\".";
 
     if (group.kind == PresetGroup::Kind::favourites)
@@ -130,30 +154,5 @@ void PresetPopup::poll()
 
     if (previews.readSome())
         list.repaint();
-}
-
-bool PresetPopup::answerSearchKey (const juce::KeyPress& key)
-{
-    using juce::KeyPress;
-    answerTyping(); // of what has been typed since the last look
-
-    if (key == KeyPress::upKey || key == KeyPress::downKey)
-        return list.moveSelection (key == KeyPress::upKey ? -1 : 1), true;
-
-    if (key == KeyPress::pageUpKey || key == KeyPress::pageDownKey)
-        return list.moveSelection (list.getNumLinesInSight() * (key == KeyPress::pageUpKey ? -1 : 1)), true;
-
-    if (key == KeyPress::returnKey)
-        return list.activate(), true;
-
-    if (key == KeyPress::escapeKey)
-        return close(), true;
-
-    return false;
-}
-
-bool PresetPopup::keyPressed (const juce::KeyPress& key)
-{
-    return key == juce::KeyPress::escapeKey && (close(), true);
 }
 } // namespace Zn::GUI

@@ -17,8 +17,7 @@ juce::Colour colour (std::string_view name)
 
 PresetRowStyle::PresetRowStyle (const AssetScheme::Canvas& canvasToUse, const PresetKind& kind)
     : canvas (canvasToUse)
-    , accent (kind.accent)
-    , wash (kind.wash)
+    , colours (kind.getColours())
     , name (canvas.fontOf ("FontBody"))
     , currentName (canvas.fontOf ("FontBody", AssetScheme::Cut::bold))
     , mark (canvas.fontOf ("FontSmall"))
@@ -38,24 +37,15 @@ PresetRowStyle::PresetRowStyle (const AssetScheme::Canvas& canvasToUse, const Pr
 
 PresetRow::PresetRow (PresetRowOwner& ownerToAsk) : owner (ownerToAsk)
 {
-    setAccessible (false); // the line of the list is what is read out
-    setRepaintsOnMouseActivity (false);
     namePlace.setInterceptsMouseClicks (false, false);
     namePlace.setAccessible (false);
     namePlace.setTitle ("Name");
     addAndMakeVisible (namePlace);
 }
 
-void PresetRow::show (int rowToShow, bool shouldBeSelected)
-{
-    row = rowToShow;
-    isSelected = shouldBeSelected;
-    repaint();
-}
-
 TooltipText PresetRow::getTooltipText() const
 {
-    const auto* const preset = owner.presetAt (row);
+    const auto* const preset = owner.presetAt (getRow());
     return preset != nullptr ? owner.tooltipOf (*preset) : TooltipText();
 }
 
@@ -77,14 +67,14 @@ juce::Rectangle<float> PresetRow::starArea() const
 
 void PresetRow::paint (juce::Graphics& g)
 {
-    const auto* const preset = owner.presetAt (row);
+    const auto* const preset = owner.presetAt (getRow());
 
     if (preset == nullptr)
         return;
 
     auto& style = owner.getStyle();
     const auto isCurrent = owner.isCurrent (*preset);
-    paintGround (g, isCurrent);
+    paintGround (g, style.canvas, style.box, style.colours, isCurrent);
 
     if (const auto* const preview = owner.previewOf (*preset);
         preview != nullptr && ! style.picture.isEmpty())
@@ -93,29 +83,9 @@ void PresetRow::paint (juce::Graphics& g)
     paintName (g, *preset, isCurrent);
 
     if (preset->isFavourite)
-        style.starred.paint (g, starArea(), colour (style.accent));
+        style.starred.paint (g, starArea(), colour (style.colours.accent));
     else
         style.star.paint (g, starArea(), colour ("TextQuiet"));
-}
-
-void PresetRow::paintGround (juce::Graphics& g, bool isCurrent) const
-{
-    const auto& style = owner.getStyle();
-    const auto box = style.box.withWidth (static_cast<float> (getWidth()));
-    const auto corner = style.canvas.cornerOf ("PreviewBoxCorner", box);
-
-    if (isCurrent || isSelected || isMouseOver (true))
-    {
-        g.setColour (colour (isCurrent ? style.wash : "PopupHover"));
-        g.fillRoundedRectangle (box, corner);
-    }
-
-    if (isSelected)
-    {
-        const auto stroke = std::max (1.0f, style.canvas.pixelsOf ("HairlineStroke"));
-        g.setColour (colour (isCurrent ? style.accent : "TextDisabled"));
-        g.drawRoundedRectangle (box.reduced (stroke / 2.0f), corner, stroke);
-    }
 }
 
 void PresetRow::paintName (juce::Graphics& g, const CataloguedPreset& preset, bool isCurrent)
@@ -149,16 +119,16 @@ void PresetRow::paintName (juce::Graphics& g, const CataloguedPreset& preset, bo
 void PresetRow::mouseDown (const juce::MouseEvent& event)
 {
     if (event.mods.isPopupMenu())
-        owner.menuAsked (row);
+        owner.menuAsked (getRow());
     else if (starArea().expanded (starArea().getWidth() / 2.0f).contains (event.position))
-        owner.starClicked (row);
+        owner.starClicked (getRow());
     else if (event.getNumberOfClicks() < 2)
-        owner.rowClicked (row);
+        owner.rowClicked (getRow());
 }
 
 void PresetRow::mouseDoubleClick (const juce::MouseEvent& event)
 {
     if (! starArea().expanded (starArea().getWidth() / 2.0f).contains (event.position))
-        owner.rowDoubleClicked (row);
+        owner.rowDoubleClicked (getRow());
 }
 } // namespace Zn::GUI

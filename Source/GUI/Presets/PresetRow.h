@@ -1,11 +1,10 @@
 #pragma once
 
-#include "GUI/Framework/AssetScheme/Canvas.h"
+#include "GUI/Browser/BrowserRow.h"
 #include "GUI/Framework/SVGPainter.h"
 #include "GUI/Presets/PresetCatalogue.h"
 #include "GUI/Presets/PresetKind.h"
 #include "GUI/Presets/PresetPreviews.h"
-#include "GUI/Widgets/TooltipSource.h"
 
 namespace Zn::GUI
 {
@@ -15,7 +14,7 @@ struct PresetRowStyle
     PresetRowStyle (const AssetScheme::Canvas& canvasToUse, const PresetKind& kind);
 
     const AssetScheme::Canvas& canvas;
-    std::string_view accent, wash; // colours
+    BrowserColours colours;
     juce::Font name, currentName, mark;
     juce::Rectangle<float> row, box, picture, text, starArea;
     SVGPainter star { "star.svg" }, starred { "starred.svg" };
@@ -39,37 +38,27 @@ public:
     virtual void menuAsked (int row) = 0;
 };
 
-/** One line of a list of presets. Lines are used again for others when the list is scrolled. Thread: message. */
-class PresetRow : public juce::Component, public TooltipSource
+/** One line of a list of presets. Thread: message. */
+class PresetRow : public BrowserRow
 {
 public:
     explicit PresetRow (PresetRowOwner& ownerToAsk);
-
-    void show (int rowToShow, bool shouldBeSelected);
 
     /** Lies over the name, for a field to rename it in. */
     juce::Component& getNamePlace() noexcept { return namePlace; }
 
     TooltipText getTooltipText() const override;
-    int getTooltipDelay() const override { return quickTooltip; }
 
     void paint (juce::Graphics& g) override;
     void resized() override;
-    void mouseEnter (const juce::MouseEvent&) override { repaint(); }
-    void mouseExit (const juce::MouseEvent&) override { repaint(); }
     void mouseDown (const juce::MouseEvent& event) override;
     void mouseDoubleClick (const juce::MouseEvent& event) override;
 
 private:
-    static constexpr auto quickTooltip = 300; // milliseconds
-
     juce::Rectangle<float> starArea() const;
-    void paintGround (juce::Graphics& g, bool isCurrent) const;
     void paintName (juce::Graphics& g, const CataloguedPreset& preset, bool isCurrent);
 
     PresetRowOwner& owner;
-    int row = 0;
-    bool isSelected = false;
     juce::Component namePlace;
 };
 } // namespace Zn::GUI

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "GUI/Browser/TextField.h"
 #include "GUI/Presets/CategoryParam.h"
 #include "GUI/Presets/PresetActions.h"
-#include "GUI/Presets/TextField.h"
 #include "GUI/Widgets/Button.h"
 #include "GUI/Widgets/Choice.h"
 #include "GUI/Widgets/FormContext.h"

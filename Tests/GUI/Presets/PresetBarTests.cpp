@@ -170,9 +170,9 @@ TEST_F (PresetBarTest, KeepsFavouritesForTheUser)
     EXPECT_TRUE (context.settings.get().favourites.contains ("Vornel/Waltz Book"));
     EXPECT_TRUE (list.presetAt (0)->isFavourite);
 
-    find<PresetGroupList> ("PresetCategories").selectRow (1);
+    find<BrowserGroups> ("PresetCategories").selectRow (1);
     type ("PresetSearch", "");
-    find<PresetGroupList> ("PresetCategories").selectRow (1);
+    find<BrowserGroups> ("PresetCategories").selectRow (1);
     EXPECT_EQ (listed (list), "Waltz Book");
 
     press (list, "F");

@@ -1,4 +1,4 @@
-#include "GUI/Presets/TextField.h"
+#include "GUI/Browser/TextField.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
 
