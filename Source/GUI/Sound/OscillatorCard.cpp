@@ -1,8 +1,9 @@
 #include "GUI/Sound/OscillatorCard.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
-#include "GUI/Sound/WavetableChoice.h"
 #include "Parameters/CreateForwarder.h"
+#include "Parameters/ParamHolder.h"
+#include "Synth/WavetableSynth/OscillatorParam.h"
 
 #include <utility>
 
@@ -14,19 +15,25 @@ auto& paramsOf (EditorContext& context, int index)
 {
     return context.state().params.sound.synth.oscillators.oscillators[static_cast<std::size_t> (index)];
 }
+
+std::shared_ptr<Parameters::Parameter>
+tableOf (Audio::ParamHolder<Audio::WavetableSynth::OscillatorParam>& holder)
+{
+    return std::make_shared<Audio::WavetableSynth::OSCForwarder> (*holder, holder.getHostSide());
+}
 } // namespace
 
 OscillatorCard::OscillatorCard (EditorContext& contextToUse, int index, Callbacks callbacks)
     : SoundCard (contextToUse, "Osc" + std::to_string (index + 1), "Oscillator " + juce::String (index + 1))
     , name (getElement())
-    , table (std::make_shared<WavetableChoice> (paramsOf (contextToUse, index).type))
+    , table (tableOf (paramsOf (contextToUse, index).type))
     , enable (contextToUse,
               name + "Enable",
               Parameters::createForwarder (paramsOf (contextToUse, index).enable),
               { .look = Toggle::Look::power, .accent = "Sound" })
     , unison (contextToUse, name + "Unison", std::move (callbacks.unisonClicked))
     , wave (contextToUse, name + "Wave", table)
-    , type (contextToUse, name + "Type", table, Choice::Look::browser)
+    , type (contextToUse, name, table, std::move (callbacks.table))
     , octave (
           contextToUse, name + "Octave", Parameters::createForwarder (paramsOf (contextToUse, index).octave))
     , tune (contextToUse, name + "Tune", Parameters::createForwarder (paramsOf (contextToUse, index).tune))
@@ -42,6 +49,11 @@ void OscillatorCard::setDropTarget (bool shouldBeDropTarget)
 {
     if (std::exchange (isDropTarget, shouldBeDropTarget) != shouldBeDropTarget)
         repaint();
+}
+
+void OscillatorCard::setTable (int index)
+{
+    type.change ([index] (auto& parameter) { parameter.setInt (index); });
 }
 
 void OscillatorCard::schemeChanged()

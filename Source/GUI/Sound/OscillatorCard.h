@@ -4,7 +4,7 @@
 #include "GUI/Sound/SoundCard.h"
 #include "GUI/Sound/UnisonChip.h"
 #include "GUI/Sound/WavePicture.h"
-#include "GUI/Widgets/Choice.h"
+#include "GUI/Sound/WavetableField.h"
 #include "GUI/Widgets/Knob.h"
 #include "GUI/Widgets/Toggle.h"
 
@@ -20,12 +20,16 @@ public:
         CallbackFunc unisonClicked;
         std::function<void (juce::Point<int> onScreen)> dragged; // by its title
         std::function<void (juce::Point<int> onScreen, bool swaps)> dropped;
+        WavetablePopup::Callbacks table; // of one that is dragged out of the list of all
     };
 
     OscillatorCard (EditorContext& contextToUse, int index, Callbacks callbacksToUse); // 0..3
 
-    /** Another card is held over it. */
+    /** Another card, or a table, is held over it. */
     void setDropTarget (bool shouldBeDropTarget);
+
+    /** By its place in the list of all. One step of undo. */
+    void setTable (int index);
 
     void schemeChanged() override;
     void paintOverChildren (juce::Graphics& g) override;
@@ -37,7 +41,7 @@ private:
     Toggle enable;
     UnisonChip unison;
     WavePicture wave;
-    Choice type;
+    WavetableField type;
     Knob octave, tune, volume;
     CardTitle title;
     bool isDropTarget = false;

@@ -47,9 +47,12 @@ SoundBand::SoundBand (EditorContext& contextToUse)
 OscillatorCard::Callbacks SoundBand::callbacksOf (std::size_t oscillator)
 {
     return { .unisonClicked = [this] { unison.focusVoices(); },
-             .dragged = [this, oscillator] (auto onScreen) { showDropTarget (oscillator, onScreen); },
+             .dragged = [this,
+                         oscillator] (auto onScreen) { showDropTarget (&oscillators[oscillator], onScreen); },
              .dropped = [this, oscillator] (auto onScreen,
-                                            bool swaps) { drop (oscillator, onScreen, swaps); } };
+                                            bool swaps) { drop (oscillator, onScreen, swaps); },
+             .table = { .dragged = [this] (auto onScreen) { showDropTarget (nullptr, onScreen); },
+                        .dropped = [this] (int table, auto onScreen) { dropTable (table, onScreen); } } };
 }
 
 OscillatorCard* SoundBand::cardAt (juce::Point<int> onScreen)
@@ -61,18 +64,31 @@ OscillatorCard* SoundBand::cardAt (juce::Point<int> onScreen)
     return nullptr;
 }
 
-void SoundBand::showDropTarget (std::size_t from, juce::Point<int> onScreen)
+void SoundBand::showDropTarget (const OscillatorCard* from, juce::Point<int> onScreen)
 {
     const auto* target = cardAt (onScreen);
 
     for (auto& card : oscillators)
-        card.setDropTarget (&card == target && &card != &oscillators[from]);
+        card.setDropTarget (&card == target && &card != from);
+}
+
+void SoundBand::showNoDropTarget()
+{
+    for (auto& card : oscillators)
+        card.setDropTarget (false);
+}
+
+void SoundBand::dropTable (int table, juce::Point<int> onScreen)
+{
+    showNoDropTarget();
+
+    if (auto* const target = cardAt (onScreen))
+        target->setTable (table);
 }
 
 void SoundBand::drop (std::size_t from, juce::Point<int> onScreen, bool swaps)
 {
-    for (auto& card : oscillators)
-        card.setDropTarget (false);
+    showNoDropTarget();
 
     const auto* target = cardAt (onScreen);
 

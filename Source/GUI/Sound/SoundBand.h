@@ -28,8 +28,10 @@ public:
 
 private:
     OscillatorCard::Callbacks callbacksOf (std::size_t oscillator);
-    void showDropTarget (std::size_t from, juce::Point<int> onScreen);
+    void showDropTarget (const OscillatorCard* from, juce::Point<int> onScreen);
     void drop (std::size_t from, juce::Point<int> onScreen, bool swaps);
+    void dropTable (int table, juce::Point<int> onScreen);
+    void showNoDropTarget();
     OscillatorCard* cardAt (juce::Point<int> onScreen);
     void poll();
 

@@ -4,29 +4,12 @@
 #include "Synth/WavetableSynth/SampleList.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace Zn::GUI
 {
 namespace
 {
 constexpr auto unisonOpacity = 0.35f;
-
-using Shape = std::vector<juce::Point<float>>;
-
-/** From proportions and levels to pixels. Quiet tables are as high as loud ones: it is the shape that counts. */
-void fit (Shape& shape, juce::Rectangle<float> area)
-{
-    auto peak = 1e-6f;
-
-    for (const auto& point : shape)
-        peak = std::max (peak, std::abs (point.y));
-
-    const auto scale = area.getHeight() / 2.0f / peak;
-
-    for (auto& point : shape)
-        point = { area.getX() + point.x * area.getWidth(), area.getCentreY() - point.y * scale };
-}
 } // namespace
 
 WavePicture::WavePicture (EditorContext& contextToUse, std::string element, ParameterHandle tableToShow)
@@ -49,10 +32,10 @@ bool WavePicture::takeInputs (bool anyway)
     const auto& view = Audio::WavetableSynth::SampleList::get().getTable (inputs.table);
     auto shape = waveShape (view, std::max (1, juce::roundToInt (area.getWidth())));
     const auto lead = unisonLead (inputs.numVoices, inputs.spread);
-    auto second = lead > 0.0f ? movedAhead (shape, lead) : Shape();
+    auto second = lead > 0.0f ? movedAhead (shape, lead) : WaveLine();
 
-    fit (shape, area);
-    fit (second, area);
+    fitWave (shape, area);
+    fitWave (second, area);
     line = pathThrough (shape);
     under = pathDownTo (shape, area.getCentreY());
     unisonLine = pathThrough (second);

@@ -7,7 +7,7 @@
 
 namespace Zn::GUI
 {
-std::vector<juce::Point<float>> waveShape (const Audio::Kernels::TableView& table, int numColumns)
+WaveLine waveShape (const Audio::Kernels::TableView& table, int numColumns)
 {
     std::vector<juce::Point<float>> points;
 
@@ -53,7 +53,7 @@ float unisonLead (int numVoices, float spread)
     return static_cast<float> (gain - std::floor (gain));
 }
 
-std::vector<juce::Point<float>> movedAhead (const std::vector<juce::Point<float>>& shape, float lead)
+WaveLine movedAhead (const WaveLine& shape, float lead)
 {
     auto moved = shape;
 
@@ -70,5 +70,18 @@ std::vector<juce::Point<float>> movedAhead (const std::vector<juce::Point<float>
     }
 
     return moved;
+}
+
+void fitWave (WaveLine& shape, juce::Rectangle<float> area)
+{
+    auto peak = 1e-6f;
+
+    for (const auto& point : shape)
+        peak = std::max (peak, std::abs (point.y));
+
+    const auto scale = area.getHeight() / 2.0f / peak;
+
+    for (auto& point : shape)
+        point = { area.getX() + point.x * area.getWidth(), area.getCentreY() - point.y * scale };
 }
 } // namespace Zn::GUI

@@ -21,7 +21,7 @@ public:
             std::shared_ptr<Parameters::Parameter> parameterToShow,
             Look lookToHave = Look::field);
 
-    void openMenu();
+    virtual void openMenu();
 
     void schemeChanged() override;
     void mouseDoubleClick (const juce::MouseEvent&) override {} // two quick clicks are two

@@ -1,7 +1,7 @@
 #include "GUI/Framework/AssetScheme/Base.h"
 #include "GUI/Sound/Meter.h"
 #include "GUI/Sound/Picture.h"
-#include "GUI/Sound/WavetableChoice.h"
+#include "GUI/Sound/WavetableList.h"
 #include "GUI/Support/OpenEditor.h"
 
 #include <gtest/gtest.h>
@@ -281,28 +281,68 @@ TEST_F (SoundBandTest, TellsTheVoicesOfAnOscillatorAndLeadsToThem)
     EXPECT_TRUE (chip.isVisible());
 }
 
-TEST_F (SoundBandTest, ListsTheTablesByCategory)
+TEST_F (SoundBandTest, HearsEachTableThatIsMarkedAndKeepsItOrBringsBackWhatWas)
 {
     Tests::OpenEditor editor;
-    auto& type = soundOf (editor).synth.oscillators.oscillators[0].type;
-    WavetableChoice choice (type);
-    const auto menu = choice.getMenuChoices();
-    auto numLines = 0;
+    startWithRoom (editor);
+    auto& context = editor.page.getContext();
+    const auto& type = *soundOf (editor).synth.oscillators.oscillators[0].type;
+    const auto before = type.getIndex();
 
-    for (const auto& section : menu.subItems)
-        for (const auto& line : section.subItems)
+    for (const auto* last : { "escape", "return" })
+    {
+        Tests::Hand::click (editor.find ("Osc1Type"));
+        auto& search = editor.find ("WavetableSearch");
+
+        for (auto step = 1; step <= 2; ++step)
         {
-            EXPECT_TRUE (line.text.startsWith (section.text + " - ")) << line.text;
-            ++numLines;
+            Tests::Hand::press (search, "cursor down");
+            EXPECT_EQ (type.getIndex(), before + step) << last;
         }
 
-    EXPECT_EQ (numLines, type->choices.size());
-    ASSERT_GE (menu.subItems.size(), 2u);
+        Tests::Hand::press (search, last);
+        EXPECT_EQ (context.overlay.getPopup(), nullptr) << last;
+    }
 
-    menu.subItems[1].subItems[2].choose();
-    EXPECT_EQ (type->getCurrentChoiceName(), menu.subItems[1].subItems[2].text);
-    EXPECT_TRUE (menu.subItems[1].isTicked());
-    EXPECT_FALSE (menu.subItems[0].isTicked());
+    EXPECT_EQ (type.getIndex(), before + 2) << "kept by Enter";
+    context.edits.undo();
+    EXPECT_EQ (type.getIndex(), before) << "one step for the whole visit";
+}
+
+TEST_F (SoundBandTest, FindsTablesByWords)
+{
+    Tests::OpenEditor editor;
+    const auto& type = *soundOf (editor).synth.oscillators.oscillators[0].type;
+    const auto before = type.getIndex();
+    Tests::Hand::click (editor.find ("Osc1Type"));
+    auto& list = editor.find<WavetableList> ("WavetableList");
+    auto& search = editor.find<juce::TextEditor> ("WavetableSearch");
+    EXPECT_EQ (list.getNumRows(), type.choices.size());
+
+    search.setText ("organ");
+    editor.poll();
+    EXPECT_GT (list.getNumRows(), 0);
+    EXPECT_LT (list.getNumRows(), type.choices.size());
+    EXPECT_EQ (type.getIndex(), before) << "nobody has asked to hear any";
+
+    Tests::Hand::press (search, "return");
+    EXPECT_TRUE (type.getCurrentChoiceName().containsIgnoreCase ("organ"));
+}
+
+TEST_F (SoundBandTest, SetsATableWhereItsLineIsDropped)
+{
+    Tests::OpenEditor editor;
+    auto& oscillators = soundOf (editor).synth.oscillators.oscillators;
+    const auto before = oscillators[0].type->getIndex();
+    Tests::Hand::click (editor.find ("Osc1Type"));
+
+    auto& line = *editor.find<WavetableList> ("WavetableList").getComponentForRowNumber (before + 1);
+    const auto from = line.getLocalBounds().getCentre();
+    const auto onto = line.getLocalPoint (&editor.find ("Osc3"), juce::Point<int> (10, 40));
+    Tests::Hand::drag (line, { from.toFloat(), onto.toFloat() });
+
+    EXPECT_EQ (oscillators[2].type->getIndex(), before + 1);
+    EXPECT_EQ (oscillators[0].type->getIndex(), before);
 }
 
 TEST_F (SoundBandTest, HasTheLevelWorkedOutOnlyWhileTheMeterCanBeSeen)
