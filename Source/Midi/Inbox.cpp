@@ -18,9 +18,7 @@ bool Inbox::push (std::span<const std::uint8_t> message) noexcept
 
     std::copy (message.begin(), message.end(), copy.bytes.begin());
 
-    while (! tryLock())
-        std::this_thread::yield();
-
+    lock();
     const auto hasRoom = count < capacity;
 
     if (hasRoom)
@@ -33,6 +31,13 @@ bool Inbox::push (std::span<const std::uint8_t> message) noexcept
 bool Inbox::push (const juce::MidiMessage& message) noexcept
 {
     return push (std::span (message.getRawData(), static_cast<std::size_t> (message.getRawDataSize())));
+}
+
+void Inbox::clear() noexcept
+{
+    lock();
+    count = 0;
+    unlock();
 }
 
 void Inbox::drainInto (juce::MidiBuffer& midi) noexcept
@@ -48,6 +53,12 @@ void Inbox::drainInto (juce::MidiBuffer& midi) noexcept
 
     for (auto i = 0; i < numTaken; ++i)
         midi.addEvent (taken[static_cast<std::size_t> (i)].bytes.data(), 3, 0);
+}
+
+void Inbox::lock() noexcept
+{
+    while (! tryLock())
+        std::this_thread::yield();
 }
 
 bool Inbox::tryLock (int maxTries) noexcept

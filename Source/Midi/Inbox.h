@@ -21,10 +21,14 @@ public:
     bool push (std::span<const std::uint8_t> message) noexcept;
     bool push (const juce::MidiMessage& message) noexcept;
 
+    /** Throws away what has not been fetched yet. Thread: message. */
+    void clear() noexcept;
+
     /** Moves all messages to sample 0 of a block, behind what stands there. Thread: audio. */
     void drainInto (juce::MidiBuffer& midi) noexcept;
 
 private:
+    void lock() noexcept;
     bool tryLock() noexcept { return ! locked.exchange (true); }
     bool tryLock (int maxTries) noexcept;
     void unlock() noexcept { locked.store (false); }

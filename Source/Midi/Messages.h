@@ -22,7 +22,7 @@ struct ShortMessage
 {
     std::array<std::uint8_t, 3> bytes {};
 
-    /** Channel 1..16, note and velocity 0..127; what lies outside is limited. */
+    /** Channel 1..16, note, velocity and the like 0..127; what lies outside is limited. */
     static constexpr ShortMessage noteOn (int channel, int note, int velocity) noexcept
     {
         return make (0x90, channel, note, velocity);
@@ -31,6 +31,11 @@ struct ShortMessage
     static constexpr ShortMessage noteOff (int channel, int note, int velocity = 0) noexcept
     {
         return make (0x80, channel, note, velocity);
+    }
+
+    static constexpr ShortMessage controller (int channel, int number, int value) noexcept
+    {
+        return make (0xB0, channel, number, value);
     }
 
     constexpr bool operator== (const ShortMessage&) const = default;

@@ -32,14 +32,14 @@ void NoteGate::process (juce::MidiBuffer& buffer, bool shouldBeOpen, bool keepNo
         if (open && keepNotes)
             sounding = {};
         else
-            flush (out, 0);
+            endAll (out, 0);
     }
 
     for (const auto event : buffer)
     {
         if (endsAllNotes (event))
         {
-            flush (out, event.samplePosition);
+            endAll (out, event.samplePosition);
             continue;
         }
 
@@ -57,7 +57,7 @@ void NoteGate::follow (const Event& event) noexcept
                 [static_cast<std::size_t> (noteOf (event))] = isNoteOn (event);
 }
 
-void NoteGate::flush (EventWriter& out, int sample) noexcept
+void NoteGate::endAll (EventWriter& out, int sample) noexcept
 {
     for (std::size_t channel = 0; channel < numChannels; ++channel)
         for (std::size_t note = 0; note < numNotes; ++note)

@@ -27,12 +27,14 @@ public:
 
     bool isOpen() const noexcept { return open; }
 
+    /** Ends all that sounds, at one sample, without closing. */
+    void endAll (EventWriter& out, int sample) noexcept;
+
     /** Reserves memory again where swaps have handed it away. Thread: prepare. */
     void prepare();
 
 private:
     void follow (const Event& event) noexcept;
-    void flush (EventWriter& out, int sample) noexcept;
 
     static constexpr std::size_t numChannels = 16, numNotes = 128;
 

@@ -20,6 +20,9 @@ public:
                   EventWriter& pitches,
                   int offset = 0) noexcept;
 
+    /** Forgets what sounds, for whoever has ended it: the rows that go on end nothing more. */
+    void forget() noexcept { numSounding = 0; }
+
 private:
     struct Pair
     {

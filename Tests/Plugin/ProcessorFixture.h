@@ -16,7 +16,7 @@ namespace Zn::Audio::Plugins::Vornel
 */
 struct ProcessorFixture
 {
-    ProcessorFixture()
+    explicit ProcessorFixture (Role role = Role::instrument) : processor (StartUp::empty, role)
     {
         Tests::drawWalk (state.patterns);
         processor.setSeed (1);
@@ -56,9 +56,17 @@ struct ProcessorFixture
 
     static constexpr int lowestHeld = 64; // the row of the lowest held key
 
-    Processor processor { StartUp::empty };
+    Processor processor;
     State& state = processor.getState();
 };
+
+/** What the host received from a sample on. */
+inline std::vector<Tests::Received> receivedFrom (const Tests::TestHost& host, std::int64_t sample)
+{
+    auto received = host.getReceived();
+    std::erase_if (received, [sample] (const auto& message) { return message.sample < sample; });
+    return received;
+}
 
 /** The samples at which a note was started. */
 inline std::vector<int> startsOf (const Tests::TestHost& host, int note)

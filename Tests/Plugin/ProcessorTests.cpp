@@ -371,22 +371,6 @@ TEST (Processor, LeavesNothingHangingWhenItIsBypassed)
     EXPECT_THAT (host.getSounding(), IsEmpty());
 }
 
-TEST (Processor, PanicEndsEverything)
-{
-    Fixture f;
-    f.drawQuarters (0, 0, 1.0);
-    TestHost host (f.processor);
-
-    host.send (events ("cc 64 127 @0, on 60 @1, off 60 @50"));
-    host.run (quarter / 2);
-    EXPECT_THAT (host.getSounding(), ElementsAre (60));
-
-    f.state.panic();
-    host.run (bar);
-    EXPECT_THAT (startsOf (host, 60), ElementsAre (1));
-    EXPECT_THAT (host.getSounding(), IsEmpty());
-}
-
 TEST (Processor, PublishesThePitchTableForTheEditor)
 {
     Fixture f;

@@ -15,13 +15,21 @@ void append (juce::MidiBuffer& target, const juce::MidiBuffer& source, int sampl
         writer.add (event, event.samplePosition + sampleOffset);
 }
 
-void releaseEverything (Midi::EventWriter& input) noexcept
+void liftEveryKey (Midi::EventWriter& out) noexcept
 {
-    input.add (Midi::ShortMessage { { 0xB0, Midi::sustainController, 0 } }, 0);
-    input.add (Midi::ShortMessage { { 0xB0, Midi::allNotesOffController, 0 } }, 0); // of a file, too
-
     for (auto note = 0; note < 128; ++note)
-        input.add (Midi::ShortMessage::noteOff (1, note), 0);
+        out.add (Midi::ShortMessage::noteOff (1, note), 0);
+}
+
+/** Not every instrument and host knows the controllers: the channel on which ours hear us gets note-offs, too. */
+void silenceInstruments (Midi::EventWriter& out, int numChannels) noexcept
+{
+    for (auto channel = 1; channel <= numChannels; ++channel)
+        for (const auto number :
+             { Midi::sustainController, Midi::allSoundOffController, Midi::allNotesOffController })
+            out.add (Midi::ShortMessage::controller (channel, number, 0), 0);
+
+    liftEveryKey (out);
 }
 } // namespace
 
@@ -51,6 +59,15 @@ void MidiPipeline::process (juce::MidiBuffer& midi,
     if (std::exchange (wasBypassed, false))
         bypassGate.process (output, false, false); // ends what passed while bypassed
 
+    if (std::exchange (panics, false))
+    {
+        letGo (clock, patterns);
+
+        Midi::EventWriter ends (output);
+        midiProcessor.endHeardNotes (ends);
+        silenceInstruments (ends, 1);
+    }
+
     runSegments (clock, patterns, learn);
 
     Midi::mergeEvents (scratch, output, others);
@@ -67,13 +84,46 @@ void MidiPipeline::processBypassed (juce::MidiBuffer& midi,
 {
     takeInput (midi, clock.size());
 
-    if (! std::exchange (wasBypassed, true))
-        midiProcessor.endHeardNotes (midi);
+    const auto begins = ! std::exchange (wasBypassed, true);
+    const auto panicked = std::exchange (panics, false);
 
+    if (begins)
+        midi.clear();
+
+    endBeforeBypassed (begins, panicked);
     bypassGate.process (midi, true, true);
+    append (output, midi, 0);
+    midi.clear();
+    append (midi, output, 0);
 
     output.clear();
+
+    if (panicked)
+        letGo (clock, patterns);
+
     runSegments (clock, patterns, learn);
+}
+
+/** Begins the block with the ends of what is not to sound on. */
+void MidiPipeline::endBeforeBypassed (bool bypassBegins, bool panicked) noexcept
+{
+    Midi::EventWriter ends (output);
+    ends.clear();
+
+    if (bypassBegins)
+        midiProcessor.endHeardNotes (ends);
+
+    if (panicked)
+    {
+        bypassGate.endAll (ends, 0);
+        silenceInstruments (ends, 16); // what passes keeps its channel
+    }
+}
+
+void MidiPipeline::panic() noexcept
+{
+    panics = true;
+    carried.clear();
 }
 
 void MidiPipeline::keepForNextBlock (juce::MidiBuffer& midi) noexcept
@@ -93,6 +143,20 @@ void MidiPipeline::takeInput (const juce::MidiBuffer& midi, int numSamples) noex
     Midi::splitNotesAndPedal (scratch, others, notes);
 }
 
+/** A run of no samples, ahead of the block's own keys and of what they have been learned for. */
+void MidiPipeline::letGo (const Sequencer::ClockSlice& clock,
+                          const Sequencer::PatternFrame& patterns) noexcept
+{
+    segmentInput.clear();
+    Midi::EventWriter input (segmentInput);
+    input.add (Midi::ShortMessage::controller (1, Midi::sustainController, 0), 0);
+    input.add (Midi::ShortMessage::controller (1, Midi::allNotesOffController, 0),
+               0); // for the notes of a file
+    liftEveryKey (input);
+
+    runSegment ({ 0, 0 }, clock, patterns);
+}
+
 void MidiPipeline::runSegments (const Sequencer::ClockSlice& clock,
                                 const Sequencer::PatternFrame& patterns,
                                 const Midi::Learn::State& learn) noexcept
@@ -100,9 +164,6 @@ void MidiPipeline::runSegments (const Sequencer::ClockSlice& clock,
     auto start = 0;
     segmentInput.clear();
     Midi::EventWriter input (segmentInput);
-
-    if (state.takePanic()) // past the handlers, or the pedal's lift would move what it has been learned for
-        releaseEverything (input);
 
     for (const auto event : notes)
     {

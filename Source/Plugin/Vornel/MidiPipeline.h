@@ -40,11 +40,18 @@ public:
                           const Sequencer::PatternFrame& patterns,
                           const Midi::Learn::State& learn) noexcept;
 
+    /** The next block begins with silence: it lets go of every key and of the pedal, past what they have been learned
+        for, ends what is heard, and tells the instruments behind us.
+    */
+    void panic() noexcept;
+
     /** Takes the messages of a block without samples and brings them at the start of the next one. */
     void keepForNextBlock (juce::MidiBuffer& midi) noexcept;
 
 private:
     void takeInput (const juce::MidiBuffer& midi, int numSamples) noexcept;
+    void endBeforeBypassed (bool bypassBegins, bool panicked) noexcept;
+    void letGo (const Sequencer::ClockSlice& clock, const Sequencer::PatternFrame& patterns) noexcept;
     void runSegments (const Sequencer::ClockSlice& clock,
                       const Sequencer::PatternFrame& patterns,
                       const Midi::Learn::State& learn) noexcept;
@@ -68,5 +75,6 @@ private:
 
     Midi::NoteGate bypassGate; // what passed while bypassed
     bool wasBypassed = false;
+    bool panics = false; // with the next block
 };
 } // namespace Zn::Audio::Plugins::Vornel

@@ -43,13 +43,10 @@ void MidiProcessor::process (juce::MidiBuffer& events,
     arpGate.process (events, settings.arpActive, false);
 }
 
-void MidiProcessor::endHeardNotes (juce::MidiBuffer& output) noexcept
+void MidiProcessor::endHeardNotes (Midi::EventWriter& output) noexcept
 {
-    const auto allNotesOff = juce::MidiMessage::controllerEvent (1, Midi::allNotesOffController, 0);
-
-    output.clear();
-    output.addEvent (allNotesOff, 0);
-    arpGate.process (output, arpGate.isOpen(), true);
+    rowExpander.forget();
+    arpGate.endAll (output, 0);
 }
 
 void MidiProcessor::shapeKeys (juce::MidiBuffer& events,

@@ -40,8 +40,8 @@ public:
                   const Sequencer::PatternFrame& frame,
                   const MidiSettings& settings) noexcept;
 
-    /** Replaces the buffer by the note-offs of all that is heard, for a host that stops listening to us. */
-    void endHeardNotes (juce::MidiBuffer& output) noexcept;
+    /** Adds the note-offs of all that is heard, at sample 0. Steps that last on stay silent until they come again. */
+    void endHeardNotes (Midi::EventWriter& output) noexcept;
 
 private:
     void shapeKeys (juce::MidiBuffer& events,

@@ -107,6 +107,7 @@ double Processor::getTailLengthSeconds() const
 
 void Processor::process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept
 {
+    followPanic();
     const auto& patterns = newestPatterns();
     const auto block = advanceClock (audio.getNumSamples());
 
@@ -118,6 +119,7 @@ void Processor::process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& host
 
 void Processor::processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept
 {
+    followPanic();
     const auto& patterns = newestPatterns();
     const auto block = advanceClock (audio.getNumSamples());
 
@@ -125,6 +127,18 @@ void Processor::processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuff
         sound.processBypassed (hostMidi);
 
     midi.processBypassed (hostMidi, block, patterns, learnReader.newest());
+}
+
+/** Asked for before the editor's keys are fetched: those that come after the panic play. */
+void Processor::followPanic() noexcept
+{
+    if (! state->takePanic())
+        return;
+
+    midi.panic();
+
+    if (! isMidiEffect())
+        sound.silence();
 }
 
 /** While a project waits to be taken in, the engine rests and ends its notes: neither the old patterns nor the default

@@ -55,6 +55,7 @@ private:
     void publishPatterns();
     void publishLearnTable();
     const Sequencer::PatternFrame& newestPatterns() noexcept;
+    void followPanic() noexcept;
     Sequencer::ClockSlice advanceClock (int numSamples) noexcept;
 
     PatternRing patternRing;

@@ -74,10 +74,14 @@ public:
     */
     void setPlayerActive (bool shouldBeHeard);
 
-    /** Ends all that sounds: lets go of every key and of the pedal, whatever they have been learned for.
-        Thread: message.
+    /** Ends all that sounds, here and in the instruments behind: lets go of every key and of the pedal, whatever they
+        have been learned for. Thread: message.
     */
-    void panic() noexcept { panicAsked.store (true); }
+    void panic() noexcept
+    {
+        inbox.clear(); // first, or its keys would come down again behind the panic
+        panicAsked.store (true);
+    }
 
     /** Whether there was a panic since the last call. Thread: audio. */
     bool takePanic() noexcept { return panicAsked.exchange (false); }
