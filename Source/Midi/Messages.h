@@ -9,6 +9,7 @@
 namespace Zn::Midi
 {
 constexpr int sustainController = 64;
+constexpr int lowestValueOfPedalDown = 64;
 constexpr int allSoundOffController = 120;
 constexpr int allNotesOffController = 123;
 
@@ -67,6 +68,12 @@ inline bool isNoteOn (const Event& event) noexcept
 inline bool isController (const Event& event, int number) noexcept
 {
     return event.numBytes == 3 && (event.data[0] & 0xF0) == 0xB0 && event.data[1] == number;
+}
+
+/** Of a message of the sustain pedal. */
+inline bool isPedalDown (const Event& event) noexcept
+{
+    return event.data[2] >= lowestValueOfPedalDown;
 }
 
 /** Bytes from 0xF0 up are messages without a channel. */

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Midi/EventWriter.h"
+#include "Midi/SoundingNotes.h"
 
 namespace Zn::Midi
 {
@@ -28,18 +28,14 @@ public:
     bool isOpen() const noexcept { return open; }
 
     /** Ends all that sounds, at one sample, without closing. */
-    void endAll (EventWriter& out, int sample) noexcept;
+    void endAll (EventWriter& out, int sample) noexcept { sounding.endAll (out, sample); }
 
     /** Reserves memory again where swaps have handed it away. Thread: prepare. */
     void prepare();
 
 private:
-    void follow (const Event& event) noexcept;
-
-    static constexpr std::size_t numChannels = 16, numNotes = 128;
-
     bool open = false;
-    std::array<std::array<std::uint8_t, numNotes>, numChannels> sounding {}; // 1 where a note sounds
+    SoundingNotes sounding;
     juce::MidiBuffer output;
 };
 } // namespace Zn::Midi

@@ -177,6 +177,13 @@ const Interference interferences[] = {
       } },
 };
 
+std::vector<std::array<std::uint8_t, 3>> bytesOf (const std::vector<Tests::Received>& messages)
+{
+    std::vector<std::array<std::uint8_t, 3>> bytes;
+    std::ranges::transform (messages, std::back_inserter (bytes), &Tests::Received::bytes);
+    return bytes;
+}
+
 std::vector<int> endedUntil (const TestHost& host, std::int64_t sample)
 {
     std::vector<int> notes;
@@ -230,10 +237,18 @@ TEST (HangingNotes, EndWithTheBypassAndWithItsEnd)
     s.host.run (480);
     s.letGo();
     s.host.run (4 * quarter); // two seconds, with nobody holding a key
+    s.host.send (events ("cc 64 127 @0, cc 64 64 ch5 @0, cc 64 127 ch9 @0, on 90 ch5 @0, cc 64 63 ch9 @1"));
+    s.host.run (quarter);
 
     s.host.isBypassed = false;
+    const auto ended = s.host.getPosition();
+    s.host.send (events ("cc 64 0 ch5 @0, off 90 ch5 @0, cc 64 0 @0"));
     s.host.run (bar);
     EXPECT_THAT (s.host.getSounding(), IsEmpty());
+    EXPECT_FALSE (s.host.isPedalDown());
+    EXPECT_THAT (
+        bytesOf (receivedFrom (s.host, ended)),
+        ElementsAre (ElementsAre (0x84, 90, 0), ElementsAre (0xB0, 64, 0), ElementsAre (0xB4, 64, 0)));
     EXPECT_THAT (startsOf (s.host, 60), ElementsAre (0));
 
     s.host.send (events ("on 60 @0"));

@@ -63,7 +63,9 @@ public:
         case 10:
             return state.keyMode.store (random.nextBool());
         case 11:
-            return send (juce::MidiMessage::controllerEvent (1, 64, random.nextBool() ? 127 : 0));
+            return send (juce::MidiMessage::controllerEvent (1 + random.nextInt (16),
+                                                             64,
+                                                             random.nextBool() ? 127 : 0));
         case 12:
             host.isBypassed = random.nextInt (4) == 0;
             return;
@@ -178,6 +180,7 @@ TEST (ProcessorProperties, NothingHangsWhateverPlayerHostAndEditorDo)
 
         session.end();
         EXPECT_THAT (session.host.getSounding(), testing::IsEmpty()) << "seed " << seed;
+        EXPECT_FALSE (session.host.isPedalDown()) << "seed " << seed;
     }
 }
 } // namespace Zn::Audio::Plugins::Vornel

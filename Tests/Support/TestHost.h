@@ -20,7 +20,10 @@ struct Received
 
     bool isNoteOn() const noexcept { return (bytes[0] & 0xF0) == 0x90 && bytes[2] > 0; }
     bool isNoteOff() const noexcept { return (bytes[0] & 0xE0) == 0x80 && ! isNoteOn(); }
+    bool isPedal() const noexcept { return (bytes[0] & 0xF0) == 0xB0 && bytes[1] == 64; }
+    bool isPedalDown() const noexcept { return isPedal() && bytes[2] >= 64; }
     int note() const noexcept { return bytes[1]; }
+    int channel() const noexcept { return 1 + (bytes[0] & 0x0F); }
 
     bool operator== (const Received&) const = default;
 };
@@ -28,7 +31,8 @@ struct Received
 /** Drives a processor as a host does: blocks of any size, a transport, keys at any sample.
 
     What the processor sends is collected; that it allocates or locks nothing once it is warm is checked in every
-    block, and so is that all of it has three bytes, is in order, inside the block and on channel 1.
+    block, and so is that all of it has three bytes, is in order, inside the block and on channel 1: but what passed
+    while bypassed is ended on its own channel.
 */
 class TestHost
 {
@@ -64,6 +68,9 @@ public:
     /** The notes that were started and not ended, by pitch. */
     std::vector<int> getSounding() const;
 
+    /** Whether a sustain pedal was left down, on any channel. */
+    bool isPedalDown() const;
+
     /** What is wrong with the notes received, as "60 struck twice @240, 64 hangs": empty when every note-on has
         its own note-off and the reverse.
     */
@@ -88,5 +95,6 @@ private:
     std::vector<Received> received;
     std::int64_t position = 0; // samples from the beginning
     int numBlocks = 0;
+    bool wasBypassed = false;
 };
 } // namespace Zn::Tests

@@ -4,15 +4,10 @@
 
 namespace Zn::Midi::Learn
 {
-namespace
-{
-constexpr int pedalIsDown = 64; // from this value on
-} // namespace
-
 bool DownKeys::goesOn (const Event& event, bool isHandled) noexcept
 {
     const auto isKey = isNote (event);
-    const auto isPress = isKey ? isNoteOn (event) : event.data[2] >= pedalIsDown;
+    const auto isPress = isKey ? isNoteOn (event) : isPedalDown (event);
     auto& went = isKey ? keys[static_cast<std::size_t> (noteOf (event))] : pedal;
 
     if (isPress)

@@ -4,7 +4,6 @@ namespace Zn::Midi::SustainPedal
 {
 namespace
 {
-constexpr auto lowestValueOfPedalDown = 64;
 constexpr auto releaseVelocity = 25; // of notes that the pedal ends
 } // namespace
 

@@ -42,7 +42,6 @@ MidiPipeline::MidiPipeline (State& stateToUse)
 void MidiPipeline::prepare (int blockSize)
 {
     midiProcessor.prepare (blockSize);
-    bypassGate.prepare();
 
     for (auto* buffer : { &carried, &notes, &others, &segmentInput, &segment, &output, &scratch })
         buffer->ensureSize (Midi::reservedBufferBytes);
@@ -54,10 +53,17 @@ void MidiPipeline::process (juce::MidiBuffer& midi,
                             const Midi::Learn::State& learn) noexcept
 {
     takeInput (midi, clock.size());
+    midi.clear();
     output.clear();
 
     if (std::exchange (wasBypassed, false))
-        bypassGate.process (output, false, false); // ends what passed while bypassed
+    {
+        Midi::EventWriter ends (midi), unheard (scratch);
+        passed.end (ends, 0);
+
+        unheard.clear();
+        midiProcessor.endHeardNotes (unheard);
+    }
 
     if (std::exchange (panics, false))
     {
@@ -72,8 +78,6 @@ void MidiPipeline::process (juce::MidiBuffer& midi,
 
     Midi::mergeEvents (scratch, output, others);
     Midi::flattenChannels (scratch, output);
-
-    midi.clear();
     append (midi, output, 0);
 }
 
@@ -91,7 +95,7 @@ void MidiPipeline::processBypassed (juce::MidiBuffer& midi,
         midi.clear();
 
     endBeforeBypassed (begins, panicked);
-    bypassGate.process (midi, true, true);
+    passed.follow (midi);
     append (output, midi, 0);
     midi.clear();
     append (midi, output, 0);
@@ -115,7 +119,7 @@ void MidiPipeline::endBeforeBypassed (bool bypassBegins, bool panicked) noexcept
 
     if (panicked)
     {
-        bypassGate.endAll (ends, 0);
+        passed.end (ends, 0);
         silenceInstruments (ends, 16); // what passes keeps its channel
     }
 }

@@ -2,6 +2,7 @@
 
 #include "Midi/Learn/DownKeys.h"
 #include "Midi/Learn/State.h"
+#include "Midi/LooseEnds.h"
 #include "Plugin/Vornel/MidiProcessor.h"
 
 namespace Zn::Audio::Plugins::Vornel
@@ -11,9 +12,9 @@ class State;
 /** The MIDI side of a block: reduces what the host sends, lets learned messages act at their sample, runs the segments
     between them, and hands back what the host receives.
 
-    Only 3-byte messages live on; all leave on channel 1. Notes and the sustain pedal go through the pattern, all else
-    goes around it. The host's buffer is never swapped with ours, so it grows only if the host gave less room than the
-    result needs. Thread: audio.
+    Only 3-byte messages live on; all leave on channel 1, but for the ends of what passed while bypassed. Notes and the
+    sustain pedal go through the pattern, all else goes around it. The host's buffer is never swapped with ours, so it
+    grows only if the host gave less room than the result needs. Thread: audio.
 */
 class MidiPipeline
 {
@@ -73,7 +74,7 @@ private:
     std::vector<Midi::Learn::Handler*> matched;
     Midi::Learn::DownKeys downKeys;
 
-    Midi::NoteGate bypassGate; // what passed while bypassed
+    Midi::LooseEnds passed; // of what passed while bypassed
     bool wasBypassed = false;
     bool panics = false; // with the next block
 };
