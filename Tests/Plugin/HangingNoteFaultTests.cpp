@@ -234,7 +234,20 @@ TEST (HangingNotes, EndWithTheBypassAndWithItsEnd)
     SoundingStep s { false };
     s.sound();
     s.host.isBypassed = true;
+    const auto begun = s.host.getPosition();
+    s.host.send (events ("on 62 ch2 @0, cc 1 90 @0, hex E0 00 40 @3, cc 123 0 @4, off 62 ch2 @5"));
     s.host.run (480);
+    EXPECT_THAT (bytesOf (receivedFrom (s.host, begun)),
+                 ElementsAre (ElementsAre (0x80, 60, 0),
+                              ElementsAre (0x80, 64, 0),
+                              ElementsAre (0x80, 67, 0),
+                              ElementsAre (0x91, 62, 100),
+                              ElementsAre (0xB0, 1, 90),
+                              ElementsAre (0xE0, 0, 64),
+                              ElementsAre (0xB0, 123, 0),
+                              ElementsAre (0x81, 62, 0)))
+        << "what passes comes behind the ends, and all of it does";
+
     s.letGo();
     s.host.run (4 * quarter); // two seconds, with nobody holding a key
     s.host.send (events ("cc 64 127 @0, cc 64 64 ch5 @0, cc 64 127 ch9 @0, on 90 ch5 @0, cc 64 63 ch9 @1"));

@@ -91,14 +91,15 @@ void MidiPipeline::processBypassed (juce::MidiBuffer& midi,
     const auto begins = ! std::exchange (wasBypassed, true);
     const auto panicked = std::exchange (panics, false);
 
-    if (begins)
-        midi.clear();
-
     endBeforeBypassed (begins, panicked);
     passed.follow (midi);
-    append (output, midi, 0);
-    midi.clear();
-    append (midi, output, 0);
+
+    if (! output.isEmpty())
+    {
+        append (output, midi, 0);
+        midi.clear();
+        append (midi, output, 0);
+    }
 
     output.clear();
 
