@@ -19,7 +19,8 @@ constexpr int bar = 4 * quarter;
 /** A chord in the middle of its first, long step. */
 struct SoundingStep : ProcessorFixture
 {
-    explicit SoundingStep (bool keyMode)
+    explicit SoundingStep (bool keyMode, Role role = Role::instrument, int blockSize = 480)
+        : ProcessorFixture (role), host (processor, 48000.0, blockSize)
     {
         const Sequencer::PatternController::Edit edit (state.patterns);
         state.keyMode = keyMode;
@@ -54,7 +55,7 @@ struct SoundingStep : ProcessorFixture
             change (step);
     }
 
-    TestHost host { processor, 48000.0, 480 };
+    TestHost host;
 };
 
 struct Interference
@@ -168,9 +169,9 @@ const Interference interferences[] = {
       false,
       Interference::endsByItself,
       [] (auto& s) { s.processor.prepareToPlay (48000.0, 480); } },
-    { "prepared for another rate",
+    { "stopped, and prepared for another rate",
       false,
-      Interference::endsByItself,
+      Interference::endsAtOnce,
       [] (auto& s) {
           s.processor.releaseResources();
           s.processor.prepareToPlay (8000.0, 64);
@@ -267,6 +268,57 @@ TEST (HangingNotes, EndWithTheBypassAndWithItsEnd)
     s.host.send (events ("on 60 @0"));
     s.host.run (bar);
     EXPECT_THAT (startsOf (s.host, 60), testing::SizeIs (testing::AnyOf (4, 5))) << "it plays again";
+}
+
+TEST (HangingNotes, AreNotBroughtBackByAHostThatStoppedAndLostTheLifts)
+{
+    struct Row
+    {
+        const char *arp, *keys;
+        bool stops;
+    };
+
+    for (const auto role : { Role::instrument, Role::midiEffect })
+        for (const auto blockSize : { 32, 500 })
+            for (const auto& row : { Row { "On", "on 60 @0, on 64 @0", true },
+                                     Row { "On", "cc 64 127 @0, on 60 @1, on 64 @1, off 60 @2", true },
+                                     Row { "Off", "on 60 @0, on 64 @0, cc 64 127 @0, off 60 @2", true },
+                                     Row { "On", "on 60 @0, on 64 @0", false } })
+            {
+                SCOPED_TRACE (std::string (row.keys) + " in blocks of " + std::to_string (blockSize));
+                SoundingStep s { false, role, blockSize };
+                s.set ("Arp-Active", row.arp);
+                s.host.send (events (row.keys));
+                s.host.run (quarter / 2);
+                ASSERT_THAT (s.host.getSounding(), testing::IsSupersetOf ({ 60, 64 }));
+
+                juce::AudioBuffer<float> nothing (2, 0);
+                auto late = events ("on 50 @0");
+                s.processor.processBlock (nothing, late);
+
+                if (row.stops)
+                    s.processor.releaseResources();
+                else
+                    s.host.send (events ("off 50 @1"));
+
+                s.processor.prepareToPlay (48000.0, blockSize);
+                const auto begun = s.host.getPosition();
+                s.host.runBlock (blockSize);
+                EXPECT_EQ (s.host.getSounding().empty(), row.stops);
+                EXPECT_EQ (s.host.getAudio().getMagnitude (0, blockSize), 0.0f);
+
+                s.host.run (bar);
+                EXPECT_EQ (startsOf (s.host, 64).back() < begun, row.stops);
+                EXPECT_EQ (s.host.unbalanced().find ("struck twice"), std::string::npos);
+
+                s.host.send (events ("on 72 @0, off 60 @9, off 64 @9"));
+                s.host.run (quarter + blockSize);
+                EXPECT_THAT (s.host.getSounding(), testing::Contains (72));
+
+                s.host.send (events ("off 72 @0, cc 64 0 @0"));
+                s.host.run (bar);
+                EXPECT_EQ (s.host.unbalanced(), "");
+            }
 }
 
 TEST (HangingNotes, AreNotMadeByStepsShorterThanASample)
@@ -474,6 +526,7 @@ TEST (HangingNotes, AreNotMadeByAPedalThatIsNeverLifted)
 
     s.state.panic();
     s.host.run (bar);
+    EXPECT_EQ (s.host.unbalanced(), "");
     EXPECT_THAT (s.host.getSounding(), IsEmpty());
 }
 

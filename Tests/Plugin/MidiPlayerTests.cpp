@@ -164,6 +164,12 @@ TEST (MidiPlayer, LeavesNothingHangingWhateverHappens)
         { "another file",
           "57, 60, 64",
           [] (auto& p) { p.state.player.choose (Sequencer::MidiPlayer::embedded ("Chords 4 - Trance")); } },
+        { "the host stops calling",
+          c,
+          [] (auto& p) {
+              p.processor.releaseResources();
+              p.processor.prepareToPlay (48000.0, 512);
+          } },
         { "panic, until the next chord", "", [] (auto& p) { p.state.panic(); } },
         { "the host stops", "", [] (auto& p) { p.host.playHead.stop(); } },
         { "turned off and on",

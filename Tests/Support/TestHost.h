@@ -22,6 +22,7 @@ struct Received
     bool isNoteOff() const noexcept { return (bytes[0] & 0xE0) == 0x80 && ! isNoteOn(); }
     bool isPedal() const noexcept { return (bytes[0] & 0xF0) == 0xB0 && bytes[1] == 64; }
     bool isPedalDown() const noexcept { return isPedal() && bytes[2] >= 64; }
+    bool isAllSoundOff() const noexcept { return (bytes[0] & 0xF0) == 0xB0 && bytes[1] == 120; }
     int note() const noexcept { return bytes[1]; }
     int channel() const noexcept { return 1 + (bytes[0] & 0x0F); }
 
@@ -72,7 +73,7 @@ public:
     bool isPedalDown() const;
 
     /** What is wrong with the notes received, as "60 struck twice @240, 64 hangs": empty when every note-on has
-        its own note-off and the reverse.
+        its own note-off and the reverse, but for those of a panic.
     */
     std::string unbalanced() const;
 

@@ -19,6 +19,9 @@ public:
     /** Keeps the keys and the pedal in the buffer, or puts the file's notes in place of them. */
     void process (juce::MidiBuffer& events, const Sequencer::ClockSlice& clock, bool playsFile) noexcept;
 
+    /** Has the file's chord begin again after the next end of all notes. Thread: prepare. */
+    void forgetFile() noexcept { player.forget(); }
+
 private:
     void takeFile (juce::MidiBuffer& events, const Sequencer::ClockSlice& clock) noexcept;
     void takeKeys (juce::MidiBuffer& events, const Sequencer::ClockSlice& clock) noexcept;

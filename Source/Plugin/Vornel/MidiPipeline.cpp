@@ -65,12 +65,11 @@ void MidiPipeline::process (juce::MidiBuffer& midi,
         midiProcessor.endHeardNotes (unheard);
     }
 
+    letGo (clock, patterns);
+
     if (std::exchange (panics, false))
     {
-        letGo (clock, patterns);
-
         Midi::EventWriter ends (output);
-        midiProcessor.endHeardNotes (ends);
         silenceInstruments (ends, 1);
     }
 
@@ -88,10 +87,7 @@ void MidiPipeline::processBypassed (juce::MidiBuffer& midi,
 {
     takeInput (midi, clock.size());
 
-    const auto begins = ! std::exchange (wasBypassed, true);
-    const auto panicked = std::exchange (panics, false);
-
-    endBeforeBypassed (begins, panicked);
+    endBeforeBypassed();
     passed.follow (midi);
 
     if (! output.isEmpty())
@@ -102,33 +98,46 @@ void MidiPipeline::processBypassed (juce::MidiBuffer& midi,
     }
 
     output.clear();
-
-    if (panicked)
-        letGo (clock, patterns);
+    letGo (clock, patterns);
+    panics = false;
 
     runSegments (clock, patterns, learn);
 }
 
 /** Begins the block with the ends of what is not to sound on. */
-void MidiPipeline::endBeforeBypassed (bool bypassBegins, bool panicked) noexcept
+void MidiPipeline::endBeforeBypassed() noexcept
 {
     Midi::EventWriter ends (output);
     ends.clear();
 
-    if (bypassBegins)
+    if (! std::exchange (wasBypassed, true))
         midiProcessor.endHeardNotes (ends);
 
-    if (panicked)
+    if (panics)
     {
         passed.end (ends, 0);
         silenceInstruments (ends, 16); // what passes keeps its channel
     }
 }
 
+void MidiPipeline::release() noexcept
+{
+    letsGo = true;
+    downKeys = {};
+    midiProcessor.forgetFile(); // it is nobody's hand
+    forgetCarriedKeys();
+}
+
 void MidiPipeline::panic() noexcept
 {
-    panics = true;
-    carried.clear();
+    letsGo = panics = true;
+    forgetCarriedKeys();
+}
+
+void MidiPipeline::forgetCarriedKeys() noexcept
+{
+    Midi::splitNotesAndPedal (scratch, others, carried);
+    carried.swapWith (others);
 }
 
 void MidiPipeline::keepForNextBlock (juce::MidiBuffer& midi) noexcept
@@ -148,18 +157,23 @@ void MidiPipeline::takeInput (const juce::MidiBuffer& midi, int numSamples) noex
     Midi::splitNotesAndPedal (scratch, others, notes);
 }
 
-/** A run of no samples, ahead of the block's own keys and of what they have been learned for. */
+/** A run of no samples, ahead of the block's own keys and past what they have been learned for. */
 void MidiPipeline::letGo (const Sequencer::ClockSlice& clock,
                           const Sequencer::PatternFrame& patterns) noexcept
 {
+    if (! std::exchange (letsGo, false))
+        return;
+
     segmentInput.clear();
     Midi::EventWriter input (segmentInput);
     input.add (Midi::ShortMessage::controller (1, Midi::sustainController, 0), 0);
-    input.add (Midi::ShortMessage::controller (1, Midi::allNotesOffController, 0),
-               0); // for the notes of a file
+    input.add (Midi::ShortMessage::controller (1, Midi::allNotesOffController, 0), 0); // of a file, too
     liftEveryKey (input);
 
     runSegment ({ 0, 0 }, clock, patterns);
+
+    Midi::EventWriter ends (output);
+    midiProcessor.endHeardNotes (ends);
 }
 
 void MidiPipeline::runSegments (const Sequencer::ClockSlice& clock,

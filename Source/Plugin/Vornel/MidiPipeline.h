@@ -41,6 +41,11 @@ public:
                           const Sequencer::PatternFrame& patterns,
                           const Midi::Learn::State& learn) noexcept;
 
+    /** Forgets keys and pedal, whose lifts get lost while the host stops. What is heard ends with the next block, as
+        there is nowhere to send its ends before. Thread: prepare.
+    */
+    void release() noexcept;
+
     /** The next block begins with silence: it lets go of every key and of the pedal, past what they have been learned
         for, ends what is heard, and tells the instruments behind us.
     */
@@ -51,7 +56,8 @@ public:
 
 private:
     void takeInput (const juce::MidiBuffer& midi, int numSamples) noexcept;
-    void endBeforeBypassed (bool bypassBegins, bool panicked) noexcept;
+    void endBeforeBypassed() noexcept;
+    void forgetCarriedKeys() noexcept;
     void letGo (const Sequencer::ClockSlice& clock, const Sequencer::PatternFrame& patterns) noexcept;
     void runSegments (const Sequencer::ClockSlice& clock,
                       const Sequencer::PatternFrame& patterns,
@@ -76,6 +82,6 @@ private:
 
     Midi::LooseEnds passed; // of what passed while bypassed
     bool wasBypassed = false;
-    bool panics = false; // with the next block
+    bool letsGo = false, panics = false; // with the next block; a panic lets go, too
 };
 } // namespace Zn::Audio::Plugins::Vornel

@@ -40,6 +40,9 @@ public:
                   const Sequencer::PatternFrame& frame,
                   const MidiSettings& settings) noexcept;
 
+    /** Has the chord of the MIDI player begin again after the next end of all notes. Thread: prepare. */
+    void forgetFile() noexcept { keys.forgetFile(); }
+
     /** Adds the note-offs of all that is heard, at sample 0. Steps that last on stay silent until they come again. */
     void endHeardNotes (Midi::EventWriter& output) noexcept;
 

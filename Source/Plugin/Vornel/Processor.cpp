@@ -92,6 +92,8 @@ void Processor::prepare (double sampleRate, int maxBlockSize)
 
 void Processor::release()
 {
+    midi.release();
+
     if (! isMidiEffect())
         sound.silence();
 }

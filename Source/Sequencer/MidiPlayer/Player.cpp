@@ -75,4 +75,10 @@ void Player::rest (const ClockSlice& clock) noexcept
     if (player.isActive())
         player.run (clock, fallback, scratch, 0);
 }
+
+void Player::forget() noexcept
+{
+    constexpr auto anywhere = 0.0;
+    rest ({ std::span (&anywhere, 1) });
+}
 } // namespace Zn::Sequencer::MidiPlayer

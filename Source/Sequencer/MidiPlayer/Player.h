@@ -23,6 +23,9 @@ public:
     /** Forgets what sounds, instead of run(); whoever let it through ends it. */
     void rest (const ClockSlice& clock) noexcept;
 
+    /** The same where no clock runs: the next run catches up with what lasts. */
+    void forget() noexcept;
+
 private:
     SongRing::Reader songs;
     SlotPlayer player;
