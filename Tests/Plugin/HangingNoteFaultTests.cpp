@@ -440,7 +440,6 @@ TEST (HangingNotes, AreEndedAtOnceByAPanicHereAndInTheInstrumentsBehind)
                 TestHost host (f.processor, 48000.0, blockSize);
 
                 host.isBypassed = row.isBypassed;
-                host.run (blockSize);
                 host.send (events (row.keys));
                 host.run (quarter);
                 ASSERT_THAT (host.getSounding(), ElementsAre (row.sounding));

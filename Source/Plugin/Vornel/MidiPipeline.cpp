@@ -107,14 +107,18 @@ void MidiPipeline::processBypassed (juce::MidiBuffer& midi,
 /** Begins the block with the ends of what is not to sound on. */
 void MidiPipeline::endBeforeBypassed() noexcept
 {
-    Midi::EventWriter ends (output);
-    ends.clear();
+    output.clear();
 
     if (! std::exchange (wasBypassed, true))
+    {
+        Midi::EventWriter ends (output);
         midiProcessor.endHeardNotes (ends);
+        Midi::flattenChannels (scratch, output); // they end where they have begun
+    }
 
     if (panics)
     {
+        Midi::EventWriter ends (output);
         passed.end (ends, 0);
         silenceInstruments (ends, 16); // what passes keeps its channel
     }
