@@ -221,8 +221,9 @@ void SlotBank::poll()
 /** Opens a pattern when it begins to play; what is opened meanwhile stays open until then. */
 void SlotBank::followPlayingSlot (int heard)
 {
-    if (juce::ModifierKeys::getCurrentModifiers().isAnyMouseButtonDown() || context.overlay.isEnteringValue())
-        return; // whatever is dragged or typed belongs to the slot that is open
+    if (juce::ModifierKeys::getCurrentModifiers().isAnyMouseButtonDown() || context.overlay.isEnteringValue()
+        || context.overlay.isMenuOpen())
+        return; // whatever is dragged, typed or chosen belongs to the slot that is open
 
     if (std::exchange (lastHeard, heard) != heard && context.settings.get().followsPlayingSlot)
         context.shownSlot.set (heard);

@@ -180,7 +180,10 @@ void OverlayLayer::showMenu (const juce::PopupMenu& menu,
         if (safe == nullptr)
             return;
 
-        --safe->numMenus;
+        juce::MessageManager::callAsync ([safe] { // after the line's own action, which waits in the queue
+            if (safe != nullptr)
+                --safe->numMenus;
+        });
 
         if (chosenFunc != nullptr)
             chosenFunc (result);

@@ -28,6 +28,7 @@ public:
     void showMenu (const juce::PopupMenu& menu,
                    juce::Component* beside,
                    std::function<void (int)> chosen) override;
+    bool isMenuOpen() const noexcept override { return numMenus > 0; }
     void
     showReadout (const juce::String& name, const juce::String& value, juce::Point<int> onScreen) override;
     void hideReadout() override;
@@ -83,7 +84,7 @@ private:
     CardShadow readoutShadow, messageShadow;
     juce::uint32 messageEnd = 0; // milliseconds
     bool offersUndo = false;     // the message does
-    int numMenus = 0;            // that are open, or have yet to tell how they closed
+    int numMenus = 0;            // that are open, or have yet to act
     Tooltips tooltips;
     Events::Listener pollListener, editListener;
 };

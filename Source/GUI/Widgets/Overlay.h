@@ -34,6 +34,9 @@ public:
                            juce::Component* beside,
                            std::function<void (int)> chosen = {}) = 0;
 
+    /** Until the line that was chosen has acted. */
+    virtual bool isMenuOpen() const noexcept = 0;
+
     /** A name and a value that follow the pointer while something without a place for its value is dragged. */
     virtual void
     showReadout (const juce::String& name, const juce::String& value, juce::Point<int> onScreen) = 0;

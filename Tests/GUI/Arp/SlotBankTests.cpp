@@ -1,4 +1,5 @@
-#include "GUI/Arp/SlotTile.h"
+#include "GUI/Arp/SlotBank.h"
+#include "GUI/Support/BareEditor.h"
 #include "GUI/Support/OpenEditor.h"
 
 #include <gtest/gtest.h>
@@ -116,6 +117,20 @@ TEST_F (SlotBankOfEditor, FollowsWhatBeginsToPlayIfTheUserWantsIt)
         play (1.0);
         EXPECT_EQ (heard(), follows ? 2 : 3);
         EXPECT_EQ (shown(), 2);
+    }
+}
+
+TEST (SlotBank, StaysWithThePatternWhoseMenuIsOpen)
+{
+    Tests::BareEditor editor;
+    const SlotBank bank { editor.context };
+    editor.getState().liveSlots->heard = 3;
+
+    for (const auto isOpen : { true, false })
+    {
+        editor.overlay.menuIsOpen = isOpen;
+        editor.polls.callListeners();
+        EXPECT_EQ (editor.shownSlot.get(), isOpen ? 0 : 3);
     }
 }
 

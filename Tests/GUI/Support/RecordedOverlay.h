@@ -25,6 +25,8 @@ struct RecordedOverlay : GUI::Overlay
         chosen = std::move (newChosen);
     }
 
+    bool isMenuOpen() const noexcept override { return menuIsOpen; }
+
     void showReadout (const juce::String&, const juce::String& value, juce::Point<int>) override
     {
         readout = value;
@@ -63,6 +65,7 @@ struct RecordedOverlay : GUI::Overlay
 
     Parameters::MenuItems::Item choices;
     juce::PopupMenu menu;
+    bool menuIsOpen = false;
     std::function<void (int)> chosen; // of the menu
     juce::String readout, message;
 
