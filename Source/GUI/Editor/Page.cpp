@@ -116,12 +116,7 @@ bool Page::keyPressed (const juce::KeyPress& key)
     if (key == juce::KeyPress::escapeKey)
         return escape();
 
-    if (! isMouseButtonDownAnywhere())
-        return actOn (key, actions);
-
-    PageActions harmless; // whatever else would change under the hand that drags something
-    harmless.play = actions.play;
-    return actOn (key, harmless);
+    return actOn (key, actions, isMouseButtonDownAnywhere());
 }
 
 bool Page::escape()

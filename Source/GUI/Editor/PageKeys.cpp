@@ -47,39 +47,43 @@ auto pageKeys()
     });
 }
 
-bool perform (const CallbackFunc& action)
-{
-    if (action == nullptr)
-        return false;
-
-    action();
-    return true;
-}
-
-bool chooseSlot (const Key& key, const PageActions& actions)
+/** Nothing if the key chooses no slot, or nobody can. */
+CallbackFunc slotAction (const Key& key, const PageActions& actions)
 {
     const auto number = key.getKeyCode() - '1';
 
     if (number < 0 || number >= Sequencer::numSlots)
-        return false;
+        return nullptr;
 
     const auto modifiers = key.getModifiers().getRawFlags();
     const auto& choose = modifiers == (command | alt) ? actions.openSlot : actions.playSlot;
 
     if (choose == nullptr || (modifiers != command && modifiers != (command | alt)))
-        return false;
+        return nullptr;
 
-    choose (number);
-    return true;
+    return [&choose, number] { choose (number); };
 }
-} // namespace
 
-bool actOn (const Key& key, const PageActions& actions)
+CallbackFunc actionFor (const Key& key, const PageActions& actions)
 {
     for (const auto& candidate : pageKeys())
         if (candidate.key() == key)
-            return perform (actions.*candidate.action);
+            return actions.*candidate.action;
 
-    return chooseSlot (key, actions);
+    return slotAction (key, actions);
+}
+} // namespace
+
+bool actOn (const Key& key, const PageActions& actions, bool isDragging)
+{
+    const auto action = actionFor (key, actions);
+
+    if (action == nullptr)
+        return false;
+
+    if (! isDragging || key == Key (Key::spaceKey))
+        action();
+
+    return true;
 }
 } // namespace Zn::GUI

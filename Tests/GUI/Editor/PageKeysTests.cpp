@@ -29,6 +29,21 @@ TEST (PageKeys, ChooseSlots)
     EXPECT_EQ (chosen, "open 7");
 }
 
+TEST (PageKeys, DoNothingInADragButPlayAndStillAreNotTheHosts)
+{
+    juce::StringArray done;
+    PageActions actions;
+    actions.undo = [&] { done.add ("undo"); };
+    actions.playSlot = [&] (int) { done.add ("slot"); };
+    actions.play = [&] { done.add ("play"); };
+
+    for (const auto* key : { "ctrl + Z", "ctrl + 1", "spacebar" })
+        EXPECT_TRUE (actOn (juce::KeyPress::createFromDescription (key), actions, true)) << key;
+
+    EXPECT_EQ (done, juce::StringArray ("play"));
+    EXPECT_FALSE (actOn (juce::KeyPress::createFromDescription ("ctrl + Y"), actions, true));
+}
+
 TEST (PageKeys, UndoAndRedo)
 {
     Tests::OpenEditor editor;
