@@ -105,6 +105,9 @@ void LearnMode::show (bool shouldBeShown)
     marked.reset();
     pulses.setActive (false);
 
+    if (shouldBeShown)
+        context.overlay.closePopup(); // it would lie above, with the focus taken from it
+
     setVisible (shouldBeShown);
     layOut();
 

@@ -115,6 +115,18 @@ TEST_F (LearnModeOfEditor, EndsWaitingThenItself)
     EXPECT_FALSE (mode.leave());
 }
 
+TEST_F (LearnModeOfEditor, ClosesThePopupThatWouldLieAbove)
+{
+    learning.setActive (false);
+    auto& overlay = editor.page.getContext().overlay;
+    Tests::Hand::press (editor.page, "F1");
+    ASSERT_NE (overlay.getPopup(), nullptr);
+
+    Tests::Hand::press (editor.page, "ctrl + L");
+    EXPECT_TRUE (mode.isVisible());
+    EXPECT_EQ (overlay.getPopup(), nullptr);
+}
+
 TEST_F (LearnModeOfEditor, ForgetsAllInOneStep)
 {
     for (auto slot = 0; slot < 3; ++slot)
