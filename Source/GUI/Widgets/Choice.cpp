@@ -92,7 +92,7 @@ void Choice::paintControl (juce::Graphics& g)
 void Choice::pressed (const juce::MouseEvent& event)
 {
     if (look == Look::browser && ! textArea.contains (event.position))
-        stepBy (event.position.x < area().getCentreX() ? -1 : 1);
+        clickBy (event.position.x < area().getCentreX() ? -1 : 1);
     else
         openMenu();
 }

@@ -152,7 +152,7 @@ void Segments::valueChanged()
 
 void Segments::choose (int value)
 {
-    changeJoining ([value] (auto& p) { p.setInt (value); });
+    change ([value] (auto& p) { p.setInt (value); });
 }
 
 void Segments::moveBy (int distance)
@@ -161,7 +161,8 @@ void Segments::moveBy (int distance)
         if (segments[static_cast<std::size_t> (index)].isChosen())
         {
             const auto last = static_cast<int> (segments.size()) - 1;
-            choose (segments[static_cast<std::size_t> (juce::jlimit (0, last, index + distance))].item.value);
+            const auto next = static_cast<std::size_t> (juce::jlimit (0, last, index + distance));
+            changeJoining ([value = segments[next].item.value] (auto& p) { p.setInt (value); });
             return;
         }
 }

@@ -34,7 +34,7 @@ void Stepper::pressed (const juce::MouseEvent& event)
     if (value.contains (event.getPosition()))
         ValueControl::pressed (event);
     else
-        stepBy (event.position.x < area().getCentreX() ? -1 : 1);
+        clickBy (event.position.x < area().getCentreX() ? -1 : 1);
 }
 
 void Stepper::mouseDoubleClick (const juce::MouseEvent& event)

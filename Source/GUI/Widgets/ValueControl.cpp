@@ -102,6 +102,13 @@ void ValueControl::stepBy (int steps, bool fine)
     });
 }
 
+void ValueControl::clickBy (int steps)
+{
+    context.edits.finish();
+    stepBy (steps);
+    context.edits.finish();
+}
+
 void ValueControl::resetToDefault()
 {
     change ([] (auto& p) { p.setNormalisedNotifying (p.getDefault()); });

@@ -36,6 +36,9 @@ public:
 
     /** Of the steps or percents; `fine` is a tenth of a percent. */
     void stepBy (int steps, bool fine = false);
+
+    /** The same by a click: a step of undo by itself, however quickly the next one follows. */
+    void clickBy (int steps);
     void resetToDefault();
 
     /** False: this is no value of it, and nothing has happened. */
