@@ -38,6 +38,8 @@ ArpHeader::ArpHeader (EditorContext& contextToUse)
         clock.setHelp ("There is no host to follow.");
     }
 
+    auto order = 0; // from the left: their upper edges would mix them up
+
     for (auto* child : std::initializer_list<juce::Component*> { &active,
                                                                  &slots,
                                                                  &quantizeLabel,
@@ -50,7 +52,10 @@ ArpHeader::ArpHeader (EditorContext& contextToUse)
                                                                  &bpm,
                                                                  &clockLabel,
                                                                  &clock })
+    {
+        child->setExplicitFocusOrder (++order);
         addAndMakeVisible (child);
+    }
 }
 
 void ArpHeader::paint (juce::Graphics& g)

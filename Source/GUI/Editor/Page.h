@@ -4,6 +4,7 @@
 #include "GUI/Arp/ArpParams.h"
 #include "GUI/Arp/BrushBand.h"
 #include "GUI/Editor/FileDrops.h"
+#include "GUI/Editor/FocusOrder.h"
 #include "GUI/Editor/OverlayLayer.h"
 #include "GUI/Editor/Resizer.h"
 #include "GUI/Framework/AssetScheme/UserColours.h"
@@ -43,6 +44,10 @@ public:
     void paint (juce::Graphics& g) override;
     void resized() override;
     bool keyPressed (const juce::KeyPress& key) override;
+    std::unique_ptr<juce::ComponentTraverser> createKeyboardFocusTraverser() override
+    {
+        return std::make_unique<FocusOrder> (*this);
+    }
 
     bool isInterestedInFileDrag (const juce::StringArray& files) override
     {

@@ -17,6 +17,10 @@ SoundBand::SoundBand (EditorContext& contextToUse)
               "Master",
               Parameters::createForwarder (context.state().params.sound.master),
               { .direction = Slider::Direction::longer, .accent = "Sound" })
+    , fold (context,
+            "SoundFold",
+            { .text = "", .icon = "down.svg", .look = Button::Look::quiet },
+            [&actions = context.actions] { actions.fold(); })
     , pollListener (contextToUse.polls, [this] { poll(); })
 {
     setTitle ("Sound");
@@ -26,6 +30,7 @@ SoundBand::SoundBand (EditorContext& contextToUse)
 
     // The slider lies on its card, or, folded, on the header.
     for (auto* part : std::initializer_list<juce::Component*> { &header,
+                                                                &fold,
                                                                 &oscillators[0],
                                                                 &oscillators[1],
                                                                 &oscillators[2],
@@ -113,6 +118,11 @@ void SoundBand::schemeChanged()
             child->setVisible (! isFolded);
 
     foldedValue.setVisible (isFolded);
+    fold.setIcon (isFolded ? "up.svg" : "down.svg");
+    fold.setHelp (isFolded ? "Open the sound again." : "Fold the sound away for a taller roll.");
+
+    const juce::Component& ahead = isFolded ? static_cast<juce::Component&> (foldedValue) : header;
+    fold.setExplicitFocusOrder (ahead.getExplicitFocusOrder()); // and further right
     poll();
 }
 

@@ -8,6 +8,7 @@
 #include "GUI/Sound/SoundHeader.h"
 #include "GUI/Sound/SubCard.h"
 #include "GUI/Sound/UnisonCard.h"
+#include "GUI/Widgets/Button.h"
 #include "GUI/Widgets/Slider.h"
 
 #include <array>
@@ -45,6 +46,7 @@ private:
     DelayCard delay { context };
     MasterCard masterCard { context };
     Slider master;
+    Button fold;
     MasterValue foldedValue { context, "MasterFoldedValue" };
     Events::Listener pollListener;
 };

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "GUI/Presets/PresetBar.h"
-#include "GUI/Widgets/Button.h"
 #include "GUI/Widgets/Toggle.h"
 
 namespace Zn::GUI
@@ -12,12 +11,8 @@ class SoundHeader : public AssetScheme::Element<>
 public:
     explicit SoundHeader (EditorContext& contextToUse);
 
-    void schemeChanged() override;
-
 private:
-    EditorContext& context;
     Toggle enable;
     PresetBar sounds;
-    Button fold;
 };
 } // namespace Zn::GUI

@@ -27,6 +27,10 @@ public:
     void resized() override;
     void paint (juce::Graphics& g) override;
     bool keyPressed (const juce::KeyPress& key) override;
+    std::unique_ptr<juce::ComponentTraverser> createKeyboardFocusTraverser() override
+    {
+        return page.createKeyboardFocusTraverser();
+    }
     void focusGained (FocusChangeType) override { page.grabKeyboardFocus(); }
     void childBoundsChanged (juce::Component* child) override;
 

@@ -1,4 +1,5 @@
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Support/HiddenWindow.h"
 #include "GUI/Support/OpenEditor.h"
 
 #include <gtest/gtest.h>
@@ -14,6 +15,31 @@ TEST (Page, AsksTheSchemeForNothingThatItDoesNotHave)
 
     EXPECT_TRUE (AssetScheme::Base::get().getAbsentNames().empty())
         << *AssetScheme::Base::get().getAbsentNames().begin();
+}
+
+TEST (Page, TakesTabFromLeftToRightAndPastItself)
+{
+    Tests::OpenEditor editor;
+    Tests::HiddenWindow window { editor.page };
+    editor.getState().playHead->control = Sequencer::PlayHead::Control::editor;
+    editor.poll();
+
+    const auto wayFrom = [&] (const char* element, const char* key, int numSteps) {
+        juce::StringArray way { element };
+        editor.find (element).grabKeyboardFocus();
+
+        while (way.size() <= numSteps && window.press (key))
+            way.add (window.focused());
+
+        return way.joinIntoString (" ");
+    };
+
+    EXPECT_EQ (wayFrom ("ArpActive", "tab", 6), "ArpActive Slot1 Quantize Retrigger Play Bpm Clock");
+    EXPECT_NE (wayFrom ("Logo", "shift + tab", 1), "Logo ") << "the page has no name";
+    EXPECT_EQ (wayFrom ("SoundMenu", "tab", 2), "SoundMenu SoundFold Osc1Enable");
+
+    editor.page.getContext().canvas.setFold (AssetScheme::Fold::folded);
+    EXPECT_EQ (wayFrom ("SoundMenu", "tab", 2), "SoundMenu Master SoundFold");
 }
 
 TEST (Page, LeavesNothingBehindWhenItCloses)
