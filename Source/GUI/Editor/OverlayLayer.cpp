@@ -41,11 +41,13 @@ OverlayLayer::OverlayLayer (juce::Component& pageToCover,
                             AssetScheme::Canvas& canvasToUse,
                             UserSettings& settingsToUse,
                             Edits& editsToUse,
-                            Events::Broadcaster& polls)
+                            Events::Broadcaster& polls,
+                            bool& keysInUseToTell)
     : page (pageToCover)
     , canvas (canvasToUse)
     , settings (settingsToUse)
     , edits (editsToUse)
+    , keysInUse (keysInUseToTell)
     , readoutShadow (addedTo (*this, readout), canvas)
     , messageShadow (addedTo (*this, message), canvas)
     , tooltips (*this, canvasToUse, settingsToUse, polls)
@@ -270,8 +272,13 @@ void OverlayLayer::closeEntry (ValueEntry::End end, const CallbackFunc& next)
     closedEntry = std::move (entry);
     removeChildComponent (closedEntry.get());
 
-    if (control != nullptr && hadFocus)
-        control->grabKeyboardFocus();
+    if (hadFocus) // a key has closed it
+    {
+        keysInUse = true;
+
+        if (control != nullptr)
+            control->grabKeyboardFocus();
+    }
 
     if (end == ValueEntry::End::keptForNext && nextFunc != nullptr)
         nextFunc();

@@ -18,7 +18,8 @@ public:
                   AssetScheme::Canvas& canvasToUse,
                   UserSettings& settingsToUse,
                   Edits& editsToUse,
-                  Events::Broadcaster& polls);
+                  Events::Broadcaster& polls,
+                  bool& keysInUseToTell);
     ~OverlayLayer() override;
 
     void openPopup (std::unique_ptr<juce::Component> newPopup) override;
@@ -71,6 +72,7 @@ private:
     AssetScheme::Canvas& canvas;
     UserSettings& settings;
     Edits& edits;
+    bool& keysInUse;
 
     Backdrop backdrop { *this };
     std::unique_ptr<juce::Component> popup, closedPopup; // a closed one goes when none of its functions runs

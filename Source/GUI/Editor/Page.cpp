@@ -15,7 +15,7 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
     : edits (processor.getUndo(), [&processor] { processor.finishPendingLoad(); })
     , learning (processor.getState().learnMap)
     , shownSlot (processor.getState().slotParam.getInt())
-    , overlay (*this, canvas, settings, edits, polls)
+    , overlay (*this, canvas, settings, edits, polls, keysInUse)
     , context { .processor = processor,
                 .canvas = canvas,
                 .settings = settings,
@@ -24,12 +24,14 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
                 .learning = learning,
                 .polls = polls,
                 .shownSlot = shownSlot,
-                .actions = actions }
+                .actions = actions,
+                .keysInUse = keysInUse }
     , timer (Events::UpdateTimer::screenInterval, [this] { polls.callListeners(); })
 {
     setOpaque (true);
     setWantsKeyboardFocus (true);
     setLookAndFeel (&look);
+    addMouseListener (this, true);
 
     for (auto* band : bands)
         addAndMakeVisible (band);
@@ -111,8 +113,16 @@ void Page::resized()
     overlay.setBounds (getLocalBounds());
 }
 
+bool Page::keyStateChanged (bool isKeyDown)
+{
+    keysInUse = keysInUse || isKeyDown;
+    return false;
+}
+
 bool Page::keyPressed (const juce::KeyPress& key)
 {
+    keysInUse = true; // Esc comes from text fields, too
+
     if (key == juce::KeyPress::escapeKey)
         return escape();
 

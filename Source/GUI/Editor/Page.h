@@ -49,6 +49,10 @@ public:
         return std::make_unique<FocusOrder> (*this);
     }
 
+    /** Told of each key before it acts, by all but text fields; and of each click in the page after it has acted. */
+    bool keyStateChanged (bool isKeyDown) override;
+    void mouseDown (const juce::MouseEvent&) override { keysInUse = false; }
+
     bool isInterestedInFileDrag (const juce::StringArray& files) override
     {
         return drops.isInterestedIn (files);
@@ -72,6 +76,7 @@ private:
     Events::Broadcaster polls;
     Events::Value<int> shownSlot;
     PageActions actions { ownActions() };
+    bool keysInUse = false;
     OverlayLayer overlay;
     EditorContext context;
 

@@ -68,6 +68,9 @@ struct LearnPanel::Row : juce::Component, TooltipSource
         return true;
     }
 
+    void focusGained (FocusChangeType) override { repaint(); }
+    void focusLost (FocusChangeType) override { repaint(); }
+
     void paint (juce::Graphics& g) override
     {
         const auto& sheet = panel.context.canvas;

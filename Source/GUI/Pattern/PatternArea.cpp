@@ -53,6 +53,7 @@ void PatternArea::connect()
     pitches.menuAsked = [this] (int row) { menus.showForRow (row); };
 
     drawing.keyAsked = [this] (const juce::KeyPress& key) { return pressKey (key); };
+    drawing.focusShown = [this] { keys.showCell(); };
 
     // Whatever is clicked beside the roll, its keys go on.
     for (auto* part : std::initializer_list<juce::Component*> { &ruler, &pitches, &scrollBar, &lane })

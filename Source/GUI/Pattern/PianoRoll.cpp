@@ -1,6 +1,7 @@
 #include "GUI/Pattern/PianoRoll.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Widgets/FocusRing.h"
 
 #include <algorithm>
 #include <array>
@@ -54,6 +55,17 @@ bool PianoRoll::keyPressed (const juce::KeyPress& key)
 
     setKeysInUse (true);
     return true;
+}
+
+void PianoRoll::focusGained (FocusChangeType cause)
+{
+    if (FocusRing::isShownFor (cause, context.editor))
+    {
+        setKeysInUse (true);
+        focusShown();
+    }
+
+    refresh();
 }
 
 void PianoRoll::setKeysInUse (bool areInUse)

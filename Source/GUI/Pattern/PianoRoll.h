@@ -21,7 +21,13 @@ public:
     /** Asked for each key while the roll has the focus; whether it was one of its own. */
     std::function<bool (const juce::KeyPress&)> keyAsked;
 
+    /** Called when a key has brought the focus: something has to show it. */
+    CallbackFunc focusShown = [] {};
+
     const RollPicture& getPicture() const noexcept { return picture; }
+
+    /** The cell cursor's place; empty while it is not shown. */
+    juce::Rectangle<int> getCursorBounds() const noexcept { return paintedCursor; }
 
     void paint (juce::Graphics& g) override;
     void schemeChanged() override;
@@ -45,7 +51,7 @@ public:
     }
 
     bool keyPressed (const juce::KeyPress& key) override;
-    void focusGained (FocusChangeType) override { refresh(); }
+    void focusGained (FocusChangeType cause) override;
     void focusLost (FocusChangeType) override { refresh(); }
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
     {

@@ -60,6 +60,12 @@ bool RollKeys::press (const KeyPress& key)
     return (isPlain (key) && (pressLetter (key) || pressOther (key))) || pressArrow (key);
 }
 
+void RollKeys::showCell()
+{
+    if (editor.getDrawing().selection.isEmpty())
+        moveCell (0, 0);
+}
+
 bool RollKeys::escape()
 {
     if (tools.cancel())

@@ -27,6 +27,9 @@ public:
     /** False for a key of somebody else. */
     bool press (const juce::KeyPress& key);
 
+    /** Shows the cell cursor, unless the selection shows where the keys act. */
+    void showCell();
+
     /** Esc: ends a drag, or else the selection; false when there is neither. */
     bool escape();
 

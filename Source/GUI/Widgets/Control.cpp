@@ -35,7 +35,7 @@ juce::Colour stepped (juce::Colour from, juce::Colour state, juce::Colour rest)
 Control::Control (EditorContext& contextToUse, std::string element)
     : Element (contextToUse.canvas, std::move (element))
     , context (contextToUse)
-    , ring (*this, contextToUse.canvas)
+    , ring (*this, contextToUse)
     , written (controlText (getElement()))
     , pollListener (contextToUse.polls, [this] { update(); })
     , learnListener (contextToUse.learning, [this] {

@@ -33,6 +33,9 @@ public:
 
     const ControlText& getText() const noexcept { return written; }
 
+    /** Whether the ring of the focus is around it. */
+    bool showsFocus() const noexcept { return ring.isShown(); }
+
     void paint (juce::Graphics& g) final { paintControl (g); }
     void paintOverChildren (juce::Graphics& g) override;
     void mouseEnter (const juce::MouseEvent& event) override;

@@ -29,6 +29,9 @@ struct EditorContext
 
     PageActions& actions;
 
+    /** Whether the last thing that a hand did was to press a key, and no click: only then the focus is shown. */
+    bool& keysInUse;
+
     Audio::Plugins::Vornel::State& state() const noexcept { return processor.getState(); }
 };
 } // namespace Zn::GUI

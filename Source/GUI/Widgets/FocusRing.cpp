@@ -29,13 +29,21 @@ struct Ring : juce::FocusOutline::OutlineWindowProperties
 };
 } // namespace
 
-FocusRing::FocusRing (juce::Component& component, const AssetScheme::Canvas& canvasToUse)
-    : owner (component), canvas (canvasToUse)
+FocusRing::FocusRing (juce::Component& component, const EditorContext& contextToUse)
+    : owner (component), context (contextToUse)
 {}
+
+bool FocusRing::isShownFor (juce::Component::FocusChangeType cause, const EditorContext& context)
+{
+    const auto isMoved = cause == juce::Component::focusChangedDirectly && context.keysInUse
+                         && ! juce::ModifierKeys::getCurrentModifiers().isAnyMouseButtonDown();
+
+    return isMoved || cause == juce::Component::focusChangedByTabKey;
+}
 
 void FocusRing::focusGained (juce::Component::FocusChangeType cause)
 {
-    if (cause == juce::Component::focusChangedByTabKey)
+    if (isShownFor (cause, context))
         show();
 }
 
@@ -44,7 +52,7 @@ void FocusRing::show()
     if (isShown() || ! owner.isShowing() || ! owner.hasKeyboardFocus (true)) // the key may have moved it away
         return;
 
-    outline = std::make_unique<juce::FocusOutline> (std::make_unique<Ring> (canvas));
+    outline = std::make_unique<juce::FocusOutline> (std::make_unique<Ring> (context.canvas));
     outline->setOwner (&owner);
 }
 } // namespace Zn::GUI

@@ -18,7 +18,8 @@ struct FormContext
                     .learning = editor.learning,
                     .polls = editor.polls,
                     .shownSlot = editor.shownSlot,
-                    .actions = editor.actions }
+                    .actions = editor.actions,
+                    .keysInUse = editor.keysInUse }
     {}
 
     Undo::Interface forgetful;

@@ -17,6 +17,33 @@ TEST (Page, AsksTheSchemeForNothingThatItDoesNotHave)
         << *AssetScheme::Base::get().getAbsentNames().begin();
 }
 
+TEST (Page, ShowsTheFocusThatKeysHaveMovedAndNoneAfterAClick)
+{
+    Tests::OpenEditor editor;
+    Tests::HiddenWindow window { editor.page };
+    const auto isShown = [] {
+        auto* focused = juce::Component::getCurrentlyFocusedComponent();
+        auto* control = dynamic_cast<Control*> (focused);
+        auto* roll = dynamic_cast<PianoRoll*> (focused);
+        return (control != nullptr && control->showsFocus())
+               || (roll != nullptr && ! roll->getCursorBounds().isEmpty());
+    };
+
+    for (const auto* key : { "F6", "F6", "tab", "cursor right", "ctrl + ,", "escape", "F1", "escape" })
+    {
+        EXPECT_TRUE (window.press (key)) << key;
+        EXPECT_TRUE (isShown()) << key << ": " << window.focused();
+    }
+
+    EXPECT_EQ (window.focused(), "Slot2");
+    editor.find ("PianoRoll").grabKeyboardFocus();
+    EXPECT_TRUE (isShown());
+
+    editor.page.mouseDown (Tests::Hand::mouseEvent (editor.page, {}, {}, Tests::Hand::leftButton));
+    editor.find ("Help").grabKeyboardFocus();
+    EXPECT_FALSE (isShown());
+}
+
 TEST (Page, TakesTabFromLeftToRightAndPastItself)
 {
     Tests::OpenEditor editor;

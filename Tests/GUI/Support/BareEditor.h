@@ -42,6 +42,7 @@ struct BareEditor
     Events::Broadcaster polls;
     Events::Value<int> shownSlot;
     GUI::PageActions actions;
+    bool keysInUse = false;
     GUI::EditorContext context { .processor = processor,
                                  .canvas = canvas,
                                  .settings = settings,
@@ -50,6 +51,7 @@ struct BareEditor
                                  .learning = learning,
                                  .polls = polls,
                                  .shownSlot = shownSlot,
-                                 .actions = actions };
+                                 .actions = actions,
+                                 .keysInUse = keysInUse };
 };
 } // namespace Zn::Tests

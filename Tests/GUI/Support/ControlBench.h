@@ -62,6 +62,7 @@ struct ControlBench
     Events::Broadcaster polls;
     Events::Value<int> shownSlot;
     GUI::PageActions actions;
+    bool keysInUse = false;
     GUI::EditorContext context { .processor = processor,
                                  .canvas = canvas,
                                  .settings = settings,
@@ -70,6 +71,7 @@ struct ControlBench
                                  .learning = learning,
                                  .polls = polls,
                                  .shownSlot = shownSlot,
-                                 .actions = actions };
+                                 .actions = actions,
+                                 .keysInUse = keysInUse };
 };
 } // namespace Zn::Tests
