@@ -18,14 +18,19 @@ TooltipText CardTitle::getTooltipText() const
 
 void CardTitle::mouseDown (const juce::MouseEvent& event)
 {
-    if (event.mods.isPopupMenu())
+    isPressed = ! event.mods.isPopupMenu();
+
+    if (! isPressed)
         button.showMenu();
 }
 
 void CardTitle::mouseDrag (const juce::MouseEvent& event)
 {
-    if (event.mods.isPopupMenu() || ! event.mouseWasDraggedSinceMouseDown())
+    if (! isPressed || ! event.mouseWasDraggedSinceMouseDown())
         return;
+
+    if (! focus)
+        focus.emplace (*this);
 
     setMouseCursor (juce::MouseCursor::CopyingCursor);
     dragged (event.getScreenPosition());
@@ -33,14 +38,31 @@ void CardTitle::mouseDrag (const juce::MouseEvent& event)
 
 void CardTitle::mouseUp (const juce::MouseEvent& event)
 {
-    setMouseCursor (juce::MouseCursor::PointingHandCursor);
-
-    if (event.mods.isPopupMenu())
+    if (! isPressed)
         return;
+
+    endDrag();
 
     if (event.mouseWasDraggedSinceMouseDown())
         dropped (event.getScreenPosition(), event.mods.isAltDown());
     else
         button.setOn (! button.isOn());
+}
+
+bool CardTitle::keyPressed (const juce::KeyPress& key)
+{
+    if (! focus || key != juce::KeyPress (juce::KeyPress::escapeKey))
+        return false;
+
+    endDrag();
+    dragged ({});
+    return true;
+}
+
+void CardTitle::endDrag()
+{
+    isPressed = false;
+    setMouseCursor (juce::MouseCursor::PointingHandCursor);
+    focus.reset();
 }
 } // namespace Zn::GUI

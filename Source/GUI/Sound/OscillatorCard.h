@@ -18,8 +18,8 @@ public:
     struct Callbacks
     {
         CallbackFunc unisonClicked;
-        std::function<void (juce::Point<int> onScreen)> dragged; // by its title
-        std::function<void (juce::Point<int> onScreen, bool swaps)> dropped;
+        CardTitle::Dragged dragged; // by its title
+        CardTitle::Dropped dropped;
         WavetablePopup::Callbacks table; // of one that is dragged out of the list of all
     };
 

@@ -115,13 +115,7 @@ void Picture::mouseDown (const juce::MouseEvent& event)
     for (const auto& parameter : parametersOf (handle))
         drag->edits.push_back (std::make_unique<ParameterEdit> (context.edits, parameter, getText().title));
 
-    // The key that ends it comes to whoever has the focus.
-    focusedBefore = getCurrentlyFocusedComponent();
-    setWantsKeyboardFocus (true);
-
-    if (isShowing())
-        grabKeyboardFocus();
-
+    focus.emplace (*this);
     dragBegins (handle);
     repaint();
 }
@@ -188,11 +182,7 @@ void Picture::endDrag()
 
     drag.reset();
     context.overlay.hideReadout();
-
-    if (hasKeyboardFocus (false) && focusedBefore != nullptr && focusedBefore->isShowing())
-        focusedBefore->grabKeyboardFocus();
-
-    setWantsKeyboardFocus (false);
+    focus.reset();
     poll();
     repaint();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GUI/Widgets/BorrowedFocus.h"
 #include "GUI/Widgets/Control.h"
 #include "GUI/Widgets/ParameterEdit.h"
 
@@ -87,7 +88,7 @@ private:
     std::optional<Drag> drag;
     std::optional<std::size_t> pointed;
     float handleRadius = 0.0f, lineWidth = 0.0f; // pixels
-    juce::Component::SafePointer<juce::Component> focusedBefore;
+    std::optional<BorrowedFocus> focus;          // while it is dragged
 };
 
 /** What lies under a curve: its light, fading downwards. */

@@ -69,9 +69,9 @@ OscillatorCard* SoundBand::cardAt (juce::Point<int> onScreen)
     return nullptr;
 }
 
-void SoundBand::showDropTarget (const OscillatorCard* from, juce::Point<int> onScreen)
+void SoundBand::showDropTarget (const OscillatorCard* from, std::optional<juce::Point<int>> onScreen)
 {
-    const auto* target = cardAt (onScreen);
+    const auto* target = onScreen ? cardAt (*onScreen) : nullptr;
 
     for (auto& card : oscillators)
         card.setDropTarget (&card == target && &card != from);

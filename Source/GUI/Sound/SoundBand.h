@@ -12,6 +12,7 @@
 #include "GUI/Widgets/Slider.h"
 
 #include <array>
+#include <optional>
 
 namespace Zn::GUI
 {
@@ -29,7 +30,7 @@ public:
 
 private:
     OscillatorCard::Callbacks callbacksOf (std::size_t oscillator);
-    void showDropTarget (const OscillatorCard* from, juce::Point<int> onScreen);
+    void showDropTarget (const OscillatorCard* from, std::optional<juce::Point<int>> onScreen);
     void drop (std::size_t from, juce::Point<int> onScreen, bool swaps);
     void dropTable (int table, juce::Point<int> onScreen);
     void showNoDropTarget();

@@ -206,11 +206,12 @@ TEST_F (SoundBandTest, CopiesAndSwapsOscillatorsByTheirTitles)
     first.type->setValueNotifyingHost (first.type->convertTo0to1 (5.0f));
     *third.tune = -3;
 
-    const auto drop = [&editor] (juce::ModifierKeys modifiers) {
-        auto& card = editor.find ("Osc1");
-        const auto words = card.getLocalPoint (&editor.find ("Osc1Enable"),
-                                               editor.find ("Osc1Enable").getLocalBounds().getCentre());
-        auto& title = *card.getComponentAt (words);
+    auto& card = editor.find ("Osc1");
+    auto& title =
+        *card.getComponentAt (card.getLocalPoint (&editor.find ("Osc1Enable"),
+                                                  editor.find ("Osc1Enable").getLocalBounds().getCentre()));
+
+    const auto drop = [&] (juce::ModifierKeys modifiers) {
         const auto target = title.getLocalPoint (&editor.find ("Osc3"), Point { 20, 90 });
         Tests::Hand::drag (title, { { 3, 3 }, { 9, 3 }, target }, modifiers);
     };
@@ -226,6 +227,15 @@ TEST_F (SoundBandTest, CopiesAndSwapsOscillatorsByTheirTitles)
 
     editor.page.getContext().edits.undo();
     EXPECT_EQ (third.tune.get(), 7);
+
+    const Point over = title.getLocalPoint (&editor.find ("Osc3"), Point { 20, 90 });
+    const auto event = Tests::Hand::mouseEvent (title, over, {}, Tests::Hand::leftButton, 1, true);
+    title.mouseDown (event);
+    title.mouseDrag (event);
+    EXPECT_TRUE (Tests::Hand::press (title, "escape"));
+    title.mouseUp (event);
+    EXPECT_EQ (third.tune.get(), 7);
+    EXPECT_TRUE (first.enable.get());
 }
 
 TEST_F (SoundBandTest, IsFaintWhileTheSynthIsOffButCanBeEdited)
