@@ -36,7 +36,10 @@ ArpParams::ArpParams (EditorContext& contextToUse)
     , octave (context, "Octave", forwarderTo (context.state().params.octave))
     , swingLabel (context, "SwingLabel", controlText ("Swing").label)
     , swingValue (context, "SwingValue", {}, { .colour = "Text" })
-    , swing (context, "Swing", forwarderTo (context.state().params.swing), { .fromMiddle = true })
+    , swing (context,
+             "Swing",
+             forwarderTo (context.state().params.swing),
+             { .fromMiddle = true, .showsReadout = true })
     , swingRef (context, "SwingRef", forwarderTo (context.state().params.swingRef))
     , rangeLabel (context, "OctaveRangeLabel", controlText ("OctaveRange").label)
     , rangeValue (context, "OctaveRangeValue", {}, { .colour = "Text" })
@@ -46,6 +49,8 @@ ArpParams::ArpParams (EditorContext& contextToUse)
              unowned (context.state().highestOctave))
 {
     setTitle ("Pitch, swing and range");
+    swingValue.setDoubleClick ([this] { swing.typeValue(); });
+    rangeValue.setDoubleClick ([this] { range.typeValues(); });
 
     for (auto* child : std::initializer_list<juce::Component*> { &keyMode,
                                                                  &transpose,

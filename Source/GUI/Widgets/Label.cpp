@@ -31,6 +31,19 @@ void Label::setText (const juce::String& newText)
     repaint();
 }
 
+void Label::setDoubleClick (CallbackFunc action)
+{
+    doubleClicked = std::move (action);
+    setInterceptsMouseClicks (true, false);
+    setMouseClickGrabsKeyboardFocus (false);
+}
+
+void Label::mouseDoubleClick (const juce::MouseEvent& event)
+{
+    if (event.mods.isLeftButtonDown())
+        doubleClicked();
+}
+
 void Label::setColour (std::string_view newColour)
 {
     if (std::exchange (options.colour, newColour) != newColour)

@@ -6,7 +6,7 @@
 
 namespace Zn::GUI
 {
-/** A line of text that does nothing. Screen readers have it as the name of its control. Thread: message. */
+/** A line of text, which lets the pointer through unless a double-click on it does something. Screen readers have it as the name of its control. Thread: message. */
 class Label : public AssetScheme::Element<>, public ShortensLabel
 {
 public:
@@ -25,6 +25,9 @@ public:
     void setText (const juce::String& newText);
     const juce::String& getText() const noexcept { return text; }
 
+    /** What a double-click does. */
+    void setDoubleClick (CallbackFunc action);
+
     /** Another colour of the scheme. */
     void setColour (std::string_view newColour);
 
@@ -33,10 +36,12 @@ public:
 
     void schemeChanged() override;
     void paint (juce::Graphics& g) override;
+    void mouseDoubleClick (const juce::MouseEvent& event) override;
 
 private:
     Options options;
     juce::String text;
+    CallbackFunc doubleClicked = [] {};
     bool shortened = false;
     juce::Font font;
 };

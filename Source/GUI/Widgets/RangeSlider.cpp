@@ -91,6 +91,11 @@ juce::String RangeSlider::getShownText() const
            + highest.getCurrentText();
 }
 
+void RangeSlider::typeValues()
+{
+    low->typeValue();
+}
+
 float RangeSlider::lineLength() const
 {
     return pointAt (1.0f).x - pointAt (0.0f).x;

@@ -23,6 +23,9 @@ public:
     /** The lowest and the highest pitch, as in "C1 – B5", or "All". */
     juce::String getShownText() const;
 
+    /** Opens the text entry of the lower end; Tab goes on to that of the upper one. */
+    void typeValues();
+
     void paint (juce::Graphics& g) override;
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 

@@ -1,6 +1,8 @@
+#include "GUI/Arp/ArpParams.h"
 #include "GUI/Arp/BpmField.h"
 #include "GUI/Arp/PlayButton.h"
 #include "GUI/Arp/QuantizeParam.h"
+#include "GUI/Support/ControlBench.h"
 #include "GUI/Support/OpenEditor.h"
 #include "GUI/Widgets/Button.h"
 #include "GUI/Widgets/Label.h"
@@ -51,6 +53,30 @@ TEST (ArpBands, SwitchesPatternsAtOnceUntilALengthIsChosen)
     menu.subItems.back().choose();
     quantize.stepBy (1); // a turn of the wheel
     EXPECT_TRUE (state.liveSlots->enable);
+}
+
+TEST (ArpBands, TellsTheSwingBesideThePointerAndLetsItsTextAndTheRangesBeTyped)
+{
+    Tests::ControlBench bench;
+    const auto params = bench.make<ArpParams>();
+    const auto find = [&params](const char* element) -> auto&
+    {
+        return Tests::Hand::find<juce::Component> (*params, element);
+    };
+
+    auto& swing = find ("Swing");
+    const auto event = Tests::Hand::mouseEvent (swing, { 40, 5 }, { 9, 5 }, Tests::Hand::leftButton, 1, true);
+    swing.mouseDown (event.withNewPosition (juce::Point { 9, 5 }));
+    swing.mouseDrag (event);
+    EXPECT_NE (bench.overlay.readout, "");
+    swing.mouseUp (event);
+
+    for (const auto& [text, control] :
+         { std::pair ("SwingValue", "Swing"), std::pair ("OctaveRangeValue", "OctaveRangeLow") })
+    {
+        Tests::Hand::doubleClick (find (text), { 3, 3 });
+        EXPECT_EQ (bench.overlay.enteredOver, control);
+    }
 }
 
 TEST (ArpBands, FollowsTheKeyInOneStepOfUndo)
