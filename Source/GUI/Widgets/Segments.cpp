@@ -38,8 +38,17 @@ struct Segments::Segment : juce::Component, TooltipSource
             row.choose (item.value);
     }
 
-    void mouseEnter (const juce::MouseEvent&) override { repaint(); }
-    void mouseExit (const juce::MouseEvent&) override { repaint(); }
+    void mouseEnter (const juce::MouseEvent& event) override
+    {
+        row.mouseEnter (event.getEventRelativeTo (&row)); // covered, it would not know
+        repaint();
+    }
+
+    void mouseExit (const juce::MouseEvent& event) override
+    {
+        row.mouseExit (event.getEventRelativeTo (&row));
+        repaint();
+    }
 
     void mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel) override
     {

@@ -213,8 +213,12 @@ TEST_F (Controls, ChoicesAndSegmentsGoToTheOneBeforeAndAfter)
 
     Hand::press (*segments, "cursor right");
     EXPECT_EQ (segments->getShownText(), "Free");
-    Hand::click (Hand::find<juce::Component> (*segments, "DelayModeSync"));
+    auto& sync = Hand::find<juce::Component> (*segments, "DelayModeSync");
+    Hand::click (sync);
     EXPECT_EQ (segments->getShownText(), "Sync");
+    sync.mouseEnter (Hand::mouseEvent (sync, {}, {}, {}));
+    Hand::turnWheel (sync, -0.2f);
+    EXPECT_EQ (segments->getShownText(), "Sync") << "too early to be meant";
 }
 
 TEST_F (Controls, TheEndsOfARangeStayApart)
