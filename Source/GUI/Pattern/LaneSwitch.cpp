@@ -1,13 +1,29 @@
 #include "GUI/Pattern/LaneSwitch.h"
 
+#include "GUI/Widgets/ValueKeys.h"
+
+#include <algorithm>
+#include <cmath>
+
 namespace Zn::GUI
 {
 LaneSwitch::LaneSwitch (RollContext& contextToUse, std::string element, NoteValue valueToShow)
     : Control (contextToUse.editor, std::move (element))
     , roll (contextToUse)
     , value (valueToShow)
-    , listener (contextToUse.tools.laneValue, [this] { repaint(); })
-{}
+    , listener (contextToUse.tools.laneValue, [this] { follow(); })
+{
+    setWantsKeyboardFocus (isChosen());
+}
+
+void LaneSwitch::follow()
+{
+    setWantsKeyboardFocus (isChosen());
+    repaint();
+
+    if (isChosen() && isShowing() && dynamic_cast<LaneSwitch*> (getCurrentlyFocusedComponent()) != nullptr)
+        grabKeyboardFocus(); // from the other one
+}
 
 void LaneSwitch::schemeChanged()
 {
@@ -19,6 +35,7 @@ void LaneSwitch::paintControl (juce::Graphics& g)
     constexpr auto barHeight = 0.6f;        // of the switch
     constexpr auto padOfBar = 0.44f;        // of a handle of the lane, as is the bar's width
     constexpr auto padOfText = 8.0f / 6.8f; // of a handle of the lane
+    constexpr auto leastGap = 2.0f;         // pixels between bar and text
     const auto handle = pixels ("LaneHandle");
     const auto bar = std::round (padOfBar * handle);
 
@@ -34,7 +51,9 @@ void LaneSwitch::paintControl (juce::Graphics& g)
     paintText (g,
                getText().label,
                font,
-               area().withTrimmedRight (padOfText * handle).withTrimmedLeft (2.5f * bar),
+               area()
+                   .withTrimmedRight (padOfText * handle)
+                   .withTrimmedLeft (2.0f * bar + std::max (0.5f * bar, leastGap)),
                juce::Justification::centredRight,
                colour (isBright ? "Text" : "TextSecondary"));
 }
@@ -43,17 +62,26 @@ void LaneSwitch::mouseDown (const juce::MouseEvent& event)
 {
     ring.mousePressed();
 
-    if (! event.mods.isPopupMenu())
-        choose();
+    if (event.mods.isPopupMenu())
+        return;
+
+    choose();
+
+    if (isShowing())
+        grabKeyboardFocus();
 }
 
 bool LaneSwitch::keyPressed (const juce::KeyPress& key)
 {
-    if (! isPressKey (key))
+    if (const auto wish = ValueKey::of (key).wish;
+        wish == ValueKey::Wish::stepUp || wish == ValueKey::Wish::stepAlong)
+        roll.tools.laneValue.set (value == NoteValue::velocity ? NoteValue::chance : NoteValue::velocity);
+    else if (isPressKey (key))
+        choose();
+    else
         return false;
 
     ring.keyPressed();
-    choose();
     return true;
 }
 

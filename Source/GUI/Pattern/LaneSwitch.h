@@ -5,7 +5,9 @@
 
 namespace Zn::GUI
 {
-/** One of the two names beside the lane: which value it shows and edits. Thread: message. */
+/** One of the two names beside the lane: which value it shows and edits. Tab stops at the one that is chosen; arrows
+    choose the other. Thread: message.
+*/
 class LaneSwitch : public Control
 {
 public:
@@ -19,6 +21,7 @@ public:
 private:
     void paintControl (juce::Graphics& g) override;
     void choose() { roll.tools.laneValue.set (value); }
+    void follow();
     bool isChosen() const { return roll.tools.laneValue.get() == value; }
 
     RollContext& roll;

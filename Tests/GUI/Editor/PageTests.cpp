@@ -65,6 +65,9 @@ TEST (Page, TakesTabFromLeftToRightAndPastItself)
     EXPECT_NE (wayFrom ("Logo", "shift + tab", 1), "Logo ") << "the page has no name";
     EXPECT_EQ (wayFrom ("SoundMenu", "tab", 2), "SoundMenu SoundFold Osc1Enable");
 
+    EXPECT_EQ (wayFrom ("LaneVelocity", "cursor right", 1), "LaneVelocity LaneChance");
+    EXPECT_FALSE (editor.find ("LaneVelocity").getWantsKeyboardFocus());
+
     editor.page.getContext().canvas.setFold (AssetScheme::Fold::folded);
     EXPECT_EQ (wayFrom ("SoundMenu", "tab", 2), "SoundMenu Master SoundFold");
 }
