@@ -21,6 +21,7 @@ SlotBank::SlotBank (EditorContext& contextToUse)
     : Element (contextToUse.canvas, "SlotBank")
     , context (contextToUse)
     , lastHeard (contextToUse.state().liveSlots->heard.load())
+    , announced (lastHeard)
     , polls (contextToUse.polls, [this] { poll(); })
     , patterns (contextToUse.state().patterns.getEditorBroadcaster(),
                 [this] {
@@ -214,8 +215,12 @@ void SlotBank::moveFocus (int from, int step)
 
 void SlotBank::poll()
 {
-    followPlayingSlot (context.state().liveSlots->heard.load());
+    const auto heard = context.state().liveSlots->heard.load();
+    followPlayingSlot (heard);
     showStates();
+
+    if (std::exchange (announced, heard) != heard)
+        context.overlay.announce (tiles[static_cast<std::size_t> (heard)]->describe());
 }
 
 /** Opens a pattern when it begins to play; what is opened meanwhile stays open until then. */

@@ -57,7 +57,7 @@ private:
     std::array<double, Sequencer::numSlots> lastPositions {};   // quarter notes in each pattern
     std::array<juce::uint32, Sequencer::numSlots> flashEnds {}; // milliseconds, 0 none
     std::optional<Drag> dragged;
-    int lastHeard;
+    int lastHeard, announced; // of those that were heard
 
     Events::Listener polls, patterns, undone;
     Events::UpdateTimer pulses; // while a pattern waits

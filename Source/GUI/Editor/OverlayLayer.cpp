@@ -217,8 +217,7 @@ void OverlayLayer::showMessage (const juce::String& text, const juce::String& ac
     fadeIn (message, messageShadow, settings);
 
     messageEnd = juce::Time::getMillisecondCounter() + juce::uint32 (milliseconds ("MessageSeconds"));
-    juce::AccessibilityHandler::postAnnouncement (text,
-                                                  juce::AccessibilityHandler::AnnouncementPriority::medium);
+    announce (text);
 }
 
 void OverlayLayer::showUndo (const juce::String& done)

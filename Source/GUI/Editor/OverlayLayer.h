@@ -35,6 +35,12 @@ public:
     void hideReadout() override;
     void showMessage (const juce::String& text, const juce::String& actionText, CallbackFunc action) override;
     void showUndo (const juce::String& done) override;
+    void announce (const juce::String& text) override
+    {
+        juce::AccessibilityHandler::postAnnouncement (
+            text,
+            juce::AccessibilityHandler::AnnouncementPriority::medium);
+    }
     void enterValue (juce::Component& over,
                      const juce::String& text,
                      std::function<bool (const juce::String&)> accept,

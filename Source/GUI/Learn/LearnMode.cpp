@@ -20,12 +20,6 @@ juce::Colour schemeColour (std::string_view name)
     return AssetScheme::Base::get().colourOf (name);
 }
 
-void announce (const juce::String& text)
-{
-    juce::AccessibilityHandler::postAnnouncement (text,
-                                                  juce::AccessibilityHandler::AnnouncementPriority::medium);
-}
-
 bool movesParameter (const Learning::LearnMap::Binding& binding)
 {
     return ! binding.target.isSlot();
@@ -86,7 +80,8 @@ void LearnMode::follow()
         return;
 
     if (armed && armed != waitedFor)
-        announce (titleOf (*armed) + (armed->isSlot() ? ", play a key" : ", press the pedal"));
+        context.overlay.announce (titleOf (*armed)
+                                  + (armed->isSlot() ? ", play a key" : ", press the pedal"));
 
     answerBindings (waitedFor);
 
@@ -126,7 +121,7 @@ void LearnMode::answerBindings (const std::optional<Target>& waitedFor)
     if (! waitedFor || armed || bindings == before)
         return;
 
-    announce (titleOf (*waitedFor) + ", " + context.learning.textOf (*waitedFor));
+    context.overlay.announce (titleOf (*waitedFor) + ", " + context.learning.textOf (*waitedFor));
 
     if (waitedFor->isSlot())
         armNextSlot (waitedFor->slot);

@@ -45,10 +45,7 @@ void CellCursor::edit()
 
     const auto grid = editor.getGrid();
     const RollPoint place { (cell->column + 0.5) * grid.column(), cell->row + 0.5 };
-    const auto notes =
-        NoteQueries::notesIn (editor.getDrawing(),
-                              { .from = { (cell->column + rounding) * grid.column(), place.row },
-                                .to = { (cell->column + 1.0 - rounding) * grid.column(), place.row } });
+    const auto notes = notesThere();
 
     if (notes.isEmpty())
         editor.perform ("Draw note", [&] (Drawing& drawing) {
@@ -57,6 +54,20 @@ void CellCursor::edit()
         });
     else
         editor.perform ("Erase notes", [&] (Drawing& drawing) { NoteEdits::erase (drawing, notes); });
+}
+
+NoteSelection CellCursor::notesThere() const
+{
+    const auto& cell = editor.cellCursor.get();
+
+    if (! cell)
+        return {};
+
+    const auto column = editor.getGrid().column();
+    const auto middle = cell->row + 0.5;
+    return NoteQueries::notesIn (editor.getDrawing(),
+                                 { .from = { (cell->column + rounding) * column, middle },
+                                   .to = { (cell->column + 1.0 - rounding) * column, middle } });
 }
 
 /** In place of the selection, which hides the cursor. */

@@ -22,6 +22,8 @@ public:
     */
     void edit();
 
+    NoteSelection notesThere() const;
+
 private:
     void showAt (int note);
 

@@ -29,9 +29,7 @@ void HeldChord::refresh()
     repaint();
 
     if (hasKeys && isShowing())
-        juce::AccessibilityHandler::postAnnouncement (
-            text,
-            juce::AccessibilityHandler::AnnouncementPriority::medium);
+        context.editor.overlay.announce (text);
 }
 
 TooltipText HeldChord::getTooltipText() const

@@ -18,11 +18,8 @@ juce::String columns (double length)
     constexpr auto hundred = 100.0;
     return juce::String (std::round (length * hundred) / hundred);
 }
-} // namespace
-
-juce::String noteText (const Sequencer::TimedNote& note, const RowNames& names, const RollBeats& beats)
+juce::StringArray placeParts (int row, double start, const RowNames& names, const RollBeats& beats)
 {
-    const auto row = note.event.noteNum;
     const auto isInDrawing =
         juce::isPositiveAndBelow (row, Midi::RowToPitchTable::numRows); // files may say others
     const auto pitch = names.heldKeys.isEmpty() || ! isInDrawing ? juce::String() : names.of (row).text;
@@ -32,7 +29,14 @@ juce::String noteText (const Sequencer::TimedNote& note, const RowNames& names, 
     if (pitch.isNotEmpty())
         parts.add (pitch);
 
-    parts.add ("beat " + beats.nameOf (note.time.start));
+    parts.add ("beat " + beats.nameOf (start));
+    return parts;
+}
+} // namespace
+
+juce::String noteText (const Sequencer::TimedNote& note, const RowNames& names, const RollBeats& beats)
+{
+    auto parts = placeParts (note.event.noteNum, note.time.start, names, beats);
     parts.add ("length " + columns (note.time.length * beats.grid));
     parts.add ("velocity " + percent (note.event.velocity));
     parts.add ("chance " + percent (note.event.chance));
@@ -41,5 +45,10 @@ juce::String noteText (const Sequencer::TimedNote& note, const RowNames& names, 
         parts.add ("disabled");
 
     return parts.joinIntoString (", ");
+}
+
+juce::String placeText (int row, double start, const RowNames& names, const RollBeats& beats)
+{
+    return placeParts (row, start, names, beats).joinIntoString (", ") + ", empty";
 }
 } // namespace Zn::GUI

@@ -9,4 +9,7 @@ namespace Zn::GUI
     lowest key, lengths are columns.
 */
 juce::String noteText (const Sequencer::TimedNote& note, const RowNames& names, const RollBeats& beats);
+
+/** An empty place: "Row 3, G3, beat 2.2, empty". The start is part of the pattern. */
+juce::String placeText (int row, double start, const RowNames& names, const RollBeats& beats);
 } // namespace Zn::GUI

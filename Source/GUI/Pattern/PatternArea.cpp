@@ -114,7 +114,8 @@ RollKeys::View PatternArea::viewOfKeys()
              .pasteTime = [this] { return pasteTime(); },
              .zoom = [this] (double factor) { view.zoomTime (factor, 0.5 * view.get().size.width); },
              .fit = [this] { view.fit(); },
-             .reveal = [this] (double start, double end, int row) { view.showCell (start, end, row); } };
+             .reveal = [this] (double start, double end, int row) { view.showCell (start, end, row); },
+             .names = [this]() -> const RowNames& { return rowNames.get(); } };
 }
 
 double PatternArea::pasteTime()

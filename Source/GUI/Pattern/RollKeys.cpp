@@ -2,6 +2,7 @@
 
 #include "GUI/Pattern/NoteClip.h"
 #include "GUI/Pattern/NoteEdits.h"
+#include "GUI/Pattern/NoteText.h"
 
 #include <utility>
 
@@ -201,7 +202,7 @@ bool RollKeys::pressOther (const KeyPress& key)
     else if (key.isKeyCode (KeyPress::tabKey))
         selectNext (key.getModifiers().isShiftDown());
     else if (key.isKeyCode (KeyPress::returnKey))
-        cell.edit();
+        editCell();
     else
         return false;
 
@@ -211,7 +212,7 @@ bool RollKeys::pressOther (const KeyPress& key)
 void RollKeys::moveSelection (int columns, int rows)
 {
     if (editor.getDrawing().selection.isEmpty())
-        return cell.move (columns, rows);
+        return moveCell (columns, rows);
 
     const auto grid = editor.getGrid();
     editor.nudge (PatternEditor::Nudge::move, "Move notes", [&] (Drawing& drawing) {
@@ -227,6 +228,34 @@ void RollKeys::moveByBeats (int beats)
     const auto quarters = drawing.time.length() * (drawing.multiply ? drawing.grid : 1);
     const auto columns = quarters > 0.0 ? juce::roundToInt (drawing.grid / quarters) : 1;
     moveSelection (beats * std::clamp (columns, 1, drawing.grid), 0);
+}
+
+void RollKeys::moveCell (int columns, int rows)
+{
+    cell.move (columns, rows);
+    tellOfCell();
+}
+
+void RollKeys::editCell()
+{
+    cell.edit();
+    tellOfCell();
+}
+
+void RollKeys::tellOfCell() const
+{
+    const auto& place = editor.cellCursor.get();
+
+    if (! place)
+        return;
+
+    const auto& drawing = editor.getDrawing();
+    const auto beats = RollBeats::of (drawing);
+    const auto notes = cell.notesThere();
+    const auto start = place->column * editor.getGrid().column();
+
+    context.overlay.announce (notes.isEmpty() ? placeText (place->row, start, view.names(), beats)
+                                              : noteText (drawing.note (notes.first()), view.names(), beats));
 }
 
 void RollKeys::lengthen (int columns)
@@ -273,5 +302,6 @@ void RollKeys::reveal (int note)
 
     const auto& shown = drawing.note (note);
     view.reveal (shown.time.start, shown.time.end(), shown.event.noteNum);
+    context.overlay.announce (noteText (shown, view.names(), RollBeats::of (drawing)));
 }
 } // namespace Zn::GUI

@@ -2,6 +2,7 @@
 
 #include "GUI/Pattern/CellCursor.h"
 #include "GUI/Pattern/RollTools.h"
+#include "GUI/Pattern/RowNames.h"
 
 namespace Zn::GUI
 {
@@ -20,6 +21,7 @@ public:
         std::function<void (double)> zoom; // a factor above 1 shows less
         CallbackFunc fit;                  // shows the whole pattern
         std::function<void (double, double, int)> reveal; // start, end and row of what must be seen
+        std::function<const RowNames&()> names;           // for those who hear what is reached
     };
 
     RollKeys (EditorContext& contextToUse, PatternEditor& editorToUse, RollTools& toolsToUse, View viewToUse);
@@ -42,11 +44,14 @@ private:
 
     void moveSelection (int columns, int rows);
     void moveByBeats (int beats);
+    void moveCell (int columns, int rows);
+    void editCell();
     void lengthen (int columns);
     void changeValue (int percent);
     void selectNext (bool backwards);
     void take (Audio::Plugins::Vornel::Brush brush);
     void reveal (int note);
+    void tellOfCell() const;
 
     EditorContext& context;
     PatternEditor& editor;

@@ -153,8 +153,7 @@ void PresetName::announce()
     if (auto* handler = getAccessibilityHandler())
         handler->notifyAccessibilityEvent (juce::AccessibilityEvent::valueChanged);
 
-    juce::AccessibilityHandler::postAnnouncement (getText().title + ": " + getSpoken(),
-                                                  juce::AccessibilityHandler::AnnouncementPriority::medium);
+    context.overlay.announce (getText().title + ": " + getSpoken());
 }
 
 void PresetName::toggleFavourite()

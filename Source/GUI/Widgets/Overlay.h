@@ -49,6 +49,9 @@ public:
     /** A line that offers to take back what has just been done, until something else is. */
     virtual void showUndo (const juce::String& done) = 0;
 
+    /** Says to a screen reader what nothing that it follows tells. */
+    virtual void announce (const juce::String& text) = 0;
+
     /** A field over a component in which a value is typed. `accept` says whether it has understood the text: then the
         field closes, else it shakes and stays. `next` is called after Tab.
     */

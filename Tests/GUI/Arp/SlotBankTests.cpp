@@ -132,6 +132,8 @@ TEST (SlotBank, StaysWithThePatternWhoseMenuIsOpen)
         editor.polls.callListeners();
         EXPECT_EQ (editor.shownSlot.get(), isOpen ? 0 : 3);
     }
+
+    EXPECT_EQ (editor.overlay.announced.joinIntoString ("; "), "Pattern 4, playing, empty");
 }
 
 TEST_F (SlotBankOfEditor, OpensWhatUndoHasChangedAndNotWhatPlaysThen)

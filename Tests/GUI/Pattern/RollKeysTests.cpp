@@ -21,6 +21,7 @@ struct RollKeysTest : testing::Test
     Tests::BareEditor bare;
     PatternEditor editor { bare.context };
     RollTools tools { bare.context, editor };
+    RowNames names;
     RollKeys keys { bare.context,
                     editor,
                     tools,
@@ -28,7 +29,8 @@ struct RollKeysTest : testing::Test
                       .pasteTime = [] { return 0.53; },
                       .zoom = [] (double) {},
                       .fit = [] {},
-                      .reveal = [] (double, double, int) {} } };
+                      .reveal = [] (double, double, int) {},
+                      .names = [this]() -> const RowNames& { return names; } } };
 
     void press (const juce::String& description)
     {
@@ -126,6 +128,20 @@ TEST_F (RollKeysTest, TheCellCursorMeansWhatLiesInItsCellOnly)
     editor.perform ("Grid", [] (Drawing& drawing) { drawing.grid = 4; });
     press ("return");
     EXPECT_EQ (editor.getDrawing().note (2).time.start, 0.75) << "in the last column that there is";
+}
+
+TEST_F (RollKeysTest, TellWhatTheyReach)
+{
+    start ({});
+
+    for (const auto* key : { "cursor up", "cursor down", "tab", "cursor right" })
+        press (key);
+
+    EXPECT_EQ (bare.overlay.announced.joinIntoString ("\n"),
+               "Row 0, beat 1.1, empty\n"
+               "Row -1, beat 1.1, empty\n"
+               "Row -4, beat 1.1, length 1, velocity 80 %, chance 100 %\n"
+               "Row -4, beat 1.2, length 1, velocity 80 %, chance 100 %");
 }
 
 TEST_F (RollKeysTest, LettersTakeToolsAndOthersAreLeftAlone)

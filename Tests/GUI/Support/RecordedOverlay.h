@@ -42,6 +42,8 @@ struct RecordedOverlay : GUI::Overlay
     void showUndo (const juce::String& done) override { message = done; }
     bool isEnteringValue() const noexcept override { return false; }
 
+    void announce (const juce::String& text) override { announced.add (text); }
+
     void enterValue (juce::Component& over,
                      const juce::String& text,
                      std::function<bool (const juce::String&)> newAccept,
@@ -68,6 +70,7 @@ struct RecordedOverlay : GUI::Overlay
     bool menuIsOpen = false;
     std::function<void (int)> chosen; // of the menu
     juce::String readout, message;
+    juce::StringArray announced;
 
     juce::String enteredOver, offered; // by the text entry
     std::function<bool (const juce::String&)> accept;
