@@ -1,7 +1,6 @@
 #include "GUI/Pattern/CellCursor.h"
 
 #include "GUI/Pattern/NoteEdits.h"
-#include "Midi/RowToPitchTable.h"
 
 #include <algorithm>
 #include <utility>
@@ -21,7 +20,7 @@ void CellCursor::move (int columns, int rows)
 {
     const auto grid = editor.getGrid();
     const auto& cursor = editor.cellCursor.get();
-    auto cell = cursor.value_or (RollCell { .column = 0, .row = Midi::RowToPitchTable::rowOfLowestNote });
+    auto cell = cursor.value_or (RollCell {});
 
     if (cursor) // the first key only shows it
     {

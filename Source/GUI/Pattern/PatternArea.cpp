@@ -1,6 +1,7 @@
 #include "GUI/Pattern/PatternArea.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Widgets/ValueKeys.h"
 
 namespace Zn::GUI
 {
@@ -82,6 +83,12 @@ bool PatternArea::pressKey (const juce::KeyPress& key)
         && modifiers.isCtrlDown()) // without it Tab goes from note to note
     {
         drawing.moveKeyboardFocusToSibling (! modifiers.isShiftDown());
+        return true;
+    }
+
+    if (ValueKey::of (key).wish == ValueKey::Wish::menu)
+    {
+        menus.showForKeys (drawing, ruler);
         return true;
     }
 

@@ -46,6 +46,16 @@ public:
         popup.addSubMenu (name, lines);
     }
 
+    /** The lines that the function adds become a menu in the menu. */
+    template <typename AddLines>
+    void addGroup (const juce::String& name, AddLines&& addLines)
+    {
+        auto outer = std::exchange (popup, {});
+        addLines();
+        outer.addSubMenu (name, popup);
+        popup = std::move (outer);
+    }
+
     void addSeparator() { popup.addSeparator(); }
 
     void show (juce::Component* beside)
@@ -179,6 +189,38 @@ void RollMenus::addEmptyLines (Menu& menu, RollPoint at)
 void RollMenus::showForRuler (juce::Component& ruler)
 {
     Menu menu (*this);
+    addPatternLines (menu, ruler);
+    menu.show (nullptr);
+}
+
+void RollMenus::showForRow (int row)
+{
+    Menu menu (*this);
+    addRowLines (menu, row);
+    menu.show (nullptr);
+}
+
+void RollMenus::showForKeys (juce::Component& roll, juce::Component& ruler)
+{
+    const auto& drawing = editor.getDrawing();
+    const auto hasSelection = ! drawing.selection.isEmpty();
+    const auto cell = editor.cellCursor.get().value_or (RollCell {});
+    const auto row = hasSelection ? drawing.note (drawing.selection.first()).event.noteNum : cell.row;
+    Menu menu (*this);
+
+    if (hasSelection)
+        addNoteLines (menu);
+    else
+        addEmptyLines (menu, { cell.column * editor.getGrid().column(), row + 0.5 });
+
+    menu.addSeparator();
+    menu.addGroup ("Row", [&] { addRowLines (menu, row); });
+    menu.addGroup ("Pattern", [&] { addPatternLines (menu, ruler); });
+    menu.show (&roll);
+}
+
+void RollMenus::addPatternLines (Menu& menu, juce::Component& ruler)
+{
     menu.addEdit (juce::String::fromUTF8 ("Repeat ×2"), WholePattern::repeatTwice);
     menu.addEdit ("Halve", WholePattern::halve);
     menu.addSeparator();
@@ -192,7 +234,6 @@ void RollMenus::showForRuler (juce::Component& ruler)
                   if (safe != nullptr)
                       askForVelocityScale (*safe);
               });
-    menu.show (nullptr);
 }
 
 void RollMenus::askForVelocityScale (juce::Component& ruler)
@@ -215,7 +256,7 @@ void RollMenus::askForVelocityScale (juce::Component& ruler)
     context.overlay.enterValue (ruler, "100 %", accept);
 }
 
-void RollMenus::showForRow (int row)
+void RollMenus::addRowLines (Menu& menu, int row)
 {
     const auto notes = NoteQueries::notesInRow (editor.getDrawing(), row);
     const auto moveBy = [this, row] (int rows) {
@@ -226,7 +267,6 @@ void RollMenus::showForRow (int row)
         });
     };
 
-    Menu menu (*this);
     menu.add (
         "Select row",
         [this, row] { editor.select (NoteQueries::notesInRow (editor.getDrawing(), row)); },
@@ -248,6 +288,5 @@ void RollMenus::showForRow (int row)
         "Row down",
         [moveBy] { moveBy (-1); },
         ! notes.isEmpty());
-    menu.show (nullptr);
 }
 } // namespace Zn::GUI

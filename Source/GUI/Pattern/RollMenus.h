@@ -21,11 +21,16 @@ public:
     void showForRuler (juce::Component& ruler);
     void showForRow (int row);
 
+    /** All of them in one, for the selection or else the cell cursor. */
+    void showForKeys (juce::Component& roll, juce::Component& ruler);
+
 private:
     class Menu;
 
     void addNoteLines (Menu& menu);
     void addEmptyLines (Menu& menu, RollPoint at);
+    void addPatternLines (Menu& menu, juce::Component& ruler);
+    void addRowLines (Menu& menu, int row);
     void askForVelocityScale (juce::Component& ruler);
 
     EditorContext& context;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Midi/RowToPitchTable.h"
+
 #include <juce_gui_basics/juce_gui_basics.h>
 
 #include <algorithm>
@@ -19,10 +21,10 @@ struct RollPoint
     bool operator== (const RollPoint&) const = default;
 };
 
-/** A column of one row. */
+/** A column of one row; by default where the lowest key begins. */
 struct RollCell
 {
-    int column = 0, row = 0;
+    int column = 0, row = Midi::RowToPitchTable::rowOfLowestNote;
 
     bool operator== (const RollCell&) const = default;
 };

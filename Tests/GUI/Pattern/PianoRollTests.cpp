@@ -72,6 +72,12 @@ struct OpenRoll : Tests::OpenEditor
 };
 } // namespace
 
+TEST (PianoRoll, OpensItsMenuByTheMenuKey)
+{
+    OpenRoll editor;
+    EXPECT_TRUE (Tests::Hand::press (editor.roll, "shift + F10"));
+}
+
 TEST (PianoRoll, HandsTheMouseToTheToolInHand)
 {
     OpenRoll editor;

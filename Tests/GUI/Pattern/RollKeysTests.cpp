@@ -173,6 +173,32 @@ TEST_F (RollKeysTest, NotesKeepTheirColumnsInAnotherGrid)
     EXPECT_EQ (shorter.numNotes(), 1) << "what has no room is left out";
 }
 
+TEST_F (RollKeysTest, TheMenuKeyOffersAllMenusInOne)
+{
+    RollMenus menus (bare.context, editor);
+    juce::Component roll;
+    start ({ 1 });
+
+    for (const auto* line : { "Disable", "Row up", "Shift right one column" })
+    {
+        menus.showForKeys (roll, roll);
+        bare.overlay.choose (line);
+    }
+
+    EXPECT_EQ (text(), "60 @0.0625+0.0625, -63 @0.3125+0.125");
+
+    editor.select ({});
+    editor.cellCursor.set (RollCell { .column = 2, .row = 60 });
+
+    for (const auto* line : { "Erase row", "Select all" })
+    {
+        menus.showForKeys (roll, roll);
+        bare.overlay.choose (line);
+    }
+
+    EXPECT_EQ (editor.getDrawing().selection, NoteSelection::all (1));
+}
+
 TEST_F (RollKeysTest, MenusActOnWhatTheyWereOpenedFor)
 {
     RollMenus menus (bare.context, editor);
