@@ -50,7 +50,7 @@ OverlayLayer::OverlayLayer (juce::Component& pageToCover,
     , keysInUse (keysInUseToTell)
     , readoutShadow (addedTo (*this, readout), canvas)
     , messageShadow (addedTo (*this, message), canvas)
-    , tooltips (*this, canvasToUse, settingsToUse, polls)
+    , tooltips (pageToCover, *this, canvasToUse, settingsToUse, polls)
     , pollListener (polls, [this] { poll(); })
     , editListener (edits.getUndo(), [this] { withdrawUndo(); })
 {

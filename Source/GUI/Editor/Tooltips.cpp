@@ -25,36 +25,46 @@ int delayOf (const juce::Component& owner) // milliseconds
 }
 } // namespace
 
-Tooltips::Tooltips (juce::Component& layerToUse,
+Tooltips::Tooltips (juce::Component& pageToWatch,
+                    juce::Component& layerToUse,
                     const AssetScheme::Canvas& canvas,
                     const UserSettings& settingsToUse,
                     Events::Broadcaster& polls)
-    : layer (layerToUse)
+    : page (pageToWatch)
+    , layer (layerToUse)
     , settings (settingsToUse)
     , card (canvas)
     , shadow (addedTo (layer, card), canvas)
     , pollListener (polls, [this] { poll(); })
-{}
+{
+    page.addMouseListener (this, true);
+}
+
+Tooltips::~Tooltips()
+{
+    page.removeMouseListener (this);
+}
+
+void Tooltips::follow (const juce::MouseEvent& event)
+{
+    const auto now = event.getEventRelativeTo (&layer).getPosition();
+
+    if (std::exchange (lastPointer, now) != now)
+        restsSince = juce::Time::getMillisecondCounter();
+}
 
 void Tooltips::poll()
 {
     const auto mouse = juce::Desktop::getInstance().getMainMouseSource();
     auto* const under = mouse.getComponentUnderMouse();
-    const auto pointer = layer.getLocalPoint (nullptr, mouse.getScreenPosition()).roundToInt();
-    const auto now = juce::Time::getMillisecondCounter();
-    const auto* const page = layer.getParentComponent();
 
     if (mouse.isDragging())
         pressed = under; // what has been clicked needs no explanation
     else if (under != pressed)
         pressed = nullptr;
 
-    if (std::exchange (lastPointer, pointer) != pointer)
-        restsSince = now;
-
-    const auto isAsked =
-        under != nullptr && pressed == nullptr && page != nullptr && page->isParentOf (under);
-    look (isAsked ? under : nullptr, pointer, int (now - restsSince));
+    const auto isAsked = under != nullptr && pressed == nullptr && page.isParentOf (under);
+    look (isAsked ? under : nullptr, lastPointer, int (juce::Time::getMillisecondCounter() - restsSince));
 }
 
 void Tooltips::look (juce::Component* underPointer, juce::Point<int> pointer, int restedMilliseconds)

@@ -7,15 +7,19 @@
 
 namespace Zn::GUI
 {
-/** Watches what the pointer rests on, and explains it. Thread: message. */
-class Tooltips
+/** Watches what the pointer rests on, and explains it. Where the pointer is it knows from the mouse events: an answer of
+    the window system takes its time. Thread: message.
+*/
+class Tooltips : private juce::MouseListener
 {
 public:
-    /** Shows them on the layer, for what lies in its parent. */
-    Tooltips (juce::Component& layerToUse,
+    /** Shows them on the layer, for what lies in the page. */
+    Tooltips (juce::Component& pageToWatch,
+              juce::Component& layerToUse,
               const AssetScheme::Canvas& canvas,
               const UserSettings& settingsToUse,
               Events::Broadcaster& polls);
+    ~Tooltips() override;
 
     /** What the pointer is on, and how long it has rested: shows the tooltip of it, or takes that away. */
     void look (juce::Component* underPointer, juce::Point<int> pointer, int restedMilliseconds);
@@ -25,17 +29,22 @@ public:
     juce::String getShown() const { return card.isVisible() ? card.getTitle() : juce::String(); }
 
 private:
+    void mouseEnter (const juce::MouseEvent& event) override { follow (event); }
+    void mouseMove (const juce::MouseEvent& event) override { follow (event); }
+    void mouseDrag (const juce::MouseEvent& event) override { follow (event); }
+
+    void follow (const juce::MouseEvent& event);
     void poll();
 
-    juce::Component& layer;
+    juce::Component &page, &layer;
     const UserSettings& settings;
     TooltipCard card;
     CardShadow shadow;
     TooltipText text;
     juce::Component::SafePointer<juce::Component> explained, pressed;
-    juce::Point<int> lastPointer;
-    juce::uint32 restsSince = 0; // milliseconds
-    int lastLook = 0;            // in intervals of looks at a text
+    juce::Point<int> lastPointer; // on the layer
+    juce::uint32 restsSince = 0;  // milliseconds
+    int lastLook = 0;             // in intervals of looks at a text
     Events::Listener pollListener;
 };
 } // namespace Zn::GUI

@@ -2,13 +2,15 @@
 
 #include "GUI/Framework/AssetScheme/Base.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Zn::GUI
 {
 namespace
 {
-constexpr auto longestStep = 0.25f; // seconds; a meter that was not looked at does not fall through
+constexpr auto longestStep = 0.25f;    // seconds; a meter that was not looked at does not fall through
+constexpr auto askingInterval = 500.0; // milliseconds; the window system's answer takes its time
 
 struct SpokenLevel : juce::AccessibilityValueInterface
 {
@@ -60,7 +62,7 @@ bool Meter::isSeen() const
         if (part == nullptr || ! part->isVisible())
             return false;
 
-    return getPeer() == nullptr || isShowing();
+    return ! isMinimised;
 }
 
 void Meter::listenWhileSeen()
@@ -101,12 +103,20 @@ int Meter::topOf (float decibels) const
 
 void Meter::poll()
 {
+    const auto now = juce::Time::getMillisecondCounterHiRes();
+
+    if (now - lastAsked >= askingInterval)
+    {
+        const auto* const peer = getPeer();
+        isMinimised = peer != nullptr && peer->isMinimised();
+        lastAsked = now;
+    }
+
     listenWhileSeen();
 
     if (! isListening)
         return;
 
-    const auto now = juce::Time::getMillisecondCounterHiRes();
     const auto seconds = static_cast<float> ((now - std::exchange (lastPoll, now)) / 1000.0);
     const auto gain = context.state().meter.load();
 
@@ -120,8 +130,20 @@ void Meter::redraw()
 {
     const Drawing current { topOf (shown.level), topOf (shown.peak), shown.clipped };
 
-    if (std::exchange (drawing, current) != current)
-        repaint();
+    const auto before = std::exchange (drawing, current);
+
+    if (before.isRed != current.isRed)
+        return repaint();
+
+    const auto repaintBetween = [this] (int top, int otherTop, int height) {
+        const auto [upper, lower] = std::minmax (top, otherTop);
+
+        if (upper != lower)
+            repaint (0, upper, getWidth(), lower + height - upper);
+    };
+
+    repaintBetween (before.levelTop, current.levelTop, 0);
+    repaintBetween (before.peakTop, current.peakTop, 1 + static_cast<int> (pixels ("ThinnerStroke")));
 }
 
 void Meter::mouseDown (const juce::MouseEvent& event)

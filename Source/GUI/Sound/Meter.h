@@ -47,7 +47,7 @@ private:
     Drawing drawing;
     juce::Path frame;
     juce::FillType fill;
-    double lastPoll = 0.0; // milliseconds
-    bool isListening = false;
+    double lastPoll = 0.0, lastAsked = 0.0; // milliseconds
+    bool isMinimised = false, isListening = false;
 };
 } // namespace Zn::GUI

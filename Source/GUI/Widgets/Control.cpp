@@ -30,6 +30,18 @@ juce::Colour stepped (juce::Colour from, juce::Colour state, juce::Colour rest)
              channel (from.getBlue() + state.getBlue() - rest.getBlue()),
              from.getAlpha() };
 }
+
+/** JUCE's own question would ask the window system where the pointer is. */
+bool isPointed (const juce::Component& component)
+{
+    const auto mouse = juce::Desktop::getInstance().getMainMouseSource();
+
+    if (mouse.isDragging())
+        return component.isMouseOver (true);
+
+    const auto* const under = mouse.getComponentUnderMouse();
+    return under == &component || component.isParentOf (under);
+}
 } // namespace
 
 Control::Control (EditorContext& contextToUse, std::string element)
@@ -214,7 +226,7 @@ void Control::update()
 
 void Control::fade()
 {
-    const auto target = isEnabled() && isMouseOver (true) ? 1.0f : 0.0f;
+    const auto target = isPointed (*this) && isEnabled() ? 1.0f : 0.0f;
 
     if (hover == target)
         return;
