@@ -4,6 +4,8 @@
 #include "GUI/Framework/AssetScheme/Base.h"
 #include "Parameters/CreateForwarder.h"
 
+#include <utility>
+
 namespace Zn::GUI
 {
 namespace
@@ -87,7 +89,10 @@ void ArpParams::poll()
     const auto followsKey = context.state().keyMode.load();
     transpose.setVisible (! followsKey);
     key.setVisible (followsKey);
-    swingValue.setText (swing.getShownText());
+
+    if (const auto now = swing.getParameter()->getFloat(); std::exchange (shownSwing, now) != now)
+        swingValue.setText (swing.getShownText());
+
     rangeValue.setText (range.getShownText());
 }
 } // namespace Zn::GUI

@@ -9,6 +9,8 @@
 #include "GUI/Widgets/Slider.h"
 #include "GUI/Widgets/Stepper.h"
 
+#include <optional>
+
 namespace Zn::GUI
 {
 /** What shapes every pattern: pitch, swing and the range of octaves. Thread: message. */
@@ -35,6 +37,7 @@ private:
     Divider afterOctave { context, "ArpParamDivider2" };
 
     Label swingLabel, swingValue;
+    std::optional<float> shownSwing;
     Slider swing;
     Segments swingRef;
     Divider afterSwing { context, "ArpParamDivider3" };

@@ -2,6 +2,8 @@
 
 #include "GUI/Framework/AssetScheme/Base.h"
 
+#include <utility>
+
 namespace Zn::GUI
 {
 namespace
@@ -101,8 +103,19 @@ void BrushBand::poll()
     const auto shown = static_cast<std::size_t> (context.shownSlot.get());
     const auto& slot = context.state().patterns.getSlots()[shown];
 
-    patternLength.setText (lengthText (slot.length()));
-    multiply.setLabel (juce::String (juce::CharPointer_UTF8 ("\xc3\x97 "))
-                       + juce::String (slot.pattern.grid));
+    showLength (slot.length());
+    showGrid (slot.pattern.grid);
+}
+
+void BrushBand::showLength (double quarters)
+{
+    if (std::exchange (shownQuarters, quarters) != quarters)
+        patternLength.setText (lengthText (quarters));
+}
+
+void BrushBand::showGrid (int numColumns)
+{
+    if (std::exchange (shownColumns, numColumns) != numColumns)
+        multiply.setLabel (juce::String (juce::CharPointer_UTF8 ("\xc3\x97 ")) + juce::String (numColumns));
 }
 } // namespace Zn::GUI

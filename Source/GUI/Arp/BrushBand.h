@@ -22,6 +22,8 @@ public:
 
 private:
     void poll();
+    void showLength (double quarters);
+    void showGrid (int numColumns);
 
     EditorContext& context;
     PatternParams params { context };
@@ -37,6 +39,8 @@ private:
     Divider afterGrid { context, "BrushDivider2" };
 
     Label timeLabel, timeSlash, patternLength;
+    double shownQuarters = -1.0;
+    int shownColumns = -1;
     NumberField timeNum, timeDenum;
     Toggle multiply;
     DragMidi dragMidi { context };
