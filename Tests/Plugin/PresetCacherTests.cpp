@@ -16,7 +16,7 @@ namespace
 {
 void runTimerFor (int milliseconds)
 {
-    for (auto i = 0; i < milliseconds / Events::SharedTimer::intervalMilliseconds; ++i)
+    for (auto elapsed = 0; elapsed < milliseconds; elapsed += Events::SharedTimer::intervalMilliseconds)
         Events::SharedTimer::getInstance().timerCallback();
 }
 } // namespace
@@ -34,7 +34,7 @@ TEST (PresetCacher, MakesADocumentTwiceASecondAtMostAndOnlyAfterAChange)
     for (auto* parameter : processor.getParameters())
         parameter->setValueNotifyingHost (0.75f);
 
-    runTimerFor (480);
+    runTimerFor (400);
     EXPECT_EQ (made, 1);
     runTimerFor (2000);
     EXPECT_EQ (made, 2);

@@ -32,7 +32,8 @@ public:
     /** Calls everyone once, as the clock does. Thread: message. */
     void timerCallback() override;
 
-    static constexpr int intervalMilliseconds = 20;
+    static constexpr int intervalMilliseconds =
+        33; // as often as the screen is looked at: each tick wakes two threads
 
 private:
     void applyPending();

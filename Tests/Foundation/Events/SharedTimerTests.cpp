@@ -73,24 +73,26 @@ TEST (UpdateTimer, KeepsItsIntervalOverManyTicksAndStartsItAnewWhenSwitchedOn)
 {
     const Singleton::UserToken user;
     auto calls = 0;
-    UpdateTimer timer (UpdateTimer::screenInterval, [&] { ++calls; });
+    constexpr auto ticksPerCall = 1.6;
+    UpdateTimer timer (static_cast<int> (ticksPerCall * SharedTimer::intervalMilliseconds), [&] { ++calls; });
 
-    const auto run = [] (int milliseconds) {
-        for (auto i = 0; i < milliseconds / SharedTimer::intervalMilliseconds; ++i)
+    const auto run = [] (int numTicks) {
+        for (auto i = 0; i < numTicks; ++i)
             tick();
     };
 
-    run (3300);
-    EXPECT_EQ (calls, 100);
+    run (160);
+    EXPECT_NEAR (calls, 100, 1);
 
     timer.setActive (false);
-    run (1000);
+    run (50);
     timer.setActive (true);
+    calls = 0;
     tick();
-    EXPECT_EQ (calls, 100);
+    EXPECT_EQ (calls, 0);
 
     tick();
-    EXPECT_EQ (calls, 101);
+    EXPECT_EQ (calls, 1);
 }
 
 TEST (SharedTimer, OutlivesATickInWhichTheLastUserLeaves)
