@@ -148,7 +148,8 @@ void SlotTile::paintControl (juce::Graphics& g)
     if (look.isPending)
         paintPendingEdge (g);
 
-    paintHead (g);
+    if (g.clipRegionIntersects (getLocalBounds().withBottom (progressBounds().getY())))
+        paintHead (g); // its text takes longer than all else, and mostly the progress alone has moved
 
     if (look.takesDrop)
     {

@@ -3,6 +3,7 @@
 #include "GUI/Framework/AssetScheme/Base.h"
 
 #include <cmath>
+#include <utility>
 
 namespace Zn::GUI
 {
@@ -14,7 +15,7 @@ PlayLine::PlayLine (RollContext& contextToUse)
     setInterceptsMouseClicks (false, false);
     setAccessible (false);
     setComponentID ("PlayLine"); // for tests: it has no place of its own
-    setVisible (false);
+    setVisible (true);
 }
 
 void PlayLine::setTrack (juce::Rectangle<int> newTrack, juce::Rectangle<int> newRoll)
@@ -27,6 +28,7 @@ void PlayLine::setTrack (juce::Rectangle<int> newTrack, juce::Rectangle<int> new
     stroke = std::max (1, juce::roundToInt (canvas.pixelsOf ("ThinnerStroke")));
     lineColour = scheme.colourOf ("Time");
     trailColour = scheme.colourOf ("TimeWash");
+    trail.invalidate();
 
     // A small house upside down, whose tip stands on the ruler's foot.
     constexpr auto radiusOfHandle = 0.73f, wallOfRadius = 0.8f;
@@ -43,6 +45,7 @@ void PlayLine::setTrack (juce::Rectangle<int> newTrack, juce::Rectangle<int> new
     head.lineTo (-radius, wall);
     head.closeSubPath();
 
+    setBounds (track.expanded (headRadius, 0)); // the head may stand at either end
     place (lastPlace);
     repaint();
 }
@@ -88,6 +91,20 @@ void PlayLine::look()
 void PlayLine::place (const std::optional<PlayPlace>& newPlace)
 {
     lastPlace = newPlace;
+    const auto before = std::exchange (drawn, moveLine (newPlace));
+
+    if (before == drawn)
+        return;
+
+    if (before.intersects (drawn))
+        return repaint (before.getUnion (drawn)); // one rectangle comes to the screen at once
+
+    repaint (before);
+    repaint (drawn);
+}
+
+juce::Rectangle<int> PlayLine::moveLine (const std::optional<PlayPlace>& newPlace)
+{
     const auto& geometry = context.view.get();
     const auto stepsByColumn = context.editor.settings.get().reducedMotion;
     const auto isHeard = newPlace && newPlace->slot == context.editor.shownSlot.get();
@@ -95,44 +112,53 @@ void PlayLine::place (const std::optional<PlayPlace>& newPlace)
                       : stepsByColumn ? geometry.columnAt (newPlace->time) * geometry.columnLength()
                                       : newPlace->time;
     const auto inRoll = geometry.pixelOf (time);
-    const auto isSeen = isHeard && inRoll >= 0 && inRoll <= geometry.size.width;
 
-    setVisible (isSeen);
+    if (! isHeard || inRoll < 0 || inRoll > geometry.size.width)
+        return {};
 
-    if (! isSeen)
-        return;
+    const auto column = roll.withZeroOrigin().withWidth (
+        std::min (roll.getWidth(), static_cast<int> (geometry.columnWidth())));
 
-    linePixel = track.getX() + inRoll;
-    trailLength = stepsByColumn ? 0 : std::min (inRoll, static_cast<int> (geometry.columnWidth()));
-    setBounds (juce::Rectangle<int>::leftTopRightBottom (linePixel - std::max (trailLength, headRadius),
-                                                         track.getY(),
-                                                         linePixel + std::max (stroke, headRadius),
-                                                         track.getBottom()));
+    if (std::exchange (wholeTrail, column) != column)
+        trail.invalidate();
+
+    linePixel = headRadius + inRoll;
+    trailLength = stepsByColumn ? 0 : std::min (inRoll, column.getWidth());
+    return getLocalBounds()
+        .withLeft (linePixel - std::max (trailLength, headRadius))
+        .withRight (linePixel + std::max (stroke, headRadius));
 }
 
 void PlayLine::paint (juce::Graphics& g)
 {
-    const auto x = linePixel - getX();
-    const auto foot = roll.getY() - track.getY();
-    paintTrail (g, roll.withPosition (x, foot));
+    if (drawn.isEmpty())
+        return;
 
+    paintTrail (g);
+
+    const auto foot = roll.getY() - track.getY();
     g.setColour (lineColour);
-    g.fillRect (x, foot, stroke, getHeight() - foot);
-    g.fillPath (head, juce::AffineTransform::translation (float (x) + 0.5f * float (stroke), 0.0f));
+    g.fillRect (linePixel, foot, stroke, getHeight() - foot);
+    g.fillPath (head, juce::AffineTransform::translation (float (linePixel) + 0.5f * float (stroke), 0.0f));
 }
 
-void PlayLine::paintTrail (juce::Graphics& g, juce::Rectangle<int> fromLine) const
+void PlayLine::paintTrail (juce::Graphics& g)
 {
-    constexpr auto strips = 24; // their steps are too fine to be seen
+    const auto area = wholeTrail.withPosition (linePixel - wholeTrail.getWidth(), roll.getY() - track.getY());
+    const juce::Graphics::ScopedSaveState saved (g);
 
-    const auto edgeOf = [&] (int strip) {
-        return fromLine.getX() - trailLength + strip * trailLength / strips;
-    };
+    if (trailLength == 0 || ! g.reduceClipRegion (area.withLeft (linePixel - trailLength)))
+        return;
 
-    for (auto strip = 0; strip < strips && trailLength > 0; ++strip)
-    {
-        g.setColour (trailColour.withMultipliedAlpha (float (strip + 1) / float (strips)));
-        g.fillRect (fromLine.withX (edgeOf (strip)).withRight (edgeOf (strip + 1)));
-    }
+    g.setOrigin (area.getPosition());
+    trail.paint (g, wholeTrail);
+}
+
+void PlayLine::fillTrail (juce::Graphics& g) const
+{
+    const auto length = float (wholeTrail.getWidth());
+    g.setGradientFill (
+        juce::ColourGradient::horizontal (trailColour.withAlpha (0.0f), 0.0f, trailColour, length));
+    g.fillRect (wholeTrail);
 }
 } // namespace Zn::GUI

@@ -5,13 +5,14 @@
 
 namespace Zn::GUI
 {
-juce::Image imageAtScale (juce::Rectangle<int> area, float scale)
+juce::Image imageAtScale (juce::Rectangle<int> area, float scale, juce::Image::PixelFormat format)
 {
     const auto pixels = [scale] (int length) {
         return std::max (1, static_cast<int> (std::ceil (float (length) * scale)));
     };
 
-    return { juce::Image::RGB, pixels (area.getWidth()), pixels (area.getHeight()), false };
+    const auto isClear = format != juce::Image::RGB;
+    return { format, pixels (area.getWidth()), pixels (area.getHeight()), isClear };
 }
 
 void drawAtScale (juce::Graphics& g, const juce::Image& image, float scale)
@@ -27,7 +28,7 @@ void ScaledImage::paint (juce::Graphics& g, juce::Rectangle<int> size)
     if (image.isNull() || scale != screenScale)
     {
         scale = screenScale;
-        image = imageAtScale (size, scale);
+        image = imageAtScale (size, scale, format);
 
         juce::Graphics content (image);
         content.addTransform (juce::AffineTransform::scale (scale));

@@ -14,12 +14,14 @@ class ScaledImage
 public:
     using Paint = std::function<void (juce::Graphics&)>;
 
-    explicit ScaledImage (Paint paintToUse) : paintContent (std::move (paintToUse)) {}
+    explicit ScaledImage (Paint paintToUse, juce::Image::PixelFormat formatToUse = juce::Image::RGB)
+        : paintContent (std::move (paintToUse)), format (formatToUse)
+    {}
 
     /** It is painted anew next time. */
     void invalidate() { image = {}; }
 
-    /** From the component's corner. What is painted must cover all of the size. */
+    /** From the component's corner. What is painted must cover all of the size where the format has no transparency. */
     void paint (juce::Graphics& g, juce::Rectangle<int> size);
 
     /** How often it was painted anew, for tests. */
@@ -27,14 +29,16 @@ public:
 
 private:
     const Paint paintContent;
+    const juce::Image::PixelFormat format;
     juce::Image image;
     float scale = 1.0f; // physical pixels in one of ours
     int numPaints = 0;
 };
 
-/** An image without transparency that is large enough for an area on a screen. */
-juce::Image imageAtScale (juce::Rectangle<int> area, float scale);
+/** An image that is large enough for an area on a screen, with nothing in it yet. */
+juce::Image
+imageAtScale (juce::Rectangle<int> area, float scale, juce::Image::PixelFormat format = juce::Image::RGB);
 
-/** Copies such an image to the component's corner, pixel for pixel. */
+/** Puts such an image to the component's corner, pixel for pixel. */
 void drawAtScale (juce::Graphics& g, const juce::Image& image, float scale);
 } // namespace Zn::GUI

@@ -68,7 +68,7 @@ struct OpenRoll : Tests::OpenEditor
     void take (Brush brush) { getState().brushParam.setInt (static_cast<int> (brush)); }
 
     PianoRoll& roll = find<PianoRoll> ("PianoRoll");
-    juce::Component& line = find ("PlayLine");
+    PlayLine& line = find<PlayLine> ("PlayLine");
 };
 } // namespace
 
@@ -132,17 +132,17 @@ TEST (PianoRoll, PaintsNothingAnewWhileNothingChanges)
 TEST (PlayLine, IsThereForTheSlotThatIsHeardAlone)
 {
     OpenRoll editor;
-    EXPECT_FALSE (editor.line.isVisible()) << "nothing plays";
+    EXPECT_TRUE (editor.line.getDrawn().isEmpty()) << "nothing plays";
 
     editor.play (0, 1.0);
-    EXPECT_TRUE (editor.line.isVisible());
-    const auto before = editor.line.getRight();
+    EXPECT_FALSE (editor.line.getDrawn().isEmpty());
+    const auto before = editor.line.getDrawn().getRight();
     editor.play (0, 2.0);
-    EXPECT_NEAR (editor.line.getRight() - before, editor.roll.getWidth() / 4, 1);
+    EXPECT_NEAR (editor.line.getDrawn().getRight() - before, editor.roll.getWidth() / 4, 1);
 
     editor.draw ({ { 0.0, 64 } }, 1);
     editor.play (1, 1.0);
-    EXPECT_FALSE (editor.line.isVisible()) << "another slot is heard";
+    EXPECT_TRUE (editor.line.getDrawn().isEmpty()) << "another slot is heard";
     EXPECT_TRUE (editor.find ("PlayingElsewhere").isVisible());
 
     Tests::Hand::click (editor.find ("PlayingElsewhere"));
@@ -152,7 +152,54 @@ TEST (PlayLine, IsThereForTheSlotThatIsHeardAlone)
 
     editor.getState().playHead->isPlaying = false;
     editor.poll();
-    EXPECT_FALSE (editor.line.isVisible());
+    EXPECT_TRUE (editor.line.getDrawn().isEmpty());
+}
+
+TEST (PlayLine, RepaintsWhereItWasAndIsAndNothingElseDoes)
+{
+    /** Takes down what becomes invalid. */
+    struct Repaints : juce::CachedComponentImage
+    {
+        explicit Repaints (juce::RectangleList<int>& areasToFill) : areas (areasToFill) {}
+
+        void paint (juce::Graphics&) override {}
+        bool invalidateAll() override { return invalidate ({ 10000, 10000 }); }
+        bool invalidate (const juce::Rectangle<int>& area) override { return areas.add (area), false; }
+        void releaseResources() override {}
+
+        juce::RectangleList<int>& areas;
+    };
+
+    juce::RectangleList<int> repaints;
+    OpenRoll editor;
+    editor.page.setVisible (true);
+    editor.poll();
+    editor.page.setCachedComponentImage (new Repaints (repaints));
+    repaints.clear();
+
+    for (auto look = 0; look < 50; ++look)
+        editor.poll();
+
+    EXPECT_TRUE (repaints.isEmpty()) << repaints.getBounds().toString() << " while the clock stands still";
+
+    const auto placeOf = [&] (juce::Component& part, juce::Rectangle<int> area) {
+        return editor.page.getLocalArea (&part, area);
+    };
+
+    editor.play (0, 1.0);
+    auto& tile = editor.find ("Slot1");
+    const auto before = placeOf (editor.line, editor.line.getDrawn());
+    repaints.clear();
+    editor.play (0, 1.03);
+
+    juce::RectangleList<int> lines (before);
+    lines.add (placeOf (editor.line, editor.line.getDrawn()));
+    auto missed = lines, others = repaints;
+    missed.subtract (repaints);
+    others.subtract (lines);
+    others.subtract (placeOf (tile, tile.getLocalBounds().removeFromBottom (4))); // its progress
+    EXPECT_TRUE (missed.isEmpty()) << missed.getBounds().toString();
+    EXPECT_TRUE (others.isEmpty()) << others.getBounds().toString();
 }
 
 TEST (RollView, ScrollsAndZoomsAndStaysSoThroughEdits)
