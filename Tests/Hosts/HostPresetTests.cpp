@@ -1,10 +1,8 @@
-#include "Hosts/LV2Host.h"
+#include "Hosts/Song.h"
 
-#include "Plugin/Bases/StateChunk.h"
 #include "Plugin/Vornel/Processor.h"
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <string>
@@ -14,15 +12,6 @@ namespace Zn::Tests
 {
 namespace
 {
-constexpr auto blockSize = 256;
-constexpr auto sampleRate = 48000.0; // hertz
-
-nlohmann::json documentIn (const juce::MemoryBlock& chunk)
-{
-    return nlohmann::json::parse (
-        Audio::Plugin::StateChunk::read (chunk.getData(), static_cast<int> (chunk.getSize())));
-}
-
 /** A preset file of the plug-in, and what hosts have of it. */
 struct Preset
 {

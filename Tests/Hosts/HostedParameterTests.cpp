@@ -1,5 +1,4 @@
-#include "Hosts/LV2Host.h"
-#include "Hosts/VST3Host.h"
+#include "Hosts/Song.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +9,6 @@ namespace Zn::Tests
 {
 namespace
 {
-constexpr auto blockSize = 256;
-constexpr auto sampleRate = 48000.0; // hertz
 constexpr auto numParameters = 40;
 constexpr auto longestName = 128;
 

@@ -16,12 +16,6 @@ namespace Zn::Tests
 {
 namespace
 {
-constexpr auto blockSize = 256;
-constexpr auto sampleRate = 48000.0;
-constexpr auto blocksPerSecond = 48000 / blockSize;
-
-const Song second { .numBlocks = blocksPerSecond };
-
 /** What this process holds of the system. */
 struct Holdings
 {
@@ -120,7 +114,7 @@ TEST (PluginLifetime, LeavesNothingBehindWhenItsLV2IsScannedAndUnloaded)
 TEST (PluginLifetime, AllowsFiftyInstancesThatPlayAtOnceAndGoInAnyOrder)
 {
     constexpr auto numInstances = 50, numThreads = 4;
-    const auto expected = Instance (true).play (second);
+    const auto expected = Instance (true).play (oneSecond);
     ASSERT_GT (expected.onsets.size(), 5u);
 
     std::vector<std::unique_ptr<Instance>> instances;
@@ -136,7 +130,7 @@ TEST (PluginLifetime, AllowsFiftyInstancesThatPlayAtOnceAndGoInAnyOrder)
         for (auto thread = 0; thread < numThreads; ++thread)
             hosts.emplace_back ([&, thread] {
                 for (auto i = static_cast<std::size_t> (thread); i < numInstances; i += numThreads)
-                    performances[i] = instances[i]->play (second);
+                    performances[i] = instances[i]->play (oneSecond);
             });
     }
 
@@ -151,7 +145,7 @@ TEST (PluginLifetime, AllowsFiftyInstancesThatPlayAtOnceAndGoInAnyOrder)
     while (instances.size() > 1)
         instances.erase (instances.begin() + random.nextInt (static_cast<int> (instances.size())));
 
-    EXPECT_TRUE (sameOnsets (instances.front()->play (second), expected)) << "the last one plays on";
+    EXPECT_TRUE (sameOnsets (instances.front()->play (oneSecond), expected)) << "the last one plays on";
 }
 
 TEST (PluginLifetime, OfOneInstanceDisturbsNoOtherThatPlays)

@@ -1,26 +1,14 @@
 #include "Hosts/Song.h"
 
-#include "Plugin/Bases/StateChunk.h"
 #include "Support/NoteStreams.h"
 #include "Support/RealTimeGuard.h"
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 namespace Zn::Tests
 {
 namespace
 {
-constexpr auto blockSize = 256;
-constexpr auto blocksPerSecond = 48000 / blockSize;
-constexpr auto sampleRate = 48000.0; // hertz
-
-nlohmann::json documentIn (const juce::MemoryBlock& chunk)
-{
-    return nlohmann::json::parse (
-        Audio::Plugin::StateChunk::read (chunk.getData(), static_cast<int> (chunk.getSize())));
-}
-
 struct Instruments
 {
     VST3Host vst3 { VORNEL_VST3_BUNDLE, sampleRate, blockSize };

@@ -1,19 +1,15 @@
 #include "Hosts/Song.h"
 
-#include "Plugin/Bases/StateChunk.h"
 #include "Support/NoteStreams.h"
 #include "Support/RealTimeGuard.h"
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 namespace Zn::Tests
 {
 namespace
 {
 constexpr auto samplesPerSixteenth = 6000; // at 120 quarter notes a minute and 48 kHz
-constexpr auto blockSize = 256;
-constexpr auto blocksPerSecond = 48000 / blockSize;
 
 /** The pitch that a step of a new instance's pattern plays over a held chord of C, E and G. */
 int pitchOfStep (int step)
@@ -38,24 +34,18 @@ Performance onTheGrid (int firstStep, int numSamples)
     return performance;
 }
 
-nlohmann::json documentIn (const juce::MemoryBlock& chunk)
-{
-    return nlohmann::json::parse (
-        Audio::Plugin::StateChunk::read (chunk.getData(), static_cast<int> (chunk.getSize())));
-}
-
 class Plugin : public testing::Test
 {
 protected:
     Performance playLV2 (const Song& song, Talk talk)
     {
-        LV2Host host { VORNEL_LV2_LIBRARY, song.sampleRate, blockSize };
+        LV2Host host { VORNEL_LV2_LIBRARY, sampleRate, blockSize };
         return play (host, song, talk);
     }
 
     Performance playVST3 (const Song& song)
     {
-        VST3Host host { VORNEL_VST3_BUNDLE, song.sampleRate, blockSize };
+        VST3Host host { VORNEL_VST3_BUNDLE, sampleRate, blockSize };
         return play (host, song);
     }
 
@@ -211,8 +201,8 @@ TEST_F (Plugin, SendsTheArpeggioAsMidiAndSoundsIt)
 TEST_F (Plugin, PlaysAProjectOfTheOtherFormat)
 {
     const Song song { .numBlocks = 2 * blocksPerSecond };
-    VST3Host vst3 { VORNEL_VST3_BUNDLE, song.sampleRate, blockSize };
-    LV2Host lv2 { VORNEL_LV2_LIBRARY, song.sampleRate, blockSize };
+    VST3Host vst3 { VORNEL_VST3_BUNDLE, sampleRate, blockSize };
+    LV2Host lv2 { VORNEL_LV2_LIBRARY, sampleRate, blockSize };
 
     // Something that neither plays by itself: every second step of the pattern, a fifth higher.
     auto project = documentIn (vst3.save());
@@ -238,15 +228,15 @@ TEST_F (Plugin, PlaysAProjectOfTheOtherFormat)
     EXPECT_TRUE (sameOnsets (play (vst3, song), expected));
     EXPECT_TRUE (sameOnsets (play (lv2, song, Talk::changesInBars), expected));
 
-    VST3Host back { VORNEL_VST3_BUNDLE, song.sampleRate, blockSize };
+    VST3Host back { VORNEL_VST3_BUNDLE, sampleRate, blockSize };
     back.restore (lv2.save());
     EXPECT_EQ (documentIn (back.save()), documentIn (lv2.save()));
 }
 
 TEST_F (Plugin, EndsItsNotesAndHandsTheKeysThroughWhileBypassed)
 {
-    LV2Host lv2 { VORNEL_LV2_LIBRARY, 48000.0, blockSize };
-    VST3Host vst3 { VORNEL_VST3_BUNDLE, 48000.0, blockSize };
+    LV2Host lv2 { VORNEL_LV2_LIBRARY, sampleRate, blockSize };
+    VST3Host vst3 { VORNEL_VST3_BUNDLE, sampleRate, blockSize };
 
     const auto check = [] (auto&& run, auto&& setBypassed) {
         juce::MidiBuffer events;
@@ -288,7 +278,7 @@ TEST_F (Plugin, EndsItsNotesAndHandsTheKeysThroughWhileBypassed)
 
 TEST_F (Plugin, AllocatesNothingWhileAnLV2HostRunsIt)
 {
-    LV2Host host { VORNEL_LV2_LIBRARY, 48000.0, blockSize };
+    LV2Host host { VORNEL_LV2_LIBRARY, sampleRate, blockSize };
     play (host, { .numBlocks = blocksPerSecond }, Talk::everyBlock);
 
     const juce::MidiBuffer noKeys;

@@ -10,7 +10,7 @@ namespace
 {
 constexpr int keys[] = { 60, 64, 67 };
 constexpr auto blocksAfterTheKeys = 16;
-constexpr auto largestBlock = 256;
+constexpr auto tempo = 120.0; // quarter notes a minute
 
 juce::MidiBuffer keysPressed (bool pressed)
 {
@@ -48,10 +48,10 @@ Performance perform (const Song& song, TestPlayHead& playHead, Process&& process
         if (const auto message = event.getMessage(); message.isNoteOn())
             performance.onsets.push_back ({ event.samplePosition, message.getNoteNumber() });
 
-    run (largestBlock, keysPressed (false));
+    run (blockSize, keysPressed (false));
 
     for (auto block = 0; block < blocksAfterTheKeys; ++block)
-        run (largestBlock, {});
+        run (blockSize, {});
 
     return performance;
 }
@@ -115,7 +115,7 @@ private:
 
 Performance play (LV2Host& host, const Song& song, Talk talk)
 {
-    TestPlayHead playHead { song.sampleRate, song.tempo };
+    TestPlayHead playHead { sampleRate, tempo };
     Narrator narrator { playHead, talk };
     std::vector<float> sound;
 
@@ -133,7 +133,7 @@ Performance play (LV2Host& host, const Song& song, Talk talk)
 
 Performance play (VST3Host& host, const Song& song)
 {
-    TestPlayHead playHead { song.sampleRate, song.tempo };
+    TestPlayHead playHead { sampleRate, tempo };
     host.setPlayHead (&playHead);
     std::vector<float> sound;
 

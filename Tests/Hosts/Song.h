@@ -2,6 +2,7 @@
 
 #include "Hosts/LV2Host.h"
 #include "Hosts/VST3Host.h"
+#include "Plugin/Projects.h"
 #include "Support/TestPlayHead.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +13,12 @@
 
 namespace Zn::Tests
 {
+using Audio::Plugins::Vornel::documentIn;
+
+inline constexpr auto blockSize = 256;
+inline constexpr auto sampleRate = 48000.0; // hertz
+inline constexpr auto blocksPerSecond = 48000 / blockSize;
+
 /** A piece of music for a host to play: a chord of C, E and G held from start to end, under a transport that the
     script may move at the start of any block.
 */
@@ -19,10 +26,10 @@ struct Song
 {
     std::function<void (TestPlayHead&, int block)> script = [] (auto&, int) {};
     int numBlocks = 0;
-    std::vector<int> blockSizes { 256 }; // samples, taken in turn
-    double sampleRate = 48000.0;         // hertz
-    double tempo = 120.0;                // quarter notes a minute
+    std::vector<int> blockSizes { blockSize }; // samples, taken in turn
 };
+
+inline const Song oneSecond { .numBlocks = blocksPerSecond };
 
 /** What came out of the plug-in. */
 struct Performance

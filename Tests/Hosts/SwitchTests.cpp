@@ -6,15 +6,6 @@
 
 namespace Zn::Tests
 {
-namespace
-{
-constexpr auto blockSize = 256;
-constexpr auto sampleRate = 48000.0;
-constexpr auto blocksPerSecond = 48000 / blockSize;
-
-const Song second { .numBlocks = blocksPerSecond };
-} // namespace
-
 TEST (PluginSwitches, OfOfflineRenderingChangeNoSample)
 {
     VST3Host vst3 (VORNEL_VST3_BUNDLE, sampleRate, blockSize),
@@ -27,12 +18,12 @@ TEST (PluginSwitches, OfOfflineRenderingChangeNoSample)
         offlineLV2 (VORNEL_LV2_LIBRARY, sampleRate, blockSize);
     offlineLV2.setFreeWheeling (true);
 
-    const auto expected = play (vst3, second);
+    const auto expected = play (vst3, oneSecond);
     EXPECT_GT (expected.onsets.size(), 5u);
 
-    for (const auto& performance : { play (offlineVST3, second),
-                                     play (lv2, second, Talk::everyBlock),
-                                     play (offlineLV2, second, Talk::everyBlock) })
+    for (const auto& performance : { play (offlineVST3, oneSecond),
+                                     play (lv2, oneSecond, Talk::everyBlock),
+                                     play (offlineLV2, oneSecond, Talk::everyBlock) })
     {
         EXPECT_TRUE (sameOnsets (performance, expected));
         EXPECT_TRUE (sameSound (performance, expected));
@@ -43,7 +34,7 @@ TEST (PluginSwitches, OfTheInputThatNobodyHearsChangeNothing)
 {
     const auto expected = [] {
         VST3Host host (VORNEL_VST3_BUNDLE, sampleRate, blockSize);
-        return play (host, second);
+        return play (host, oneSecond);
     }();
 
     for (const auto isOn : { false, true })
@@ -59,7 +50,7 @@ TEST (PluginSwitches, OfTheInputThatNobodyHearsChangeNothing)
         }
 
         plugin.prepareToPlay (sampleRate, blockSize);
-        const auto performance = play (host, second);
+        const auto performance = play (host, oneSecond);
         EXPECT_TRUE (sameOnsets (performance, expected)) << isOn;
         EXPECT_TRUE (sameSound (performance, expected)) << isOn;
     }
