@@ -2,7 +2,6 @@
 
 #include "Midi/EventWriter.h"
 #include "Support/Lateness.h"
-#include "Support/MidiText.h"
 #include "Support/RealTimeGuard.h"
 
 #include <gmock/gmock.h>
@@ -18,14 +17,9 @@ namespace
 using Midi::ShortMessage;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Tests::events;
 using Tests::ExpectRealTimeSafe;
 using Tests::isAtMostOneLate;
-using Tests::TestHost;
 using Tests::text;
-
-constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
-constexpr int bar = 4 * quarter;
 
 /** Many events in time order: as a broken controller or a merged multitrack sends them. */
 juce::MidiBuffer flood (int numEvents, int numSamples, const std::function<ShortMessage (int)>& messageAt)

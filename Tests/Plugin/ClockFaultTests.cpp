@@ -1,7 +1,6 @@
 #include "Plugin/ProcessorFixture.h"
 
 #include "Support/Lateness.h"
-#include "Support/MidiText.h"
 
 #include <gmock/gmock.h>
 
@@ -16,12 +15,8 @@ using PositionInfo = juce::AudioPlayHead::PositionInfo;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
-using Tests::events;
 using Tests::isAtMostOneLate;
-using Tests::TestHost;
 
-constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
-constexpr int bar = 4 * quarter;
 constexpr auto nan = std::numeric_limits<double>::quiet_NaN();
 constexpr auto infinity = std::numeric_limits<double>::infinity();
 
@@ -170,24 +165,33 @@ TEST (HostClock, GoesToWhereTheSongJumpsWithoutPlayingWhatLiesBetween)
         std::vector<int> starts; // samples behind the jump
     };
 
-    for (const auto& row : { Row { 4000.25, { 18000, 42000, 66000, 90000 } },
-                             Row { 1.0e9 + 0.25, { 18000, 42000, 66000, 90000 } },
-                             Row { -2.25, { 54000, 78000 } },
-                             Row { -8.0, {} },
-                             Row { 0.75, { 6000, 30000, 54000, 78000 } } })
-    {
-        Song song { 480, 0.2 };
-        song.host.run (quarter / 2);
-        const auto before = static_cast<int> (song.host.getPosition());
-        song.host.playHead.jumpTo (row.target);
-        song.host.run (bar);
+    const std::pair<const char*, std::function<void (PositionInfo&)>> hosts[] = {
+        { "all", {} },
+        { "samples", [] (auto& p) { p.setPpqPosition ({}); } },
+        { "quarter notes", [] (auto& p) { p.setTimeInSamples ({}); } },
+    };
 
-        auto expected = row.starts;
-        std::ranges::for_each (expected, [before] (int& sample) { sample += before; });
-        expected.insert (expected.begin(), 0);
-        EXPECT_THAT (song.starts(), testing::Pointwise (isAtMostOneLate(), expected)) << row.target;
-        song.expectBalanced();
-    }
+    for (const auto& [told, edit] : hosts)
+        for (const auto& row : { Row { 4000.25, { 18000, 42000, 66000, 90000 } },
+                                 Row { 1.0e9 + 0.25, { 18000, 42000, 66000, 90000 } },
+                                 Row { -2.25, { 54000, 78000 } },
+                                 Row { -8.0, {} },
+                                 Row { 0.75, { 6000, 30000, 54000, 78000 } } })
+        {
+            Song song { 480, 0.2 };
+            song.host.playHead.edit = edit;
+            song.host.run (quarter / 2);
+            const auto before = static_cast<int> (song.host.getPosition());
+            song.host.playHead.jumpTo (row.target);
+            song.host.run (bar);
+
+            auto expected = row.starts;
+            std::ranges::for_each (expected, [before] (int& sample) { sample += before; });
+            expected.insert (expected.begin(), 0);
+            EXPECT_THAT (song.starts(), testing::Pointwise (isAtMostOneLate(), expected))
+                << row.target << ", told in " << told;
+            song.expectBalanced();
+        }
 }
 
 TEST (HostClock, BeginsWithTheStepOfThePositionWhereTheSongStarts)
@@ -288,6 +292,8 @@ TEST (HostClock, MakesUpForWhatAHostDoesNotTell)
         { "no samples", [] (auto& p) { p.setTimeInSamples ({}); } },
         { "neither", [] (auto& p) { p.setPpqPosition ({}), p.setTimeInSamples ({}); } },
         { "quarter notes stand at 0", [] (auto& p) { p.setPpqPosition (nan); } },
+        { "quarter notes absurd", [] (auto& p) { p.setPpqPosition (1e300); } },
+        { "samples absurd", [] (auto& p) { p.setTimeInSamples (std::numeric_limits<std::int64_t>::min()); } },
         { "no tempo, so ours", [] (auto& p) { p.setBpm ({}), p.setPpqPosition ({}); }, quarter * 12 / 10 },
         { "tempo 0", [] (auto& p) { p.setBpm (0.0), p.setPpqPosition ({}); }, quarter * 12 / 10 },
         { "tempo not a number", [] (auto& p) { p.setBpm (nan), p.setPpqPosition ({}); }, quarter * 12 / 10 },

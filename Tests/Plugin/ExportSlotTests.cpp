@@ -2,7 +2,6 @@
 
 #include "Plugin/ProcessorFixture.h"
 #include "Sequencer/MidiPlayer/Song.h"
-#include "Support/MidiText.h"
 #include "Support/RenderedSteps.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +10,10 @@ namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
+using Tests::loop;
 using Tests::note;
+using Tests::Notes;
+using Tests::steps;
 
 const auto cMajor = Midi::RowToPitchTable::from ({ 60, 64, 67 }, Midi::wholeKeyboard);
 
@@ -55,24 +57,16 @@ TEST (ExportSlot, WritesOnePassOfWhatIsHeard)
     };
 
     const Row rows[] = {
-        { "steps",
-          Zn::Tests::loop (2.0, Zn::Tests::steps ("x-.x")),
-          "60 v102 0-960, 60 v102 1440-1920, end 1920" },
-        { "chance and spread",
-          Zn::Tests::loop (1.0, Zn::Tests::Notes { never }),
-          "64 v102 480-960, end 960" },
-        { "disabled", Zn::Tests::loop (1.0, Zn::Tests::Notes { disabled }), "end 960" },
-        { "swung",
-          Zn::Tests::loop (1.0, Zn::Tests::Notes { note (64, 0.36, 0.24) }),
-          "60 v102 345-576, end 960" },
+        { "steps", loop (2.0, steps ("x-.x")), "60 v102 0-960, 60 v102 1440-1920, end 1920" },
+        { "chance and spread", loop (1.0, Notes { never }), "64 v102 480-960, end 960" },
+        { "disabled", loop (1.0, Notes { disabled }), "end 960" },
+        { "swung", loop (1.0, Notes { note (64, 0.36, 0.24) }), "60 v102 345-576, end 960" },
         { "a row over itself",
-          Zn::Tests::loop (1.0, Zn::Tests::Notes { note (64, 0.0, 0.75), note (64, 0.5, 0.25) }),
+          loop (1.0, Notes { note (64, 0.0, 0.75), note (64, 0.5, 0.25) }),
           "60 v102 0-480, 60 v102 480-720, end 960" },
-        { "over the end",
-          Zn::Tests::loop (1.0, Zn::Tests::Notes { note (67, 0.5, 9.0) }),
-          "72 v102 480-960, end 960" },
+        { "over the end", loop (1.0, Notes { note (67, 0.5, 9.0) }), "72 v102 480-960, end 960" },
         { "over bars",
-          Zn::Tests::loop (9.0, Zn::Tests::Notes { note (64, 3.5, 1.0), note (65, 8.0, 1.0) }),
+          loop (9.0, Notes { note (64, 3.5, 1.0), note (65, 8.0, 1.0) }),
           "60 v102 3360-4320, 64 v102 7680-8640, end 8640" },
         { "empty", {}, "end 0" },
     };
@@ -84,7 +78,7 @@ TEST (ExportSlot, WritesOnePassOfWhatIsHeard)
 TEST (ExportSlot, CanBePlayedAgain)
 {
     juce::MemoryOutputStream bytes;
-    exportSlot (Zn::Tests::loop (8.0, Zn::Tests::steps ("x.x.x.x.")), cMajor, 124.0).writeTo (bytes);
+    exportSlot (loop (8.0, steps ("x.x.x.x.")), cMajor, 124.0).writeTo (bytes);
 
     const auto content = bytes.getMemoryBlock();
     const auto song =
@@ -98,16 +92,16 @@ TEST (ExportSlot, TakesTheLastChord)
 {
     ProcessorFixture f;
     f.drawQuarters (0, 1);
-    Zn::Tests::TestHost host (f.processor);
+    TestHost host (f.processor);
 
     const auto firstPitch = [&] { return text (exportSlot (f.state, 0)).substr (0, 2); };
     EXPECT_EQ (firstPitch(), "64") << "of C major";
 
-    host.send (Zn::Tests::events ("on 57 @0, on 61 @0, on 64 @9"));
+    host.send (events ("on 57 @0, on 61 @0, on 64 @9"));
     host.run (512);
     EXPECT_EQ (firstPitch(), "61");
 
-    host.send (Zn::Tests::events ("off 57 @0, off 64 @9, off 61 @600"));
+    host.send (events ("off 57 @0, off 64 @9, off 61 @600"));
     host.run (1024);
     EXPECT_EQ (firstPitch(), "61");
 

@@ -1,7 +1,5 @@
 #include "Plugin/ProcessorFixture.h"
 
-#include "Support/MidiText.h"
-
 #include <gmock/gmock.h>
 
 namespace Zn::Audio::Plugins::Vornel
@@ -10,11 +8,6 @@ namespace
 {
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Tests::events;
-using Tests::TestHost;
-
-constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
-constexpr int bar = 4 * quarter;
 
 /** A chord in the middle of its first, long step. */
 struct SoundingStep : ProcessorFixture

@@ -17,35 +17,7 @@ using Clock = std::chrono::steady_clock;
 
 const std::string song =
     R"({"pattern":"song","bars":4,"Params":{"Cutoff":"1.23"},"FlatParams":[0.1234567,0.5,1]})";
-
-/** What a host hears of changes that no parameter tells. */
-struct DirtyMark : juce::AudioProcessorListener
-{
-    void audioProcessorParameterChanged (juce::AudioProcessor*, int, float) override {}
-    void audioProcessorChanged (juce::AudioProcessor*, const ChangeDetails& details) override
-    {
-        count += details.nonParameterStateChanged ? 1 : 0;
-    }
-
-    int count = 0;
-};
 } // namespace
-
-TEST (HostState, ComesBackExactlyAndIsSavedAsItWas)
-{
-    ToyProcessor saving;
-    saving.getState().pattern = "mine, with \xC3\xA9 and \"quotes\"";
-    saving.getState().bars = 7;
-    saving.getParameters()[0]->setValueNotifyingHost (0.123456789f); // shown and written as 1.23
-
-    ToyProcessor loading;
-    loading.restore (saving.saved());
-
-    EXPECT_EQ (loading.pattern(), saving.pattern());
-    EXPECT_EQ (loading.getParameters()[0]->getValue(), saving.getParameters()[0]->getValue());
-    EXPECT_EQ (loading.saved(), saving.saved());
-    EXPECT_FALSE (loading.isLoadPending());
-}
 
 TEST (HostState, TakesWhatItCanFromABrokenProject)
 {
@@ -100,22 +72,6 @@ TEST (HostState, IsLoadedUpToALimitOfItsSize)
 
     processor.restore (R"({"waste":")" + std::string (70'000'000, 'x') + R"(","pattern":"too long"})");
     EXPECT_EQ (processor.pattern(), "song");
-}
-
-TEST (HostState, NamesTheKindOfAnEntryThatIsNoNumber)
-{
-    ToyProcessor processor;
-
-    try
-    {
-        FlatParams::set (processor.getParameters(), nlohmann::json::parse (R"([0.5, true])"));
-        FAIL();
-    }
-    catch (const nlohmann::json::type_error& error)
-    {
-        EXPECT_EQ (error.id, 302);
-        EXPECT_THAT (error.what(), testing::HasSubstr ("type must be number, but is boolean"));
-    }
 }
 
 TEST (HostState, IsEmptyUntilTheProcessorIsComplete)
@@ -196,32 +152,6 @@ TEST (HostState, IsWaitedForOnceInARenderThatTheMessageThreadWaitsFor)
     EXPECT_EQ (processor.pattern(), "song");
 }
 
-TEST (HostState, IsReadAndWrittenByManyThreadsAtOnce)
-{
-    ToyProcessor processor;
-    std::atomic<int> torn { 0 };
-
-    besideMessageThread ([&] {
-        std::vector<std::jthread> host;
-
-        for (const auto* name : { "one", "two", "three" })
-            host.emplace_back ([&, name = std::string (name)] {
-                for (auto i = 0; i < 50; ++i)
-                {
-                    processor.restore (R"({"pattern":")" + name + R"(","bars":)"
-                                       + std::to_string (name.size()) + "}");
-                    const auto document = processor.document();
-                    const auto pattern = document.at ("pattern").get<std::string>();
-                    torn += document.at ("bars") != pattern.size() ? 1 : 0;
-                    processor.isLoadPending();
-                }
-            });
-    });
-
-    EXPECT_EQ (torn, 0);
-    EXPECT_TRUE (Zn::Tests::runMessageLoopUntil ([&] { return ! processor.isLoadPending(); }));
-}
-
 TEST (HostState, AskedForWhileItIsLoadedIsWhatItWillBe)
 {
     ToyProcessor processor;
@@ -253,52 +183,6 @@ TEST (HostState, IsAnsweredAtOnceForAnAudioUnitOnAnyThread)
     EXPECT_EQ (answer.at ("pattern"), "song");
     EXPECT_EQ (answer.at ("bars"), 4);
     EXPECT_EQ (answer.at ("FlatParams")[1], 1.0);
-}
-
-TEST (HostState, TellsTheHostOfEditsButNotOfItsOwnLoads)
-{
-    ToyProcessor processor;
-    DirtyMark host;
-    processor.addListener (&host);
-    processor.getState().duringReflect = [&] { processor.projectEdited(); };
-
-    const auto tick = [] { Events::SharedTimer::getInstance().timerCallback(); };
-
-    processor.restore (song);
-    tick();
-    EXPECT_EQ (host.count, 0);
-
-    processor.projectEdited();
-    processor.projectEdited();
-    EXPECT_EQ (host.count, 0) << "inside the edit";
-    tick();
-    tick();
-    EXPECT_EQ (host.count, 1);
-
-    processor.removeListener (&host);
-}
-
-TEST (HostState, IsTheFloorThatUndoCannotLeave)
-{
-    ToyProcessor processor;
-    auto& undo = processor.getUndo();
-
-    const auto draw = [&] (const char* pattern) {
-        undo.begin();
-        processor.getState().pattern = pattern;
-        undo.markChanged();
-        undo.end ("Draw");
-    };
-
-    draw ("before");
-    processor.restore (song);
-    Events::SharedTimer::getInstance().timerCallback();
-    EXPECT_FALSE (undo.canUndo());
-
-    draw ("after");
-    undo.undo();
-    EXPECT_EQ (processor.pattern(), "song");
-    EXPECT_FALSE (undo.canUndo());
 }
 
 TEST (HostState, GoesWithAProcessorThatDiesBeforeItIsLoaded)

@@ -185,22 +185,6 @@ TEST (LV2Clock, PutsAMessageInsideABlockOnItsOwnSample)
     EXPECT_EQ (host.jumps, 2) << "the start, and the jump";
 }
 
-TEST (LV2Clock, KeepsAMessageThatOnlyConfirms)
-{
-    Host host;
-    host.run ({ { 0, playingAt (0, 0, 0.0) } });
-
-    for (auto block = 1; block < 50; ++block)
-    {
-        const auto beat = quarters (block * blockSize, 120.0);
-        host.run (
-            { { 0, playingAt (block * blockSize, 0, static_cast<double> (static_cast<float> (beat))) } });
-        EXPECT_NEAR (host.start(), beat, 1e-6);
-    }
-
-    EXPECT_EQ (host.jumps, 0);
-}
-
 TEST (LV2Clock, GoesOnSmoothlyThroughChangesOfTempoThatAreToldInTicks)
 {
     constexpr auto ticksPerBeat = 960.0;

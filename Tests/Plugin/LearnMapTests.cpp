@@ -3,7 +3,6 @@
 #include "Foundation/Events/GarbageCollector.h"
 #include "Support/Documents.h"
 #include "Support/Lateness.h"
-#include "Support/MidiText.h"
 
 #include <gmock/gmock.h>
 
@@ -15,12 +14,8 @@ namespace
 {
 using Midi::Learn::Target;
 using testing::IsEmpty;
-using Zn::Tests::events;
 using Zn::Tests::isAtMostOneLate;
-using Zn::Tests::TestHost;
 using Zn::Tests::text;
-
-constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
 
 const auto cutoff = Target::forParam ("Filter-Cutoff");
 const auto transpose = Target::forParam ("Transpose");
@@ -241,9 +236,9 @@ TEST_F (LearnMapTest, MovesAParameterAtItsSampleAndTellsTheHostLater)
     map.bind ({ cutoff, 64 });
     processor.addListener (&hostSide);
 
-    host.send (events ("on 60 @0, cc 64 127 @100, cc 64 0 @200"));
+    host.send (events ("on 60 @0, cc 64 127 @100, on 62 @100, cc 64 0 @511"));
     host.run (512);
-    EXPECT_EQ (host.noteOns(), "60@0 72@100 48@200");
+    EXPECT_EQ (host.noteOns(), "60@0 72@100 74@100 48@511 50@511");
     EXPECT_FLOAT_EQ (state.params.sound.synth.filter.cutoff.get(), 10.0f);
     EXPECT_THAT (hostSide.told, IsEmpty()) << "the audio thread tells nobody";
 

@@ -2,7 +2,6 @@
 
 #include "Sequencer/MidiPlayer/ReadResource.h"
 #include "Support/Documents.h"
-#include "Support/MidiText.h"
 
 #include <gmock/gmock.h>
 
@@ -13,11 +12,6 @@ namespace
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
-using Tests::events;
-using Tests::TestHost;
-
-constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
-constexpr int bar = 4 * quarter;
 
 const auto pop = Sequencer::MidiPlayer::embedded ("Chords 1 - Pop"); // C G Am F, a bar each
 

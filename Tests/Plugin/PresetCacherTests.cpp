@@ -85,35 +85,4 @@ TEST (PresetCacher, LaysWhatIsToBeLoadedOverItsDocumentUntilThereIsOneThatHasIt)
     runTimerFor (500);
     EXPECT_EQ (cacher.getNewest(), live);
 }
-
-TEST (PresetCacher, GivesReadersOnManyThreadsWholeDocuments)
-{
-    const Singleton::UserToken user;
-    ToyProcessor processor;
-    auto count = 0;
-    PresetCacher cacher (processor, [&] {
-        ++count;
-        return nlohmann::json { { "first", count }, { "last", std::vector<int> (50, count) } };
-    });
-
-    std::atomic<bool> stop { false };
-    std::vector<std::jthread> readers;
-
-    for (auto i = 0; i < 3; ++i)
-        readers.emplace_back ([&] {
-            for (auto seen = 0; ! stop;)
-            {
-                const auto document = cacher.getNewest();
-                const auto number = document.at ("first").get<int>();
-                EXPECT_GE (number, seen);
-                EXPECT_EQ (document.at ("last"), std::vector<int> (50, number));
-                seen = number;
-            }
-        });
-
-    for (auto i = 0; i < 2000; ++i)
-        cacher.refresh();
-
-    stop = true;
-}
 } // namespace Zn::Audio::Plugin

@@ -2,6 +2,7 @@
 
 #include "Plugin/Vornel/Processor.h"
 
+#include "Support/MidiText.h"
 #include "Support/TestHost.h"
 #include "Support/WalkPattern.h"
 
@@ -11,6 +12,12 @@
 
 namespace Zn::Audio::Plugins::Vornel
 {
+using Tests::events;
+using Tests::TestHost;
+
+inline constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
+inline constexpr int bar = 4 * quarter;
+
 /** A processor whose parameters and patterns a test sets by name and by drawing. It begins with the plain sound, and with
     a walk up and down the held chord in the first slot.
 */
@@ -69,7 +76,7 @@ inline std::vector<Tests::Received> receivedFrom (const Tests::TestHost& host, s
 }
 
 /** The samples at which a note was started. */
-inline std::vector<int> startsOf (const Tests::TestHost& host, int note)
+inline std::vector<int> startsOf (const TestHost& host, int note)
 {
     std::vector<int> samples;
 

@@ -3,7 +3,6 @@
 
 #include "Presets/Undo/Transaction.h"
 #include "Support/MessageLoop.h"
-#include "Support/MidiText.h"
 
 #include <gtest/gtest.h>
 
@@ -18,9 +17,7 @@ namespace Zn::Audio::Plugins::Vornel
 namespace
 {
 using nlohmann::json;
-using Tests::events;
 using Tests::runMessageLoopUntil;
-using Tests::TestHost;
 
 /** What a project holds but for the tempo, which follows the host. */
 json withoutTempo (json document)

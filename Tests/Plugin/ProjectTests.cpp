@@ -5,7 +5,6 @@
 #include "Foundation/Events/SharedTimer.h"
 #include "Support/Documents.h"
 #include "Support/MessageLoop.h"
-#include "Support/MidiText.h"
 
 #include <gmock/gmock.h>
 
@@ -16,12 +15,8 @@ namespace Zn::Audio::Plugins::Vornel
 namespace
 {
 using testing::IsEmpty;
-using Tests::events;
 using Tests::runMessageLoopUntil;
 using Tests::runPendingMessages;
-using Tests::TestHost;
-
-constexpr int quarter = 24000; // samples at 48 kHz and 120 beats a minute
 
 void restoreOnAWorker (juce::AudioProcessor& processor, const juce::MemoryBlock& chunk)
 {

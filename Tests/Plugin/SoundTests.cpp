@@ -1,8 +1,5 @@
 #include "Plugin/ProcessorFixture.h"
 
-#include "Support/MidiText.h"
-#include "Support/TestHost.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -15,8 +12,6 @@ namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
-using Tests::events;
-
 constexpr double rate = 48000.0;
 constexpr int blockSize = 256;
 

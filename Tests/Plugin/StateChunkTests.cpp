@@ -53,18 +53,4 @@ TEST (StateChunk, ReadsAsFarAsThereIsDataAndAsItsLengthSays)
     EXPECT_EQ (read (nullptr, 100), "");
     EXPECT_EQ (read ("VC2!\2\0\0\0{}", -1), "");
 }
-
-TEST (StateChunk, CutAnywhereGivesTheBeginningOfItsText)
-{
-    constexpr std::string_view text = R"({"pattern":"x"})";
-    const auto whole = written (text);
-
-    for (std::ptrdiff_t size = 0; size < std::ssize (whole); ++size)
-    {
-        const std::vector cut (whole.begin(),
-                               whole.begin() + size); // no byte more, for the address sanitizer to see
-        const auto expected = text.substr (0, static_cast<size_t> (std::max<std::ptrdiff_t> (0, size - 8)));
-        EXPECT_EQ (read (cut.data(), static_cast<int> (size)), expected) << size;
-    }
-}
 } // namespace Zn::Audio::Plugin::StateChunk

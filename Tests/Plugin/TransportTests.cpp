@@ -49,31 +49,6 @@ struct Clock
     Sequencer::PlayHead shared;
 };
 
-TEST (InternalPlayHead, MovesByTempoAndSampleRate)
-{
-    struct Row
-    {
-        double bpm, sampleRate, ppqPerSample;
-    };
-
-    for (const auto& row : { Row { 120.0, 48000.0, 4.1666667e-05 },
-                             Row { 100.0, 44100.0, 3.77928949e-05 },
-                             Row { 999.0, 192000.0, 8.671875e-05 },
-                             Row { 120.0, 0.0, 0.0 },
-                             Row { 120.0, nan, 0.0 } })
-    {
-        TestPlayHead host { 48000.0, row.bpm };
-        InternalPlayHead clock;
-        clock.prepare (row.sampleRate, 512);
-        clock.update (&host, 512);
-
-        EXPECT_NEAR (clock.getPpqPerSample(), row.ppqPerSample, 1e-12) << row.bpm << " at " << row.sampleRate;
-        EXPECT_NEAR (clock.getEndPpq(), 512 * row.ppqPerSample, 1e-9);
-        EXPECT_EQ (clock.getPpqBySample()[0], 0.0);
-        EXPECT_NEAR (clock.getPpqBySample()[511], 511 * row.ppqPerSample, 1e-9);
-    }
-}
-
 TEST (InternalPlayHead, LetsAHostsSampleCountWanderWhileItPlays)
 {
     struct Row
@@ -142,83 +117,6 @@ TEST (InternalPlayHead, WrapsTheEndOfTheLoopAndNothingBeyond)
     }
 }
 
-TEST (InternalPlayHead, StandsStillWhileTheHostIsStopped)
-{
-    TestPlayHead host;
-    host.jumpTo (7.5);
-    host.stop();
-
-    InternalPlayHead clock;
-    clock.update (&host, 64);
-    clock.update (&host, 64);
-
-    EXPECT_THAT (positionsOf (clock), Each (7.5));
-    EXPECT_EQ (clock.getEndPpq(), 7.5);
-    EXPECT_FALSE (clock.hasJumped());
-    EXPECT_FALSE (clock.hasStateChanged());
-}
-
-TEST (InternalPlayHead, CutsABlockWithoutMovingItsSamples)
-{
-    TestPlayHead wholeHost, cutHost;
-    InternalPlayHead whole, cut;
-    whole.prepare (wholeHost.sampleRate, 512);
-    cut.prepare (cutHost.sampleRate, 512);
-    whole.update (&wholeHost, 512);
-
-    std::vector<double> pieces;
-
-    for (auto size : { 1, 0, 36, 256, 219 })
-    {
-        cut.update (&cutHost, size);
-        cutHost.advance (size);
-        const auto positions = positionsOf (cut);
-        pieces.insert (pieces.end(), positions.begin(), positions.end());
-        EXPECT_FALSE (cut.hasJumped()) << size;
-    }
-
-    EXPECT_THAT (pieces, Pointwise (DoubleNear (1e-12), positionsOf (whole)));
-}
-
-TEST (InternalPlayHead, GoesOnEvenlyThroughWhatAHostLeavesOut)
-{
-    struct Row
-    {
-        const char* name;
-        std::function<void (PositionInfo&)> edit;
-    };
-
-    const Row rows[] = {
-        { "no quarter notes", [] (auto& p) { p.setPpqPosition ({}); } },
-        { "no samples", [] (auto& p) { p.setTimeInSamples ({}); } },
-        { "only playing",
-          [] (auto& p) {
-              p = {};
-              p.setIsPlaying (true);
-          } },
-        { "quarter notes not a number", [] (auto& p) { p.setPpqPosition (nan); } },
-        { "quarter notes infinite", [] (auto& p) { p.setPpqPosition (-infinity); } },
-        { "quarter notes absurd", [] (auto& p) { p.setPpqPosition (1e300); } },
-        { "samples absurd", [] (auto& p) { p.setTimeInSamples (std::numeric_limits<std::int64_t>::max()); } },
-        { "samples absurd, negative",
-          [] (auto& p) { p.setTimeInSamples (std::numeric_limits<std::int64_t>::min()); } },
-    };
-
-    for (const auto& row : rows)
-    {
-        TestPlayHead host { 48000.0, 100.0 };
-        host.edit = row.edit;
-        Clock clock;
-
-        for (auto block = 0; block < 20; ++block)
-        {
-            EXPECT_EQ (clock.run (host), ClockSource::host) << row.name;
-            EXPECT_FALSE (clock.internal.hasJumped()) << row.name << ", block " << block;
-            EXPECT_NEAR (clock.internal.getEndPpq(), host.ppq, 1e-9) << row.name << ", block " << block;
-        }
-    }
-}
-
 TEST (InternalPlayHead, GoesOnEvenlyThroughPositionsThatTheHostRoundsToTicks)
 {
     for (auto ticksPerQuarter : { 960.0, 1920.0 })
@@ -264,37 +162,6 @@ TEST (InternalPlayHead, FollowsAHostWhoseTempoIsNotQuiteWhatItSays)
     }
 }
 
-TEST (InternalPlayHead, HearsAJumpInWhicheverPositionTheHostGives)
-{
-    struct Row
-    {
-        const char* name;
-        std::function<void (PositionInfo&)> edit;
-    };
-
-    const Row rows[] = {
-        { "samples only", [] (auto& p) { p.setPpqPosition ({}); } },
-        { "quarter notes only", [] (auto& p) { p.setTimeInSamples ({}); } },
-    };
-
-    for (const auto& row : rows)
-        for (auto target : { 8.0, -2.0, 4000.0, 1e9 })
-        {
-            TestPlayHead host;
-            host.edit = row.edit;
-            Clock clock;
-            clock.run (host);
-            host.jumpTo (target);
-            clock.run (host);
-
-            EXPECT_TRUE (clock.internal.hasJumped()) << row.name << " to " << target;
-            EXPECT_NEAR (clock.internal.getStartPpq(), target, 1e-4) << row.name;
-
-            clock.run (host);
-            EXPECT_FALSE (clock.internal.hasJumped()) << row.name << " to " << target;
-        }
-}
-
 TEST (InternalPlayHead, KeepsTheLastGoodTempo)
 {
     for (auto bad : { 0.0, 0.5, -120.0, nan, infinity, -infinity, 1e300 })
@@ -309,40 +176,6 @@ TEST (InternalPlayHead, KeepsTheLastGoodTempo)
 
         EXPECT_EQ (clock.internal.getPpqPerSample(), rate) << bad;
         EXPECT_FLOAT_EQ (clock.shared.bpm, 87.3f) << bad;
-    }
-}
-
-TEST (InternalPlayHead, SurvivesWhateverAHostSends)
-{
-    juce::Random random { 7 };
-    const double values[] = { nan,   infinity, -infinity, 1e308, -1e308, 1e18,
-                              -1e18, 5e-324,   0.0,       -0.0,  -2.0,   24.0 };
-    const auto pick = [&] { return values[random.nextInt (juce::numElementsInArray (values))]; };
-    const int sizes[] = { 512, 1, 0, -1, 4096 };
-
-    TestPlayHead host;
-    host.edit = [&] (auto& position) {
-        position.setIsPlaying (random.nextBool());
-        position.setBpm (pick());
-        position.setPpqPosition (pick());
-        position.setTimeInSamples (random.nextInt64());
-        position.setIsLooping (random.nextBool());
-        position.setLoopPoints (juce::AudioPlayHead::LoopPoints { pick(), pick() });
-        position.setTimeSignature (juce::AudioPlayHead::TimeSignature { 0, 0 });
-    };
-
-    Clock clock;
-
-    for (auto block = 0; block < 2000; ++block)
-    {
-        clock.keyMode = random.nextBool();
-        clock.shared.internalClock = random.nextInt (4) == 0;
-        clock.run (host, sizes[random.nextInt (juce::numElementsInArray (sizes))]);
-
-        for (auto ppq : clock.internal.getPpqBySample())
-            ASSERT_TRUE (std::isfinite (ppq)) << "block " << block;
-
-        ASSERT_TRUE (std::isfinite (clock.shared.positionPpq)) << "block " << block;
     }
 }
 
@@ -383,22 +216,6 @@ TEST (ClockSelection, FollowsTheHostOnlyWhileItPlaysOrKeysWaitForIt)
         EXPECT_EQ (clock.shared.control, row.control) << name;
         EXPECT_EQ (clock.shared.hasHostTempo, row.hasPosition) << name;
     }
-}
-
-TEST (ClockSelection, RunsFromZeroAtTheSharedTempoWithoutAHost)
-{
-    Clock clock;
-    clock.shared.bpm = 90.0f;
-
-    for (auto block = 0; block < 1000; ++block)
-    {
-        EXPECT_EQ (clock.run (nullptr, 480), ClockSource::internal);
-        EXPECT_FALSE (clock.internal.hasJumped());
-        EXPECT_EQ (clock.internal.hasStateChanged(), block == 0);
-    }
-
-    EXPECT_NEAR (clock.shared.positionPpq, 15.0, 1e-9); // ten seconds at 90
-    EXPECT_EQ (clock.shared.positionSamples, 480000);
 }
 
 TEST (ClockSelection, GoesOnFromWhereAStoppedHostStood)

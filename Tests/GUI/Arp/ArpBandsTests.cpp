@@ -172,18 +172,6 @@ TEST (ArpBands, StartsAndRewindsTheClockOnlyWhereItIsInCharge)
     }
 }
 
-TEST (ArpBands, NamesTheRangeByItsPitches)
-{
-    Tests::OpenEditor editor;
-    auto& text = editor.find<Label> ("OctaveRangeValue");
-    EXPECT_EQ (text.getText(), "All");
-
-    editor.getState().lowestOctave.setInt (3);
-    editor.getState().highestOctave.setInt (8);
-    editor.poll();
-    EXPECT_EQ (text.getText(), juce::String::fromUTF8 ("C1 \xe2\x80\x93 B5"));
-}
-
 TEST (ArpBands, ChangesToolsWithoutAStepOfUndo)
 {
     Tests::OpenEditor editor;
@@ -201,22 +189,6 @@ TEST (ArpBands, ChangesToolsWithoutAStepOfUndo)
     Tests::Hand::click (editor.find ("ClockInternal"));
     EXPECT_TRUE (state.playHead->internalClock);
     EXPECT_FALSE (editor.processor.getUndo().canUndo());
-}
-
-TEST (ArpBands, ClearsThePatternAndBringsItBack)
-{
-    Tests::OpenEditor editor;
-    auto& state = editor.getState();
-    auto& steps = state.patterns.getSlots()[0].pattern.steps;
-    steps.push_back ({ .time = { 0.0, 0.25 }, .event = {}, .enabled = true });
-
-    state.brushParam.setInt (static_cast<int> (Brush::velocity));
-    Tests::Hand::click (editor.find<Button> ("ClearAll"));
-    EXPECT_TRUE (steps.empty());
-    EXPECT_EQ (state.brush.get(), Brush::velocity);
-
-    editor.page.getContext().edits.undo();
-    EXPECT_EQ (steps.size(), 1u);
 }
 
 TEST (ArpBands, ShowsTheGridAndTheLengthOfTheOpenPattern)

@@ -201,19 +201,6 @@ TEST (Tooltips, ComeWhenThePointerRestsAndGoWithIt)
     EXPECT_EQ (tooltips.getShown(), "");
 }
 
-TEST (Messages, DoWhatTheyOfferOnceAndGo)
-{
-    Tests::OpenEditor editor;
-    auto& overlay = overlayOf (editor);
-    auto numUndone = 0;
-    overlay.showMessage ("Pattern cleared", "Undo", [&] { ++numUndone; });
-    EXPECT_EQ (overlay.getMessage(), "Pattern cleared");
-
-    followLink (overlay);
-    EXPECT_EQ (numUndone, 1);
-    EXPECT_EQ (overlay.getMessage(), "");
-}
-
 TEST (Messages, OfferToUndoOnlyWhatTheyTellOf)
 {
     Tests::OpenEditor editor;

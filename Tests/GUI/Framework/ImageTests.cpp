@@ -103,24 +103,6 @@ TEST_F (SchemeImages, KeepTheMarginsOfTheirPageAndTheMiddleOfTheirArea)
     EXPECT_EQ (red.colour, juce::Colours::red);
 }
 
-TEST_F (SchemeImages, RecolourWithAndWithoutTransparency)
-{
-    SVGPainter painter ("square.svg", library);
-
-    for (const auto colour : { juce::Colour (1, 2, 3), juce::Colour (0xff0a0b0c), juce::Colour (0x800000ff) })
-    {
-        juce::Image image (juce::Image::ARGB, 20, 20, true);
-        juce::Graphics g (image);
-        painter.paint (g, { 20.0f, 20.0f }, colour);
-
-        const auto pixel = image.getPixelAt (10, 10);
-        EXPECT_EQ (pixel.getAlpha(), colour.getAlpha());
-        EXPECT_NEAR (pixel.getRed(), colour.getRed(), 2);
-        EXPECT_NEAR (pixel.getGreen(), colour.getGreen(), 2);
-        EXPECT_NEAR (pixel.getBlue(), colour.getBlue(), 2);
-    }
-}
-
 TEST_F (SchemeImages, SayInTheirPlaceWhatIsMissing)
 {
     const std::pair<const char*, const char*> rows[] = { { "none.svg", "Missing Resource: none.svg" },

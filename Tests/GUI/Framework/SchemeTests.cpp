@@ -113,22 +113,6 @@ TEST_F (Scheme, LetsNeighboursMeetAtEverySize)
     }
 }
 
-TEST_F (Scheme, PutsFoldedElementsInThePlaceOfTheirNamesakes)
-{
-    juce::Component root;
-    root.setSize (1000, 1000);
-    Canvas canvas (root);
-
-    const auto header = canvas.boundsOf ("SoundHeader");
-    canvas.setFold (Fold::folded);
-
-    EXPECT_EQ (canvas.boundsOf ("PianoRoll"), canvas.boundsOf ("PianoRollTall"));
-    EXPECT_EQ (canvas.boundsOf ("Master"), canvas.boundsOf ("MasterFolded"));
-    EXPECT_EQ (canvas.boundsOf ("SoundHeader").getY(), canvas.boundsOf ("SoundModuleFolded").getY());
-    EXPECT_EQ (canvas.boundsOf ("SoundHeader").getHeight(), header.getHeight());
-    EXPECT_EQ (canvas.boundsOf ("Header"), Rectangle<int> (0, 0, 1000, 54));
-}
-
 TEST_F (Scheme, AnswersForWhatItDoesNotHave)
 {
     auto& scheme = Base::get();

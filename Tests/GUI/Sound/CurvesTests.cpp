@@ -91,16 +91,6 @@ TEST (FilterResponse, IsWhatTheFilterOfAVoiceDoesToSines)
         }
 }
 
-TEST (FilterResponse, StandsAtTheGainOfItsResonanceAtTheCutoff)
-{
-    for (auto q : { 0.1, 1.0, 3.0 })
-    {
-        const auto c = Audio::Kernels::makeFilterCoefficients (2400.0, q, sampleRate);
-        EXPECT_NEAR (filterDecibels (c, 2400.0, sampleRate), decibelsOfResonance (q), 1e-3);
-        EXPECT_NEAR (resonanceOfDecibels (decibelsOfResonance (q)), q, 1e-9);
-    }
-}
-
 TEST (EnvelopeShape, IsWhatTheEnvelopeOfAVoicePlays)
 {
     const EnvelopeTimes times { 0.02f, 0.18f, 0.42f, 0.24f };
@@ -131,21 +121,6 @@ TEST (EnvelopeShape, IsWhatTheEnvelopeOfAVoicePlays)
     expectStage (EnvelopeShape::peak, EnvelopeShape::sustainStart);
     Audio::Kernels::stopNote (state, rates);
     expectStage (EnvelopeShape::sustainEnd, EnvelopeShape::end);
-}
-
-TEST (EnvelopeShape, TellsTheTimesItWasMadeFromAndNeverLeavesItsPicture)
-{
-    for (auto times : { EnvelopeTimes { 0.005f, 0.005f, 1.0f, 0.005f },
-                        EnvelopeTimes { 0.02f, 0.18f, 0.4f, 0.24f },
-                        EnvelopeTimes { 1.0f, 1.0f, 0.005f, 1.0f } })
-    {
-        const auto shape = EnvelopeShape::of (times);
-        const auto& corners = shape.corners;
-        EXPECT_NEAR (shape.secondsBetween (corners[0].x, corners[1].x), times.attack, 1e-4f);
-        EXPECT_NEAR (shape.secondsBetween (corners[1].x, corners[2].x), times.decay, 1e-4f);
-        EXPECT_NEAR (shape.secondsBetween (corners[3].x, corners[4].x), times.release, 1e-4f);
-        EXPECT_LE (corners[4].x, 1.0001f);
-    }
 }
 
 TEST (WaveShape, KeepsPeaksThatAreNarrowerThanAColumn)

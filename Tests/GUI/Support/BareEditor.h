@@ -14,6 +14,11 @@ namespace Zn::Tests
 /** A plug-in, and what an open editor gives to its parts, without any of them. */
 struct BareEditor
 {
+    /** With the processor's own undo, unless there is another. */
+    explicit BareEditor (Undo::Interface* undoToUse = nullptr)
+        : undo (undoToUse != nullptr ? undoToUse : &processor.getUndo())
+    {}
+
     Sequencer::PatternSlot& slot (std::size_t index = 0) { return getState().patterns.getSlots()[index]; }
     Audio::Plugins::Vornel::State& getState() { return processor.getState(); }
 
@@ -33,10 +38,11 @@ struct BareEditor
     Singleton::UserToken singletonsStay;
     Tests::ScratchFolder folder;
     Audio::Plugins::Vornel::Processor processor { Audio::Plugins::Vornel::StartUp::empty };
+    Undo::Interface* const undo;
     juce::Component root;
     GUI::AssetScheme::Canvas canvas { root };
     GUI::UserSettings settings { folder.file ("settings.json") };
-    GUI::Edits edits { processor.getUndo(), [this] { processor.finishPendingLoad(); } };
+    GUI::Edits edits { *undo, [this] { processor.finishPendingLoad(); } };
     RecordedOverlay overlay;
     GUI::Learning learning { processor.getState().learnMap };
     Events::Broadcaster polls;

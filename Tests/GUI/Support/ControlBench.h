@@ -1,9 +1,7 @@
 #pragma once
 
-#include "Foundation/Singleton.h"
+#include "GUI/Support/BareEditor.h"
 #include "GUI/Support/Hand.h"
-#include "GUI/Support/RecordedOverlay.h"
-#include "GUI/Widgets/EditorContext.h"
 #include "Parameters/CreateForwarder.h"
 #include "Support/MessageLoop.h"
 
@@ -25,9 +23,9 @@ struct CountedUndo : Undo::Interface
 };
 
 /** A plug-in and an empty editor, to lay single controls on. */
-struct ControlBench
+struct ControlBench : private CountedUndo, BareEditor
 {
-    ControlBench()
+    ControlBench() : BareEditor (static_cast<CountedUndo*> (this))
     {
         const auto [width, height] = GUI::AssetScheme::Canvas::defaultSize();
         root.setSize (width, height);
@@ -49,29 +47,6 @@ struct ControlBench
 
     auto& getParams() { return processor.getState().params; }
 
-    Singleton::UserToken singletonsStay;
-    Audio::Plugins::Vornel::Processor processor { Audio::Plugins::Vornel::StartUp::empty };
-    juce::Component root;
-    GUI::AssetScheme::Canvas canvas { root };
-    juce::TemporaryFile settingsFile;
-    GUI::UserSettings settings { settingsFile.getFile() };
-    CountedUndo undo;
-    GUI::Edits edits { undo, [] {} };
-    RecordedOverlay overlay;
-    GUI::Learning learning { processor.getState().learnMap };
-    Events::Broadcaster polls;
-    Events::Value<int> shownSlot;
-    GUI::PageActions actions;
-    bool keysInUse = false;
-    GUI::EditorContext context { .processor = processor,
-                                 .canvas = canvas,
-                                 .settings = settings,
-                                 .edits = edits,
-                                 .overlay = overlay,
-                                 .learning = learning,
-                                 .polls = polls,
-                                 .shownSlot = shownSlot,
-                                 .actions = actions,
-                                 .keysInUse = keysInUse };
+    using CountedUndo::steps; // of undo
 };
 } // namespace Zn::Tests

@@ -35,14 +35,14 @@ TEST_F (Controls, DragOverTheWholeRangeIsOneGestureAndOneStep)
 
     Hand::drag (*knob, { { 10, 300 }, { 10, 250 }, { 10, 300 - whole / 2 } });
     EXPECT_NEAR (mix->getNormalised(), 0.5f, 0.001f);
-    EXPECT_EQ (bench.undo.steps, 1);
+    EXPECT_EQ (bench.steps, 1);
     EXPECT_FALSE (mix->isGestureActive());
 
     Hand::drag (*knob, { { 10, 300 }, { 10, 300 - whole / 2 } }, shiftedButton);
     EXPECT_NEAR (mix->getNormalised(), 0.55f, 0.001f) << "a tenth with Shift";
 
     Hand::drag (*knob, { { 10, 300 }, { 10, 260 }, { 10, 300 } });
-    EXPECT_EQ (bench.undo.steps, 2) << "nothing has changed in the end";
+    EXPECT_EQ (bench.steps, 2) << "nothing has changed in the end";
 }
 
 TEST_F (Controls, EscapeInADragPutsBackWhatWasThere)
@@ -55,7 +55,7 @@ TEST_F (Controls, EscapeInADragPutsBackWhatWasThere)
     EXPECT_TRUE (Hand::press (*knob, "escape"));
     EXPECT_EQ (mix->getNormalised(), 0.0f);
     EXPECT_FALSE (mix->isGestureActive());
-    EXPECT_EQ (bench.undo.steps, 0);
+    EXPECT_EQ (bench.steps, 0);
 }
 
 TEST_F (Controls, KeysAloneSetAnyValue)
@@ -109,7 +109,7 @@ TEST_F (Controls, QuickTurnsOfTheWheelJoinUnlessTheUserTurnsThatOff)
 
     bench.edits.finish();
     EXPECT_EQ (knob->getShownText(), "3 %");
-    EXPECT_EQ (bench.undo.steps, 1);
+    EXPECT_EQ (bench.steps, 1);
 
     Hand::turnWheel (*knob, 0.2f, juce::ModifierKeys::shiftModifier);
     EXPECT_NEAR (mix->getNormalised(), 0.031f, 1e-5f);
@@ -188,13 +188,13 @@ TEST_F (Controls, TogglesPaintOverOthersOfTheirKindInOneStep)
     for (const auto& toggle : toggles)
         EXPECT_TRUE (toggle->isOn());
 
-    EXPECT_EQ (bench.undo.steps, 0);
+    EXPECT_EQ (bench.steps, 0);
     Hand::drag (first, { middleOf (0), middleOf (1), middleOf (2), middleOf (1) });
 
     for (const auto& toggle : toggles)
         EXPECT_FALSE (toggle->isOn());
 
-    EXPECT_EQ (bench.undo.steps, 1);
+    EXPECT_EQ (bench.steps, 1);
 }
 
 TEST_F (Controls, ChoicesAndSegmentsGoToTheOneBeforeAndAfter)
@@ -238,7 +238,7 @@ TEST_F (Controls, TheEndsOfARangeStayApart)
     EXPECT_EQ (range->getComponentAt (9, 5), &lowEnd);
     Hand::drag (highEnd, { { float (right), 5 }, { float (right) / 2, 5 }, { -99, 5 } });
     EXPECT_EQ (high->getInt(), 1);
-    EXPECT_EQ (bench.undo.steps, 1);
+    EXPECT_EQ (bench.steps, 1);
     EXPECT_EQ (bench.overlay.readout, "") << "gone with the drag";
 
     const std::tuple<const char*, int, int> rows[] = { { "cursor right", 0, 2 },
