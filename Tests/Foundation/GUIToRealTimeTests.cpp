@@ -37,12 +37,6 @@ struct Wide
 };
 } // namespace
 
-TEST (GUIToRealTime, ReadsTheInitialValueBeforeAnyWrite)
-{
-    Ring ring (42);
-    EXPECT_EQ (ring.getReader().newest(), 42);
-}
-
 TEST (GUIToRealTime, AlwaysReadsTheNewestHoweverManyWritesLieBetween)
 {
     for (auto writesBetween = 1; writesBetween <= 12; ++writesBetween)

@@ -1,7 +1,6 @@
 #include "Midi/NoteGate.h"
 
 #include "Support/MidiText.h"
-#include "Support/NoteStreams.h"
 
 #include <gtest/gtest.h>
 
@@ -70,32 +69,5 @@ TEST (NoteGate, ExpandsTheControllersThatEndAllNotes)
 
         EXPECT_EQ (text (buffer),
                    "on 60 @0, on 60 ch2 @0, on 62 @1, on 62 v0 @2, off 60 @5, off 60 ch2 @5, on 60 @5");
-    }
-}
-
-TEST (NoteGate, LeavesNothingHangingHoweverItIsOpenedAndClosed)
-{
-    for (auto seed = 0; seed < 20; ++seed)
-    {
-        NoteGate gate;
-        juce::Random random (seed);
-
-        // The source is only heard while the gate is open, as in a block that chooses between two sources.
-        const auto output =
-            inBlocks (randomPlaying (seed), randomBlocks (seed, 4000), [&] (juce::MidiBuffer& block) {
-                const auto isOpen = random.nextBool();
-
-                if (! isOpen)
-                    block.clear();
-
-                gate.process (block, isOpen, true);
-            });
-
-        auto rest = juce::MidiBuffer();
-        gate.process (rest, false, true);
-        auto all = output;
-        all.addEvents (rest, 0, -1, 4000);
-
-        EXPECT_EQ (stillSounding (all), "") << "seed " << seed;
     }
 }

@@ -126,24 +126,6 @@ TEST (HeldNotes, StandInTheOrderOfPressing)
     EXPECT_THAT (held.sorted(), ElementsAreArray ({ 50, 64, 67 }));
 }
 
-TEST (HeldNotes, HoldAllKeysAtOnce)
-{
-    HeldNotes held;
-
-    for (auto note = 127; note >= 0; --note)
-        held.add (note);
-
-    EXPECT_EQ (held.size(), 128);
-    EXPECT_EQ (pitches (RowToPitchTable::from (held, wholeKeyboard), 63, 65), (std::vector { 115, 0, 1 }));
-
-    for (auto note = 0; note < 128; note += 2)
-        held.remove (note);
-
-    EXPECT_EQ (held.size(), 64);
-    EXPECT_FALSE (held.contains (0));
-    EXPECT_EQ (held[0], 127);
-}
-
 TEST (PitchTableRing, ShowsTheNewestTableWithTheLimitsOfNow)
 {
     const auto ring = std::make_unique<PitchTableRing>();

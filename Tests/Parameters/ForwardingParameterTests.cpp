@@ -56,23 +56,6 @@ enum
 };
 } // namespace
 
-TEST (HostParamList, ListsOnlyWhatIsForwardedInItsOwnOrder)
-{
-    Plugin plugin;
-    Lines ids, names;
-
-    for (auto index = 0; index < plugin.processor.getParameters().size(); ++index)
-    {
-        ids.push_back (plugin.at (index).getParameterID().toStdString());
-        names.push_back (plugin.at (index).getName (30).toStdString());
-    }
-
-    EXPECT_EQ (ids, (Lines { "OSC-0-Volume", "Transpose", "Filter-Cutoff", "Filter-Enable" }));
-    EXPECT_EQ (names, (Lines { "OSC 0 Volume", "Transpose", "Filter Cutoff", "Filter Enable" }));
-    EXPECT_EQ (plugin.managed.size(), 4u);
-    EXPECT_EQ (plugin.at (volume).getText (0.5f, 30), "-12.00 dB");
-}
-
 TEST (ForwardingParameter, OutlivesTheTreeAndTheManagedList)
 {
     PlainProcessor processor;
@@ -138,20 +121,6 @@ TEST (ForwardingParameter, StoresSwitchesAndStepsAsEverySideReadsThem)
     EXPECT_EQ (plugin.at (transpose).getValue(), 0.5f);
 }
 
-TEST (ForwardingParameter, DropsWhatIsNoNumber)
-{
-    Plugin plugin;
-    HostLog editor (plugin.tree.cutoff.getParameter());
-
-    plugin.at (cutoff).setValue (std::numeric_limits<float>::quiet_NaN());
-    plugin.at (cutoff).setValue (std::numeric_limits<float>::infinity());
-    EXPECT_EQ (editor.lines, Lines {});
-    EXPECT_FLOAT_EQ (plugin.tree.cutoff.get(), 8000.0f);
-
-    plugin.at (cutoff).setValue (17.0f);
-    EXPECT_FLOAT_EQ (plugin.tree.cutoff.get(), 12000.0f);
-}
-
 TEST (ForwardingParameter, BothSidesAgreeAfterTwoThreadsHaveChangedThem)
 {
     Plugin plugin;
@@ -189,18 +158,6 @@ TEST (Gesture, ReachesTheHostOnceHoweverOftenItIsBegun)
     EXPECT_FALSE (knob->isGestureActive());
     EXPECT_EQ (host.lines, (Lines { "begin", "0.500000", "end" }));
     EXPECT_EQ (editor.lines, Lines { "0.500000" }) << "the target has no place in the host to speak of";
-}
-
-TEST (Gesture, OnAParameterThatNoHostKnowsIsOnlyAFlag)
-{
-    Plugin plugin;
-    HostLog log (plugin.tree.depth.getParameter());
-    const auto knob = Parameters::createForwarder (plugin.tree.depth);
-
-    knob->beginGesture();
-    EXPECT_TRUE (knob->isGestureActive());
-    knob->endGesture();
-    EXPECT_EQ (log.lines, Lines {});
 }
 
 TEST (Gesture, OnATargetThatTheHostListsItselfIsPassedOn)

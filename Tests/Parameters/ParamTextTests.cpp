@@ -87,19 +87,6 @@ TEST (ParamText, EveryTextThatIsShownReadsBackAsItself)
     EXPECT_EQ (textAfter (params.loud, "-0.001 dB"), "0.00 dB") << "no minus in front of nothing";
 }
 
-TEST (ParamText, WhatAnyPositionOfTheControlShowsReadsBackAsItself)
-{
-    EveryKind params;
-
-    for (auto& [name, holder] : params.getParams())
-        for (auto position = 0; position <= 1000; ++position)
-        {
-            Parameters::setNormalised (holder->getParameter(), static_cast<float> (position) * 0.001f);
-            const auto text = Parameters::currentTextOf (holder->getParameter());
-            ASSERT_EQ (textAfter (*holder, text), text) << name << " at " << position;
-        }
-}
-
 TEST (ParamText, StaysTheSameInALocaleWithADecimalComma)
 {
     EveryKind params;

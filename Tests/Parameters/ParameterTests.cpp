@@ -161,19 +161,4 @@ TEST (IntRef, ShowsEveryStepAndKeepsWhatItWasBoundTo)
     EXPECT_EQ (value, 3);
     EXPECT_FALSE (number.isGestureActive());
 }
-
-TEST (MenuItems, CallsOneFunctionAfterTheActionOfAnyLine)
-{
-    Lines log;
-    MenuItems::Item menu;
-    menu.subItems = { { .text = "A", .action = [&log] { log.push_back ("A"); } }, { .text = "Sub" } };
-    menu.subItems[1].subItems = { { .text = "B", .action = [&log] { log.push_back ("B"); } } };
-
-    MenuItems::setRecursiveFunc (menu, [&log] { log.push_back ("first"); });
-    MenuItems::setRecursiveFunc (menu, [&log] { log.push_back ("done"); });
-
-    menu.subItems[0].choose();
-    menu.subItems[1].subItems[0].choose();
-    EXPECT_EQ (log, (Lines { "A", "done", "B", "done" }));
-}
 } // namespace Zn::Parameters

@@ -1,9 +1,4 @@
-#include "Foundation/Events/SharedTimer.h"
-#include "Plugin/Bases/FlatParams.h"
-
 #include "Plugin/HostStateFixture.h"
-
-#include <gmock/gmock.h>
 
 #include <chrono>
 #include <optional>

@@ -13,20 +13,11 @@ namespace Zn::Audio
 namespace
 {
 using PositionInfo = juce::AudioPlayHead::PositionInfo;
-using ::testing::DoubleNear;
-using ::testing::Each;
 using ::testing::ElementsAreArray;
-using ::testing::Pointwise;
 using Tests::TestPlayHead;
 
 constexpr auto nan = std::numeric_limits<double>::quiet_NaN();
 constexpr auto infinity = std::numeric_limits<double>::infinity();
-
-std::vector<double> positionsOf (const InternalPlayHead& clock)
-{
-    const auto positions = clock.getPpqBySample();
-    return { positions.begin(), positions.end() };
-}
 
 struct Clock
 {
@@ -48,6 +39,17 @@ struct Clock
     InternalPlayHead internal;
     Sequencer::PlayHead shared;
 };
+
+TEST (InternalPlayHead, StandsWhereTheRateIsUnknown)
+{
+    for (const auto rate : { 0.0, nan })
+    {
+        TestPlayHead host;
+        Clock clock { rate };
+        clock.run (host);
+        EXPECT_EQ (clock.internal.getEndPpq(), 0.0) << rate;
+    }
+}
 
 TEST (InternalPlayHead, LetsAHostsSampleCountWanderWhileItPlays)
 {
@@ -110,7 +112,8 @@ TEST (InternalPlayHead, WrapsTheEndOfTheLoopAndNothingBeyond)
         clock.prepare (16.0, 8);
         clock.update (&host, 8);
 
-        auto actual = positionsOf (clock);
+        const auto positions = clock.getPpqBySample();
+        std::vector<double> actual { positions.begin(), positions.end() };
         actual.push_back (clock.getEndPpq());
         EXPECT_THAT (actual, ElementsAreArray (row.expected))
             << "loop " << row.loopStart << " to " << row.loopEnd << " from " << row.start;

@@ -132,17 +132,6 @@ TEST_F (Undo, NamesAStepAfterTheOutermostEdit)
     EXPECT_FALSE (manager.canUndo());
 }
 
-TEST_F (Undo, KeepsNothingForAnEditThatChangedNothing)
-{
-    Transaction (manager, "Click");
-    EXPECT_FALSE (manager.canUndo());
-    EXPECT_EQ (numCalls, 0);
-
-    write (1);
-    Transaction (manager, "Click");
-    EXPECT_EQ (manager.getCurrentName(), "1") << "the last change must not count twice";
-}
-
 TEST_F (Undo, BeginsAnewForAnotherProject)
 {
     write (1);
@@ -226,20 +215,5 @@ TEST_F (Undo, TakesALoadedPresetForOneEdit)
     manager.undo();
     EXPECT_EQ (std::pair (notebook.number, notebook.getName()), std::pair (0, juce::String ("Init")));
     EXPECT_FALSE (manager.canUndo());
-}
-
-TEST (UndoSnapshot, GivesBackWhatWasPutIn)
-{
-    for (const auto* text : { "null", "{}", R"({"a": [0.1, 1e300, -7, true, "\u00e9", null, {}]})" })
-        EXPECT_EQ (Snapshot ("", nlohmann::json::parse (text)).getDocument(), nlohmann::json::parse (text));
-
-    EXPECT_EQ (Snapshot().getDocument(), nlohmann::json());
-}
-
-TEST (UndoHolder, ForgetsEditsWhenItHoldsNothing)
-{
-    Holder holder;
-    Transaction (holder.getUndo(), "Edit").markChanged();
-    EXPECT_FALSE (holder.getUndo().canUndo());
 }
 } // namespace Zn::Undo

@@ -22,42 +22,6 @@ Options parsed (const std::string& line)
 }
 } // namespace
 
-TEST (ArgumentParser, ReadsEveryOption)
-{
-    const auto options = parsed (
-        "--out-wav=a.wav|--wav-bits|16|--out-midi|b.mid|--out-events|c|--set|Gain=-3 dB|--set|Name=a=b|"
-        "--learn|note 36=slot 2|--learn| cc 64  = Filter-Cutoff |--preset|p.json|--sound|s.json|"
-        "--state-in|old|--state-out|new|--slot|7|--seed|-5|--bpm|99.5|"
-        "--sample-rate|44100|--block|random:9:300|--tail|0|--clock|stopped|--loop|0.5:8|--|-in.mid");
-
-    EXPECT_EQ (options.wavFile->getFileName(), "a.wav");
-    EXPECT_EQ (options.wavBits, 16);
-    EXPECT_EQ (options.midiFile->getFileName(), "b.mid");
-    EXPECT_EQ (options.eventsFile->getFileName(), "c");
-    EXPECT_EQ (options.settings[0].text, "-3 dB");
-    EXPECT_EQ (options.settings[1].identifier, "Name");
-    EXPECT_EQ (options.settings[1].text, "a=b");
-    EXPECT_EQ (options.learned[0].number, 36);
-    EXPECT_EQ (options.learned[0].slot, 1);
-    EXPECT_EQ (options.learned[1].number, 64);
-    EXPECT_EQ (options.learned[1].slot, std::nullopt);
-    EXPECT_EQ (options.learned[1].parameter, "Filter-Cutoff");
-    EXPECT_EQ (options.presetFile->getFileName(), "p.json");
-    EXPECT_EQ (options.soundFile->getFileName(), "s.json");
-    EXPECT_EQ (options.stateFile->getFileName(), "old");
-    EXPECT_EQ (options.newStateFile->getFileName(), "new");
-    EXPECT_EQ (options.slot, 7);
-    EXPECT_EQ (options.seed, -5);
-    EXPECT_EQ (options.bpm, 99.5);
-    EXPECT_EQ (options.sampleRate, 44100.0);
-    EXPECT_EQ (options.setup.blockSizes.getLargest(), 300);
-    EXPECT_EQ (options.tailSeconds, 0.0);
-    EXPECT_EQ (options.setup.clock, HostClock::Mode::stopped);
-    EXPECT_EQ (options.loop->startQuarters, 0.5);
-    EXPECT_EQ (options.loop->endQuarters, 8.0);
-    EXPECT_EQ (options.input->getFileName(), "-in.mid");
-}
-
 TEST (ArgumentParser, RefusesWhatMakesNoSense)
 {
     const std::pair<const char*, std::vector<const char*>> rows[] {

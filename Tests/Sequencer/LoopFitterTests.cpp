@@ -149,34 +149,6 @@ TEST (LoopFitter, FillsItsLoopWithEveryLaneThatIsHeardAndNothingElse)
     }
 }
 
-TEST (LoopFitter, KeepsWholeWhatOverrunsTheEndOfItsLoop)
-{
-    LoopFitter loop;
-    loop.events.loopTime.setBars ({ { { 1, 4 } } });
-    loop.events.lanes.push_back (std::make_unique<TimedSteps>());
-    loop.events.lanes[0]->sequences.push_back (sequence ("x-.", 0.75));
-
-    EXPECT_EQ (asText (rendered (loop)),
-               "0+1 notes: 60 @0+0.5, 60 @0.75+0.5 sequences: @0+0.75, @0+1, @0.75+0.75 marks: ");
-}
-
-TEST (LoopFitter, TakesBeatsThatAddUpToALittleLessForTheWholeBar)
-{
-    for (auto denum = 1; denum <= 64; ++denum)
-        for (auto beats : { 1, 3, 7, 10 })
-        {
-            LoopFitter loop;
-            loop.events.lanes.push_back (laneOf ("x"));
-            loop.events.loopTime.setBars ({ { { 2, 128 }, { 2, 128 } } });
-
-            const Bar bar { beats, denum };
-            loop.events.loopTime.setBar (0, bar);
-            loop.events.loopTime.setBar (1, bar);
-            EXPECT_EQ (rendered (loop).notes.size(), 1u) << beats << "/" << denum;
-            EXPECT_EQ (loop.events.lanes[0]->sequences.size(), std::size_t (2 * beats));
-        }
-}
-
 TEST (LoopFitter, ComesToAnEndWhateverItHolds)
 {
     const std::vector<std::pair<const char*, std::size_t>> rows {
@@ -292,50 +264,6 @@ TEST (BarChange, GivesEachBeatOfABarOneSequence)
     }
 }
 
-TEST (BarChange, ThereAndBackLeavesALaneInStep)
-{
-    juce::Random random { 3 };
-    const int denums[] = { 2, 4, 8, 16 };
-
-    for (auto tree = 0; tree < numTrees; ++tree)
-    {
-        Bars bars { {} };
-        std::string letters;
-        EventsContainer loop;
-        auto& lane = *loop.lanes.emplace_back (std::make_unique<TimedSteps>());
-
-        for (auto bar = 0; bar < 4; ++bar)
-        {
-            bars.list.push_back ({ 1 + random.nextInt (9), denums[random.nextInt (4)] });
-            const auto& [num, denum] = bars.list.back();
-            auto beats = laneOf (std::string (std::size_t (num), char ('a' + bar)), 4.0 / denum);
-            std::move (beats->sequences.begin(), beats->sequences.end(), std::back_inserter (lane.sequences));
-        }
-
-        loop.loopTime.setBars (bars);
-        const auto before = beatsOf (lane);
-        const auto index = random.nextInt (3); // not the last, which keeps its surplus
-        const auto former = bars.list[std::size_t (index)];
-
-        NumParam num (loop.loopTime, {}, index);
-        DenumParam denum (loop.loopTime, {}, index);
-        const auto more = former.num + 1 + random.nextInt (32 - former.num);
-        num.setIntValue (more);
-        denum.setIntValue (denums[random.nextInt (4)]);
-        EXPECT_EQ (rendered (lane).length, loop.loopTime.length()) << tree;
-
-        denum.setIntValue (former.denum);
-        num.setIntValue (former.num);
-        EXPECT_EQ (beatsOf (lane), before) << "what was not there is gone again, tree " << tree;
-
-        num.setIntValue (1);
-        EXPECT_EQ (rendered (lane).length, loop.loopTime.length()) << tree;
-        num.setIntValue (former.num);
-        EXPECT_EQ (rendered (lane).length, loop.loopTime.length()) << tree;
-        EXPECT_EQ (lane.sequences.size(), before.substr (0, before.find (' ')).size()) << tree;
-    }
-}
-
 TEST (BarChange, NeverMakesALaneLongerThanAFileCanHold)
 {
     EventsContainer loop;
@@ -345,29 +273,6 @@ TEST (BarChange, NeverMakesALaneLongerThanAFileCanHold)
         loop.loopTime.setBar (0, { num, 4 });
 
     EXPECT_EQ (loop.lanes[0]->sequences.size(), 1024u);
-}
-
-TEST (BarChange, TellsEachLaneOnceAllAreChangedAndNotTheOriginalOfACopy)
-{
-    EventsContainer original;
-    original.fitLoop = true;
-    original.lanes.push_back (laneOf ("abcd"));
-    original.lanes.push_back (laneOf ("abcd"));
-    auto copy = original;
-    copy = original;
-    EXPECT_TRUE (copy.fitLoop);
-    std::string calls;
-
-    const Events::Listener first (*copy.lanes[0], [&] {
-        calls += beatsOf (*copy.lanes[1]) + ", ";
-        copy.lanes.pop_back(); // with its listener
-    });
-    const Events::Listener second (*copy.lanes[1], [&] { calls += "second"; });
-    const Events::Listener other (*original.lanes[0], [&] { calls += "original"; });
-
-    copy.loopTime.setBar (0, { 5, 4 });
-    EXPECT_EQ (calls, "abcd. 1 1 1 1 1, ");
-    EXPECT_EQ (original.lanes[0]->sequences.size(), 4u);
 }
 
 } // namespace Zn::Sequencer::Modifiers

@@ -77,29 +77,6 @@ TEST (Clip, PlaysAWindowOfAllThreeListsFromItsStartOn)
                "0+1.25 notes: 60 @0+1.25, 60 @1+0.25 sequences: @0+1.25, @1+0.25 marks: @0+1.25, @1+0.25");
 }
 
-TEST (Clip, WithoutAWindowPassesTheChildWithItsLength)
-{
-    Clip clip;
-    clip.setChild (quarterNotes().clone());
-
-    EXPECT_EQ (asText (rendered (clip)), asText (rendered (quarterNotes())));
-    EXPECT_EQ (rendered (clip).length, 4.0);
-}
-
-TEST (Clip, LeavesTheTargetAloneWhenInactive)
-{
-    Clip clip;
-    clip.setChild (quarterNotes().clone());
-    clip.time = { 1.0, 1.0 };
-    clip.active = false;
-
-    auto target = rendered (quarterNotes());
-    target.length = 7.0;
-    const auto before = asText (target);
-    clip.render (target);
-    EXPECT_EQ (asText (target), before);
-}
-
 TEST (NoteList, CutsItsNotesAtTheEndOfItsBars)
 {
     EXPECT_EQ (asText (rendered (quarterNotes())),
@@ -148,23 +125,6 @@ TEST (Pattern, PlacesSortsAndCutsItsClips)
                "0+4 notes: 61 @0+1, 62 @1+0.5, 60 @3+1 sequences: @0+4, @3+1 marks: ");
 }
 
-TEST (Pattern, KeepsTheOrderOfNotesThatStartTogether)
-{
-    NoteList chord;
-
-    for (auto row = 0; row < 40; ++row)
-        chord.notes.push_back (note (row, 0, 1));
-
-    Pattern pattern;
-    pattern.clips = { placed (chord, { 0, 0 }, { 2, 0 }), placed (chord, { 0, 0 }, { 0, 0 }) };
-    const auto notes = rendered (pattern).notes;
-
-    ASSERT_EQ (notes.size(), 80u);
-
-    for (std::size_t i = 0; i < notes.size(); ++i)
-        EXPECT_EQ (notes[i].event.noteNum, static_cast<int> (i % 40)) << i;
-}
-
 TEST (Clones, RenderLikeTheirOriginalsAndLiveByThemselves)
 {
     Pattern inner;
@@ -185,16 +145,6 @@ TEST (Clones, RenderLikeTheirOriginalsAndLiveByThemselves)
     const auto expected = asText (events);
     original.reset();
     EXPECT_EQ (asText (rendered (*copy)), expected);
-}
-
-TEST (Clones, OfAClipMayBeAssignedToTheClipItself)
-{
-    Clip outer, inner;
-    inner.setChild (quarterNotes().clone());
-    outer.setChild (inner.clone());
-
-    outer = dynamic_cast<const Clip&> (outer.getChild());
-    EXPECT_EQ (asText (rendered (outer)), asText (rendered (quarterNotes())));
 }
 
 TEST (ModRef, StandsForTheSameModifierWhenCloned)

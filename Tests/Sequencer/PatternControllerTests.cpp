@@ -80,15 +80,6 @@ TEST_F (PatternControllerTest, RebuildsOnceForNestedEdits)
     EXPECT_EQ (calls, "ae");
 }
 
-TEST_F (PatternControllerTest, PlaysWhatWasReadWhenALoadFailsMidway)
-{
-    EXPECT_THROW (loadText (R"({"Patterns": [{"Time": {"Bars": [{"num": 3}]}}, {"Multiply": "maybe"}]})"),
-                  std::invalid_argument);
-
-    EXPECT_EQ (slot (0).playLength, 3.0);
-    EXPECT_EQ (calls, "ae");
-}
-
 TEST_F (PatternControllerTest, HasEightSlotsWhateverIsLoaded)
 {
     for (auto& each : controller.getSlots())
@@ -135,27 +126,6 @@ TEST_F (PatternControllerTest, EmptiesSlotsThatDoNotPlayOrCannotBeLooped)
     EXPECT_FALSE (slot (1).looping);
     EXPECT_EQ (slot (2).playLength, 0.0);
     EXPECT_EQ (slot (3).events.notes.size(), 2u);
-}
-
-TEST_F (PatternControllerTest, KeepsWhichSlotsPlayThroughRebuildsAndDocuments)
-{
-    const auto chunk = ReflectorContext::forHostChunk();
-    loadText (R"({"Slots": [{}, {"playing": false}, {"looping": false}]})", chunk);
-    controller.rebuild();
-
-    Document document { controller };
-    const auto written = saved (document, chunk);
-    EXPECT_EQ (written["Slots"].size(), 8u);
-    EXPECT_EQ (written["Slots"][1]["playing"], false);
-    EXPECT_EQ (written["Slots"][1]["Clip"].count ("StepPulseSequencer"), 0u) << "the drawing is kept once";
-    EXPECT_FALSE (saved (document).contains ("Slots")) << "not in a preset file";
-
-    PatternController other;
-    Document otherDocument { other };
-    load (otherDocument, written, chunk);
-    EXPECT_EQ (saved (otherDocument, chunk), written);
-    EXPECT_FALSE (other.getPatternData()->slots[1].playing);
-    EXPECT_FALSE (other.getPatternData()->slots[2].looping);
 }
 
 TEST_F (PatternControllerTest, MarksATurnOfThePatternAsTheSlotsOwn)

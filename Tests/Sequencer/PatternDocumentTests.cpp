@@ -26,30 +26,6 @@ void expectRoundTrip (Model& model, Model other)
     EXPECT_EQ (saved (other), first);
 }
 
-TEST (PatternDocument, OfASlotHasExactlyTheseKeys)
-{
-    PatternSlot slot;
-    slot.pattern.steps = { note (52, 0.0625, 0.125) };
-
-    EXPECT_EQ (saved (slot), parsed (R"({
-        "Multiply": false,
-        "Pattern": {
-            "Duration": { "Time": { "Bars": [ { "denum": 4, "num": 2 } ] }, "duration": 1.0, "mode": 1 },
-            "Steps": [
-                {
-                    "Event": { "channel": 1, "noteNum": 52, "velocity": 0.800000011920929 },
-                    "Time": { "length": 0.125, "start": 0.0625 },
-                    "enabled": true
-                }
-            ],
-            "grid": 16,
-            "length": 0.98,
-            "name": ""
-        },
-        "Time": { "Bars": [ { "denum": 4, "num": 4 } ] }
-    })"));
-}
-
 TEST (PatternDocument, ComesBackAsItWasSaved)
 {
     PatternSlot slot;
@@ -98,26 +74,6 @@ TEST (PatternDocument, NamesChanceAndSpreadOnlyWhereTheyAreUsed)
     const auto document = saved (pattern)["Steps"];
     EXPECT_EQ (document[0]["Play"], parsed (R"({"chance": 0.5, "spreadLow": 0.0, "spreadHigh": 0.25})"));
     EXPECT_FALSE (document[1].contains ("Play"));
-}
-
-TEST (PatternDocument, NeverLetsAnotherDrawingsChanceShineThrough)
-{
-    TimedNote step;
-    step.event = { 0.5f, -0.25f, 0.25f, 0.3f, 40, 2 };
-    load (step, parsed (R"({"Event": {"noteNum": 41}})"));
-
-    EXPECT_EQ (step.event, (NoteEvent { 1.0f, 0.0f, 0.0f, 0.3f, 41, 2 }));
-}
-
-TEST (PatternDocument, LimitsChanceAndPutsTheSpreadInOrder)
-{
-    TimedNote step;
-    load (step, parsed (R"({"Play": {"chance": 7, "spreadLow": 3.0, "spreadHigh": -0.5}})"));
-    EXPECT_EQ (step.event, (NoteEvent { 1.0f, -0.5f, 1.0f, 0.8f, 36, 1 }));
-
-    load (step, parsed (R"({"Play": {"chance": -7, "spreadLow": 1e300, "spreadHigh": 0.5}})"));
-    EXPECT_EQ (step.event.chance, 0.0f);
-    EXPECT_LE (step.event.spreadLow, step.event.spreadHigh);
 }
 
 TEST (PatternDocument, TakesAVelocityAsTextAndLoadsOn)

@@ -77,24 +77,6 @@ Sequencer::RenderedSlot drawing (juce::Random& random, bool withChance = true)
     return loop (length, notes);
 }
 
-/** Notes of all lengths, on top of each other. */
-Sequencer::RenderedSlot scribble (juce::Random& random)
-{
-    Notes notes;
-
-    for (auto i = random.nextInt (12); i >= 0; --i)
-    {
-        notes.push_back (note (60 + random.nextInt (3), 0.0, 0.0));
-        notes.back().time.start = 2.0 * random.nextDouble();
-        notes.back().time.length = 1.5 * random.nextDouble();
-    }
-
-    auto slot = loop (random.nextBool() ? 2.0 : 0.01 + random.nextDouble(), notes);
-    slot.looping = random.nextInt (4) > 0;
-    slot.playing = random.nextInt (8) > 0;
-    return slot;
-}
-
 /** Something that happens to a player in the middle of a song. */
 void interfere (EngineRig& rig,
                 juce::Random& random,
@@ -171,32 +153,6 @@ std::string difference (HeardRows whole, HeardRows cut)
     return {};
 }
 } // namespace
-
-TEST (PatternEngineLaws, LeaveNothingHangingWhateverHappens)
-{
-    for (auto seed = 0; seed < 300; ++seed)
-    {
-        juce::Random random (seed);
-        const auto makeSlot = [&random] { return scribble (random); };
-        EngineRig rig { makeSlot() };
-        rig.ppqPerSample = seed % 2 == 0 ? ppqPerSample : 0.125;
-        juce::MidiBuffer all;
-
-        for (auto block = 0; block < 100; ++block)
-        {
-            if (random.nextBool())
-                interfere (rig, random, makeSlot);
-
-            all.addEvents (rig.play (random.nextInt (70)), 0, -1, block * 100);
-        }
-
-        rig.isPlaying = false;
-        all.addEvents (rig.play (1), 0, -1, 100 * 100);
-
-        EXPECT_TRUE (sounding (all).empty()) << "seed " << seed;
-        EXPECT_TRUE (rig.play (1).isEmpty()) << "seed " << seed;
-    }
-}
 
 /** A drawn note starts and ends once however the song is cut. A moment that falls between the last sample of
     one call and the first of the next is heard at the latter, so it may move by one sample: no more is promised,

@@ -32,19 +32,6 @@ TEST (PatternEngine, PlaysEachStepAtTheSampleThatCrossesItsStart)
                "off 64 @20, on 65 v102 @20, off 65 @25, on 64 v102 @25");
 }
 
-TEST (PatternEngine, CatchesUpWithANoteThatLastsWhenPlayingBegins)
-{
-    EngineRig rig { twoRows() };
-    rig.ppq = 0.25;
-    EXPECT_EQ (text (rig.play (8)), "on 64 v102 @0, off 64 @2, on 65 v102 @2, off 65 @6, on 64 v102 @6");
-
-    EngineRig held { loop (4.0, Notes { note (60, 0.0, 4.0) }) };
-    held.jumpTo (1002.0);
-    EXPECT_EQ (text (held.play (17)),
-               "on 60 v102 @0, off 60 @16"); // starts again between this sample and the next
-    EXPECT_EQ (text (held.play (1)), "on 60 v102 @0");
-}
-
 TEST (PatternEngine, DrawsChanceThenSpreadForEachStep)
 {
     auto chances = steps ("xxxxxxxx", 60);
@@ -72,33 +59,6 @@ TEST (PatternEngine, DrawsChanceThenSpreadForEachStep)
     EngineRig spread { loop (4.0, spreads) };
     EXPECT_EQ (text (spread.play (13)),
                "on 60 v101 @0, off 60 @2, on 60 v83 @4, off 60 @6, on 60 v82 @8, off 60 @10");
-}
-
-TEST (PatternEngine, LimitsVelocityToAByteThatIsNoNoteOff)
-{
-    const std::pair<float, int> rows[] { { 0.0f, 1 },   { 0.005f, 1 }, { 0.01f, 1 },         { 0.1f, 13 },
-                                         { 0.25f, 32 }, { 0.5f, 64 },  { 0.8f, 102 },        { 1.0f, 127 },
-                                         { 1.7f, 127 }, { -3.0f, 1 },  { std::nanf (""), 1 } };
-
-    for (const auto& [velocity, byte] : rows)
-    {
-        EngineRig rig { loop (4.0, Notes { note (60, 0.0, 1.0, velocity) }) };
-        EXPECT_EQ ((*rig.play (4).begin()).data[2], byte) << velocity;
-    }
-}
-
-TEST (PatternEngine, AddsTheNotesChannelToTheStatusAndSkipsRowsThatAreNone)
-{
-    auto notes =
-        Notes { note (60, 0.0, 1.0), note (61, 0.0, 1.0), note (128, 0.0, 1.0), note (-1, 0.0, 1.0) };
-    notes[0].event.channel = 1;
-    notes[1].event.channel = 99;
-
-    auto disabled = note (62, 0.0, 1.0);
-    disabled.enabled = false;
-
-    EngineRig rig { loop (4.0, notes, Notes { disabled }) };
-    EXPECT_EQ (text (rig.play (4)), "on 60 v102 ch2 @0, on 61 v102 ch16 @0");
 }
 
 TEST (PatternEngine, EndsWhatAnEditedPatternNoLongerHolds)
@@ -130,21 +90,6 @@ TEST (PatternEngine, EndsWhatAnEditedPatternNoLongerHolds)
     }
 }
 
-TEST (PatternEngine, EndsItsNotesWhenTheTransportStops)
-{
-    EngineRig rig { loop (4.0, steps ("x---")) };
-    rig.play (4);
-    rig.isPlaying = false;
-
-    EXPECT_EQ (text (rig.play (4)), "off 64 @0");
-    EXPECT_EQ (text (rig.play (4)), "");
-
-    rig.isPlaying = true;
-    EXPECT_EQ (text (rig.play (4)), "on 64 v102 @0");
-    rig.frame = {};
-    EXPECT_EQ (text (rig.play (4)), "off 64 @0");
-}
-
 TEST (PatternEngine, RestartsThePatternAtTheNextSample)
 {
     EngineRig rig { twoRows() };
@@ -164,13 +109,6 @@ TEST (PatternEngine, RestartsThePatternAtTheNextSample)
     EXPECT_EQ (text (rig.play (2)), "off 65 @0, on 64 v102 @0"); // a key wins over a jump
 }
 
-TEST (PatternEngine, PlaysNothingBeforeThePatternBegins)
-{
-    EngineRig rig { twoRows() };
-    rig.ppq = -1.0;
-    EXPECT_EQ (text (rig.play (12)), "on 64 v102 @8");
-}
-
 TEST (PatternEngine, PlaysASlotThatDoesNotLoopOnceFromItsAnchor)
 {
     EngineRig rig { once (steps ("x.x.")) };
@@ -178,20 +116,6 @@ TEST (PatternEngine, PlaysASlotThatDoesNotLoopOnceFromItsAnchor)
     EXPECT_EQ (text (rig.play (40)), "on 64 v102 @0, off 64 @4, on 64 v102 @8, off 64 @12");
     rig.engine.requestRestart();
     EXPECT_EQ (text (rig.play (4)), "on 64 v102 @0");
-}
-
-TEST (PatternEngine, ChangesTheSlotOnTheGridAndStartsItThere)
-{
-    EngineRig rig { loop (4.0, steps ("x-------", 60)) };
-    rig.draw (1, loop (4.0, steps ("x...", 70)));
-    rig.play (3);
-    rig.ask (1);
-
-    EXPECT_EQ (text (rig.play (8)), "off 60 @5, on 70 v102 @5");
-    EXPECT_EQ (rig.live().switchedPosition, 1.0);
-    EXPECT_EQ (text (rig.play (8)), "off 70 @1");
-    EXPECT_EQ (text (rig.play (30)),
-               "on 70 v102 @21, off 70 @25"); // four quarters after its start, not on the song's bar
 }
 
 TEST (PatternEngine, ChangesTheSlotAtOnceWhileLiveChangesAreOff)

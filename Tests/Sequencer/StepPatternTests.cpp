@@ -107,16 +107,5 @@ TEST (TimedSteps, HoldsItsPlaceWhenMutedOrEmpty)
     EXPECT_EQ (asText (rendered (muted)), "0+4 notes:  sequences:  marks: ");
     EXPECT_EQ (asText (rendered (TimedSteps())), "0+4 notes:  sequences:  marks: ");
 }
-
-TEST (TimedSteps, ClonesOwnTheirSequences)
-{
-    auto original = std::make_unique<TimedSteps> (lane());
-    const auto expected = asText (rendered (*original));
-    const auto copy = original->clone();
-
-    original->sequences.front()->steps.clear();
-    original.reset();
-    EXPECT_EQ (asText (rendered (*copy)), expected);
-}
 } // namespace
 } // namespace Zn::Sequencer::Modifiers

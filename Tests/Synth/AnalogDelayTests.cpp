@@ -253,45 +253,6 @@ TEST (AnalogDelay, StaysBoundedWithAllTheFeedbackThereIs)
         }
 }
 
-TEST (AnalogDelay, OutlivesTargetsThatAreNoNumbers)
-{
-    Delay delay, undisturbed;
-
-    for (auto* each : { &delay, &undisturbed })
-    {
-        each->prepare (sampleRate);
-        set (*each, { 100.0, 0.2f, 0.5f });
-    }
-
-    const auto notANumber = std::numeric_limits<double>::quiet_NaN();
-    delay.setTargets (notANumber, static_cast<float> (notANumber));
-    delay.setTargets (HUGE_VAL, -HUGE_VALF);
-
-    auto sound = noise (1000, 5), expected = sound;
-    delay.process (sound);
-    undisturbed.process (expected);
-    expectEqual (sound, expected, "targets");
-}
-
-TEST (AnalogDelay, LeavesOtherThanStereoAloneAndTakesEmptyBlocks)
-{
-    Delay delay;
-    juce::AudioBuffer<float> mono (1, 16), stereo (2, 16), none (2, 0);
-    mono.clear();
-    mono.setSample (0, 3, 1.0f);
-    stereo.clear();
-    stereo.setSample (1, 3, 1.0f);
-
-    delay.process (stereo); // not prepared
-    EXPECT_EQ (stereo.getSample (1, 3), 1.0f);
-
-    delay.prepare (sampleRate);
-    set (delay, { 4.0, 0.2f, 0.5f });
-    delay.process (none);
-    delay.process (mono);
-    EXPECT_EQ (mono.getSample (0, 3), 1.0f);
-}
-
 TEST (AnalogDelay, IsSafeForTheAudioThread)
 {
     Params params;

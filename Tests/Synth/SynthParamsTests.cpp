@@ -1,6 +1,5 @@
 #include "Parameters/ParameterText.h"
 #include "Parameters/TargetValue.h"
-#include "Support/Documents.h"
 #include "Support/RealTimeGuard.h"
 #include "Synth/WavBytes.h"
 #include "Synth/WavetableSynth/Params.h"
@@ -28,54 +27,7 @@ const SampleList& threeTables()
 
     return list;
 }
-
-void forEachParam (ParamList& list, const std::function<void (ParamHolderBase&)>& visit)
-{
-    for (const auto& [name, holder] : list.getParams())
-        visit (*holder);
-
-    for (const auto& [name, child] : list.getChildren())
-        forEachParam (*child, visit);
-}
 } // namespace
-
-TEST (SynthParams, SaveWhatPresetsHold)
-{
-    Params params { threeTables() };
-
-    const auto oscillator = parsed (R"({ "Type": "ARP", "Enable": "On", "Octave": "0", "Tune": "0",
-        "Volume": "-15.00 dB", "Unison": { "Unison": "1", "UnisonDepth": "0.50", "UnisonSpread": "0.50" } })");
-
-    auto expected = parsed (R"({
-        "Oscillators": { "Sync": "Off" },
-        "Filter": { "Enable": "On", "Cutoff": "8000.00", "Resonance": "1.00", "KeyTracking": "1.00" },
-        "ADSR": { "Attack": "0.00", "Decay": "1.00", "Sustain": "1.00", "Release": "0.01" },
-        "Delay": { "Analog": "0.50", "Mode": "Sync", "Time": "0.10", "TimeSync": "1/4", "Feedback": "0.10",
-                   "Mix": "0.00" },
-        "Sub": { "SubVolume": "0.00 dB", "SubOctave": "-2" } })");
-
-    for (const auto* name : { "OSC 0", "OSC 1", "OSC 2", "OSC 3" })
-        expected["Oscillators"][name] = oscillator;
-
-    EXPECT_EQ (saved (params), expected);
-}
-
-TEST (SynthParams, LoadASoundThatWasSaved)
-{
-    Params sent { threeTables() }, received { threeTables() };
-    juce::Random random { 7 };
-
-    for (auto round = 0; round < 200; ++round)
-    {
-        forEachParam (sent, [&random] (ParamHolderBase& holder) {
-            Parameters::setNormalised (holder.getParameter(), random.nextFloat());
-        });
-
-        const auto document = saved (sent);
-        load (received, document);
-        EXPECT_EQ (saved (received), document);
-    }
-}
 
 TEST (OscillatorParam, ShowsShortNamesAndKeepsItsTableWhenATextNamesNone)
 {

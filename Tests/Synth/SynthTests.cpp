@@ -221,59 +221,6 @@ TEST (Synth, StartsAStolenVoiceAfresh)
     EXPECT_LT (loudestDifference (full.render (2000), alone.render (2000)), 1.0e-5f);
 }
 
-TEST (Synth, StartsEndsAndBendsAtTheSampleOfTheMessage)
-{
-    Rig rig;
-    rig.setEnvelope (0.0f, 0.0f, 1.0f, 0.0f);
-    const auto audio = rig.render (512, events ("on 60 @100, off 60 @300"));
-
-    EXPECT_EQ (audio.getMagnitude (0, 100), 0.0f);
-    EXPECT_NE (audio.getMagnitude (101, 1), 0.0f); // a sine begins with 0
-    EXPECT_NE (audio.getMagnitude (290, 10), 0.0f);
-    EXPECT_EQ (audio.getMagnitude (301, 211), 0.0f);
-    EXPECT_FALSE (rig.synth.isAnyVoiceActive());
-}
-
-TEST (Synth, RemembersTheWheelBetweenNotes)
-{
-    const auto play = [] (const char* song) { return Rig().render (512, events (song)); };
-
-    // A wheel at its top is two semitones, a hair short of it.
-    EXPECT_LT (loudestDifference (play ("hex E0 7F 7F @0, on 60 @0"), play ("on 62 @0")), 2.0e-3f);
-}
-
-TEST (Synth, RendersTheSameHoweverItsBlocksAreCut)
-{
-    const auto play = [] (const std::vector<int>& blocks) {
-        Rig rig;
-        rig.setEnvelope (0.01f, 0.05f, 0.5f, 0.05f);
-        const auto song =
-            events ("on 48 @0, on 60 @37, hex E0 00 50 @900, off 48 @1000, on 67 @1500, off 60 @1501");
-        juce::AudioBuffer<float> whole (2, 3000);
-        auto start = 0;
-
-        for (size_t i = 0; start < 3000; ++i)
-        {
-            const auto length = std::min (blocks[i % blocks.size()], 3000 - start);
-            juce::MidiBuffer midi;
-            midi.addEvents (song, start, length, -start);
-            const auto block = rig.render (length, midi);
-
-            for (auto c = 0; c < 2; ++c)
-                whole.copyFrom (c, start, block, c, 0, length);
-
-            start += length;
-        }
-
-        return whole;
-    };
-
-    const auto whole = play ({ 3000 });
-
-    for (const auto& blocks : { std::vector { 1 }, std::vector { 64 }, std::vector { 511, 7, 100 } })
-        EXPECT_LT (loudestDifference (play (blocks), whole), 1.0e-5f);
-}
-
 TEST (Synth, SurvivesMoreNotesThanItHasVoices)
 {
     Rig rig;

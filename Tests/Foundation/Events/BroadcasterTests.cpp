@@ -196,31 +196,4 @@ TEST (ValueListener, CallsOnlyWhenItsOwnValueHasChanged)
     screen.callListeners();
     EXPECT_THAT (widths, ElementsAre (11));
 }
-
-TEST (Value, TellsItsListenersOfEachNewValue)
-{
-    Value<std::string> name ("Init");
-    std::vector<std::string> heard;
-    const ValueListener<std::string> listener (name,
-                                               [&] (const std::string& text) { heard.push_back (text); });
-
-    name.set ("Init");
-    name.set ("Bass");
-    name.set ("Bass");
-    name.set ("Lead");
-
-    EXPECT_THAT (heard, ElementsAre ("Bass", "Lead"));
-}
-
-TEST (CallbackFunc, ChainsInOrderAndLeavesOutEmptyOnes)
-{
-    std::string order;
-    const CallbackFunc a = [&] { order += 'a'; };
-    const CallbackFunc b = [&] { order += 'b'; };
-
-    chainFunctions (chainFunctions (a, b), chainFunctions ({}, a))();
-
-    EXPECT_EQ (order, "aba");
-    EXPECT_FALSE (chainFunctions ({}, {}));
-}
 } // namespace Zn::Events

@@ -77,20 +77,6 @@ void loadText (Pattern& pattern, const std::string& text)
     auto document = json::parse (text);
     load (pattern, document, context);
 }
-
-template <typename Call>
-int errorOf (Call&& call)
-{
-    try
-    {
-        call();
-        return 0;
-    }
-    catch (const json::exception& exception)
-    {
-        return exception.id;
-    }
-}
 } // namespace
 
 TEST (Json, LoadsWhatItHasSaved)
@@ -236,52 +222,6 @@ TEST (Json, PassesTheContextToEveryNode)
     EXPECT_EQ (outer.inners.front().hostOnly, 6);
     load (outer, chunk, ReflectorContext::forUndo());
     EXPECT_EQ (outer.inners.front().hostOnly, 5);
-}
-
-TEST (Saver, LetsTheLaterOfTwoEqualNamesWin)
-{
-    Saver saver (context);
-    saver.getChild ("x")->setValue ("first", ReflectedValue (true));
-    saver.getChild ("x")->setValue ("second", ReflectedValue (std::monostate()));
-
-    EXPECT_EQ (toText (saver.takeDocument()), R"({"x":{"second":null}})");
-}
-
-TEST (Loader, ExtendsAnArrayByReadingBehindItsEnd)
-{
-    auto document = json::parse ("[1]");
-    Loader loader (document, context);
-
-    EXPECT_EQ (loader.getSize(), 1);
-    EXPECT_NE (loader.getArrayItem (3), nullptr);
-    EXPECT_EQ (document, json::parse ("[1, null, null, null]"));
-}
-
-TEST (Loader, ThrowsForItemsAndKeysThatDoNotExist)
-{
-    auto null = json(), scalar = json (5), object = json::parse (R"({ "b": 1, "a": 2 })"),
-         array = json::array();
-
-    const auto itemError = [] (json& document, int index) {
-        return errorOf ([&] { Loader (document, context).getArrayItem (index); });
-    };
-
-    EXPECT_EQ (itemError (null, 0), 214);
-    EXPECT_EQ (itemError (scalar, 0), 0);
-    EXPECT_EQ (itemError (scalar, 1), 214);
-    EXPECT_EQ (itemError (object, 1), 0);
-    EXPECT_EQ (itemError (object, 2), 214);
-    EXPECT_EQ (itemError (object, -1), 214);
-    EXPECT_EQ (itemError (array, -1), 214);
-
-    const auto keyError = [] (json& document, int index) {
-        return errorOf ([&] { Loader (document, context).getKey (index); });
-    };
-
-    EXPECT_EQ (Loader (object, context).getKey (0), "a");
-    EXPECT_EQ (keyError (object, 2), 214);
-    EXPECT_EQ (keyError (array, 0), 207);
-    EXPECT_EQ (keyError (scalar, 0), 207);
 }
 
 TEST (Loader, KeepsUnsignedNumbersBeyondItsRangePositive)

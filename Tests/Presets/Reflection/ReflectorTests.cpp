@@ -154,21 +154,6 @@ TEST (Reflector, TakesTextOnlyFromText)
     }
 }
 
-TEST (Reflector, SavesEachFieldUnderItsTag)
-{
-    const auto saved = [] (auto field) {
-        FlatReflector reflector (std::monostate(), false);
-        reflector.add ("field", field);
-        return reflector.held;
-    };
-
-    EXPECT_EQ (saved (true), ReflectedValue (true));
-    EXPECT_EQ (saved (std::int32_t { -4 }), integer (-4));
-    EXPECT_EQ (saved (0.8f), ReflectedValue (0.800000011920929)) << "a float keeps its own value";
-    EXPECT_EQ (saved (juce::String ("Bass")), text ("Bass"));
-    EXPECT_EQ (saved (Version { 0, 7, 3 }), text ("0.7.3"));
-}
-
 TEST (Version, IsThreeNumbersOrNothing)
 {
     EXPECT_EQ (Version::fromText ("0.5.3"), (Version { 0, 5, 3 }));

@@ -134,18 +134,5 @@ TEST (TableRead, TakesNoHarmFromPhasesThatAreNone)
                     EXPECT_LE (std::abs (left) + std::abs (right), 4.0f) << bad;
             }
 }
-
-TEST (TableRead, OfNoGainAdvancesLikeAnyOther)
-{
-    juce::Random random (3);
-    const KernelTable table (noise (2, 100, random));
-    TableRead heard { table.view(), 0.3, 0.013 }, silent { table.view(), 0.3, 0.013, { 0.0f, 0.0f } };
-    std::vector<Stereo> frames (50);
-    bestKernels().addTable (heard, frames);
-    frames.assign (50, {});
-    bestKernels().addTable (silent, frames);
-    EXPECT_EQ (heard.phase, silent.phase);
-    EXPECT_EQ (frames, std::vector<Stereo> (50));
-}
 } // namespace
 } // namespace Zn::Audio::Kernels
