@@ -63,13 +63,24 @@ void Tooltips::poll()
     else if (under != pressed)
         pressed = nullptr;
 
-    const auto isAsked = under != nullptr && pressed == nullptr && page.isParentOf (under);
-    look (isAsked ? under : nullptr, lastPointer, int (juce::Time::getMillisecondCounter() - restsSince));
+    if (lastUnder != under)
+    {
+        lastUnder = under;
+        restsSince = juce::Time::getMillisecondCounter();
+
+        if (under != nullptr && ! page.isParentOf (under))
+            lastPointer = layer.getLocalArea (under, under->getLocalBounds()).getCentre();
+    }
+
+    look (pressed == nullptr ? under : nullptr,
+          lastPointer,
+          int (juce::Time::getMillisecondCounter() - restsSince));
 }
 
 void Tooltips::look (juce::Component* underPointer, juce::Point<int> pointer, int restedMilliseconds)
 {
-    auto* owner = settings.get().tooltips ? underPointer : nullptr;
+    const auto isHere = underPointer != nullptr && layer.getTopLevelComponent()->isParentOf (underPointer);
+    auto* owner = isHere && settings.get().tooltips ? underPointer : nullptr;
 
     while (owner != nullptr && dynamic_cast<const TooltipSource*> (owner) == nullptr)
         owner = owner->getParentComponent();

@@ -8,12 +8,12 @@
 namespace Zn::GUI
 {
 /** Watches what the pointer rests on, and explains it. Where the pointer is it knows from the mouse events: an answer of
-    the window system takes its time. Thread: message.
+    the window system takes its time. Beside the page it takes the middle of what is under the pointer. Thread: message.
 */
 class Tooltips : private juce::MouseListener
 {
 public:
-    /** Shows them on the layer, for what lies in the page. */
+    /** Shows them on the layer, for all that lies in the page's window. */
     Tooltips (juce::Component& pageToWatch,
               juce::Component& layerToUse,
               const AssetScheme::Canvas& canvas,
@@ -41,7 +41,7 @@ private:
     TooltipCard card;
     CardShadow shadow;
     TooltipText text;
-    juce::Component::SafePointer<juce::Component> explained, pressed;
+    juce::Component::SafePointer<juce::Component> explained, pressed, lastUnder;
     juce::Point<int> lastPointer; // on the layer
     juce::uint32 restsSince = 0;  // milliseconds
     int lastLook = 0;             // in intervals of looks at a text

@@ -3,6 +3,7 @@
 #include "GUI/Framework/AssetScheme/Base.h"
 #include "GUI/Widgets/ValueText.h"
 
+#include <cmath>
 #include <utility>
 
 namespace Zn::GUI
@@ -17,6 +18,14 @@ juce::Colour colourOf (const char* name)
 {
     return AssetScheme::Base::get().colourOf (name);
 }
+
+TooltipText octaveText (const char* title, const juce::String& where, const char* key)
+{
+    return { .title = title,
+             .value = {},
+             .help = "The computer's keys play an octave " + where + ".",
+             .shortcut = key };
+}
 } // namespace
 
 void KeyboardStrip::Piano::drawWhiteNote (int note,
@@ -27,13 +36,15 @@ void KeyboardStrip::Piano::drawWhiteNote (int note,
                                           juce::Colour,
                                           juce::Colour textColour)
 {
-    paintKey (g, area.withTrimmedRight (1.0f), colourOf ("TextSecondary"), isDown, isOver);
+    // Whole pixels, so that each gap is as dark as the next.
+    const auto left = std::round (area.getX());
+    const auto key = area.withLeft (left).withRight (std::round (area.getRight()) - 1.0f);
+    paintKey (g, key, colourOf ("TextSecondary"), isDown, isOver);
 
     if (const auto name = getWhiteNoteText (note); name.isNotEmpty())
     {
-        constexpr auto textHeight = 0.7f; // of the key's width
         g.setColour (textColour);
-        g.setFont (g.getCurrentFont().withHeight (textHeight * area.getWidth()));
+        g.setFont (font);
         g.drawText (name, area.withTrimmedBottom (3.0f), juce::Justification::centredBottom, false);
     }
 }
@@ -70,25 +81,44 @@ void KeyboardStrip::Piano::paintKey (
     }
 }
 
-KeyboardStrip::KeyboardStrip (EditorContext& contextToUse, juce::Component& window, CallbackFunc showDevices)
-    : context (contextToUse), typedKeys (window, keys)
+KeyboardStrip::Button::Button (const juce::String& text, TooltipText explanation)
+    : TextButton (text), tooltip (std::move (explanation))
 {
+    setTitle (tooltip.title);
+    setDescription (tooltip.help);
+}
+
+KeyboardStrip::KeyboardStrip (EditorContext& contextToUse, juce::Component& window, CallbackFunc showDevices)
+    : context (contextToUse)
+    , typedKeys (window, keys)
+    , devices ("Audio and MIDI",
+               { .title = "Audio and MIDI",
+                 .value = {},
+                 .help = "Choose what Vornel is heard through, and which MIDI devices play it.",
+                 .shortcut = {} })
+    , typing ("Type to play",
+              { .title = "Type to play",
+                .value = {},
+                .help = "The row from A plays notes, Z and X move it by an octave.",
+                .shortcut = {} })
+    , down (juce::String::charToString (0x2212), octaveText ("Octave down", "lower", "Z"))
+    , up ("+", octaveText ("Octave up", "higher", "X"))
+    , schemeListener (context.canvas, [this] { schemeChanged(); })
+    , settingsListener (context.settings, [this] { showOctaves(); })
+{
+    setComponentID ("KeyboardStrip");
     setTitle ("Keyboard");
     setFocusContainerType (FocusContainerType::focusContainer);
 
     devices.onClick = std::move (showDevices);
-    devices.setTooltip ("Choose what Vornel is heard through, and which MIDI devices play it.");
 
     typing.setClickingTogglesState (true);
     typing.setToggleState (true, juce::dontSendNotification);
     typing.onClick = [this] { typedKeys.setActive (typing.getToggleState()); };
-    typing.setTooltip ("The row from A plays notes, Z and X move it by an octave.");
 
-    down.setTitle ("Octave down");
-    up.setTitle ("Octave up");
     down.onClick = [this] { typedKeys.setLowestNote (typedKeys.getLowestNote() - semitonesPerOctave); };
     up.onClick = [this] { typedKeys.setLowestNote (typedKeys.getLowestNote() + semitonesPerOctave); };
-    typedKeys.octaveChanged = [this] { showOctave(); };
+    typedKeys.octaveChanged = [this] { showOctaves(); };
 
     octave.setJustificationType (juce::Justification::centred);
     octave.setBorderSize ({});
@@ -102,8 +132,8 @@ KeyboardStrip::KeyboardStrip (EditorContext& contextToUse, juce::Component& wind
         addAndMakeVisible (child);
 
     keys.addListener (this);
-    takeColours();
-    showOctave();
+    schemeChanged();
+    showOctaves();
 }
 
 KeyboardStrip::~KeyboardStrip()
@@ -137,7 +167,6 @@ void KeyboardStrip::resized()
     down.setBounds (controls.removeFromLeft (controls.getHeight()));
     up.setBounds (controls.removeFromRight (controls.getHeight()));
     octave.setBounds (controls);
-    octave.setFont (context.canvas.fontOf ("FontBody"));
 }
 
 void KeyboardStrip::handleNoteOn (juce::MidiKeyboardState*, int channel, int note, float velocity)
@@ -151,9 +180,17 @@ void KeyboardStrip::handleNoteOff (juce::MidiKeyboardState*, int channel, int no
         context.state().panic(); // nothing has been heard for long; nothing must hang when it is again
 }
 
+void KeyboardStrip::schemeChanged()
+{
+    octave.setFont (context.canvas.fontOf ("FontBody"));
+    piano.font = context.canvas.fontOf ("FontSmall");
+    takeColours();
+    repaint();
+}
+
 void KeyboardStrip::takeColours()
 {
-    piano.setColour (Piano::whiteNoteColourId, colourOf ("TextSecondary"));
+    piano.setColour (Piano::whiteNoteColourId, colourOf ("Window")); // what is between its keys
     piano.setColour (Piano::blackNoteColourId, colourOf ("Roll"));
     piano.setColour (Piano::keySeparatorLineColourId, colourOf ("Window"));
     piano.setColour (Piano::mouseOverKeyOverlayColourId, colourOf ("MidiWash"));
@@ -173,9 +210,10 @@ void KeyboardStrip::takeColours()
     octave.setColour (juce::Label::textColourId, colourOf ("Text"));
 }
 
-void KeyboardStrip::showOctave()
+void KeyboardStrip::showOctaves()
 {
-    octave.setText (pitchName (typedKeys.getLowestNote(), context.settings.get().middleC),
-                    juce::dontSendNotification);
+    const auto middleC = context.settings.get().middleC;
+    octave.setText (pitchName (typedKeys.getLowestNote(), middleC), juce::dontSendNotification);
+    piano.setOctaveForMiddleC (middleC);
 }
 } // namespace Zn::GUI

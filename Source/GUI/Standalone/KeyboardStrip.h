@@ -2,6 +2,7 @@
 
 #include "GUI/Standalone/TypedKeys.h"
 #include "GUI/Widgets/EditorContext.h"
+#include "GUI/Widgets/TooltipSource.h"
 
 #include <juce_audio_utils/juce_audio_utils.h>
 
@@ -22,13 +23,21 @@ public:
 
     void paint (juce::Graphics& g) override;
     void resized() override;
-    void lookAndFeelChanged() override { takeColours(); }
 
 private:
     void handleNoteOn (juce::MidiKeyboardState*, int channel, int note, float velocity) override;
     void handleNoteOff (juce::MidiKeyboardState*, int channel, int note, float velocity) override;
+    void schemeChanged();
     void takeColours();
-    void showOctave();
+    void showOctaves();
+
+    struct Button : juce::TextButton, TooltipSource
+    {
+        Button (const juce::String& text, TooltipText explanation);
+        TooltipText getTooltipText() const override { return tooltip; }
+
+        const TooltipText tooltip;
+    };
 
     /** Flat, in the editor's colours. */
     struct Piano : juce::MidiKeyboardComponent
@@ -39,15 +48,17 @@ private:
         void drawBlackNote (int, juce::Graphics&, juce::Rectangle<float>, bool, bool, juce::Colour) override;
         void paintKey (
             juce::Graphics& g, juce::Rectangle<float> key, juce::Colour colour, bool isDown, bool isOver);
+
+        juce::Font font; // of the names on its keys
     };
 
     EditorContext& context;
     juce::MidiKeyboardState keys;
     Piano piano { keys, juce::MidiKeyboardComponent::horizontalKeyboard };
     TypedKeys typedKeys;
-    juce::TextButton devices { "Audio and MIDI" };
-    juce::TextButton typing { "Type to play" };
-    juce::TextButton down { juce::String::fromUTF8 ("\xe2\x88\x92") }, up { "+" };
+    Button devices, typing, down, up;
     juce::Label octave;
+
+    Events::Listener schemeListener, settingsListener;
 };
 } // namespace Zn::GUI

@@ -28,6 +28,7 @@ StandaloneView::StandaloneView (std::unique_ptr<juce::AudioProcessorEditor> edit
     : page (pageOfEditor)
     , editor (std::move (editorToShow))
     , strip (pageOfEditor.getContext(), *this, std::move (showDevices))
+    , schemeListener (AssetScheme::Base::get(), [this] { repaint(); })
 {
     setOpaque (true);
     setWantsKeyboardFocus (true);

@@ -49,6 +49,7 @@ private:
 
     std::unique_ptr<juce::AudioProcessorEditor> editor;
     KeyboardStrip strip;
+    Events::Listener schemeListener;
     bool isLayingOut = false;
 };
 } // namespace Zn::GUI

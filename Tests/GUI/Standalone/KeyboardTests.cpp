@@ -1,6 +1,8 @@
+#include "GUI/Framework/AssetScheme/Base.h"
 #include "GUI/Standalone/KeyboardStrip.h"
 #include "GUI/Standalone/StandaloneView.h"
 #include "GUI/Support/OpenEditor.h"
+#include "Plugin/Bases/StateEditor.h"
 
 #include <gmock/gmock.h>
 
@@ -98,5 +100,79 @@ TEST (KeyboardStrip, SendsWhatIsPlayedToTheNextBlockAndEndsItWhenTheWindowCloses
     const auto rest = takenFrom (inbox);
     ASSERT_EQ (rest.getNumEvents(), 1);
     EXPECT_TRUE ((*rest.begin()).getMessage().isNoteOff());
+}
+
+namespace
+{
+/** The program's window, with its editor. */
+struct ProgramWindow
+{
+    using Editor = Audio::Plugin::StateEditor<Audio::Plugins::Vornel::Processor, Page>;
+
+    ProgramWindow() : ProgramWindow (std::make_unique<Editor> (processor)) {}
+
+    explicit ProgramWindow (std::unique_ptr<Editor> editor)
+        : page (editor->getPage()), view (std::move (editor), page, [] {})
+    {}
+
+    template <typename Part>
+    Part& childOfStrip (int index = 0)
+    {
+        for (auto* child : view.getStrip().getChildren())
+            if (auto* part = dynamic_cast<Part*> (child); part != nullptr && index-- == 0)
+                return *part;
+
+        throw std::runtime_error ("The keyboard lacks a part");
+    }
+
+    auto& piano() { return childOfStrip<juce::MidiKeyboardComponent>(); }
+
+    int numGaps()
+    {
+        const auto image = piano().createComponentSnapshot (piano().getLocalBounds());
+        const auto gap = AssetScheme::Base::get().colourOf ("Window");
+        auto count = 0;
+
+        for (auto x = 0; x < image.getWidth(); ++x)
+            count += image.getPixelAt (x, image.getHeight() * 7 / 8) == gap ? 1 : 0;
+
+        return count;
+    }
+
+    Singleton::UserToken singletonsStay;
+    Audio::Plugins::Vornel::Processor processor { Audio::Plugins::Vornel::StartUp::empty };
+    Page& page;
+    StandaloneView view;
+};
+} // namespace
+
+TEST (KeyboardStrip, FollowsTheSettingsAndTheColoursOfTheUser)
+{
+    ProgramWindow window;
+    EXPECT_GE (window.numGaps(), 48) << "between fifty white keys";
+
+    AssetScheme::Base::get().setUserColours (R"({"Window": {"r": 200, "g": 3, "b": 4}})");
+    EXPECT_GE (window.numGaps(), 48);
+    AssetScheme::Base::get().resetUserColours();
+
+    auto& settings = window.page.getContext().settings;
+    auto values = settings.get();
+    values.middleC = 4;
+    settings.set (values);
+    EXPECT_EQ (window.childOfStrip<juce::Label>().getText(), "C3");
+    EXPECT_EQ (window.piano().getOctaveForMiddleC(), 4);
+}
+
+TEST (KeyboardStrip, ExplainsItsButtons)
+{
+    ProgramWindow window;
+    auto& tooltips = dynamic_cast<OverlayLayer&> (window.page.getContext().overlay).getTooltips();
+
+    for (auto index = 0; index < 4; ++index)
+    {
+        auto& button = window.childOfStrip<juce::Button> (index);
+        tooltips.look (&button, {}, 5000);
+        EXPECT_EQ (tooltips.getShown(), button.getTitle());
+    }
 }
 } // namespace Zn::GUI
