@@ -33,6 +33,31 @@ void showFolder (const juce::File& folder)
     folder.revealToUser();
 }
 
+/** Somewhere to begin: the colours as they are. */
+bool makeColoursFile()
+{
+    const auto file = coloursFile();
+    file.getParentDirectory().createDirectory();
+    return file.existsAsFile()
+           || Presets::replaceFile (file,
+                                    textOf (contentOf ("Colors.json")),
+                                    Presets::Durability::canBeMadeAgain);
+}
+
+/** Outlives the pop-up, as a message does that offers it once more. */
+void useOwnColours (EditorContext& context, bool shouldUse)
+{
+    if (shouldUse && ! makeColoursFile())
+        return context.overlay.showMessage ("Nothing can be written to "
+                                                + coloursFile().getParentDirectory().getFullPathName(),
+                                            "Retry",
+                                            [&context] { useOwnColours (context, true); });
+
+    auto values = context.settings.get();
+    values.ownColours = shouldUse;
+    context.settings.set (values);
+}
+
 const Toggle::Options pill { .look = Toggle::Look::pill, .accent = "Text" };
 } // namespace
 
@@ -164,31 +189,15 @@ std::shared_ptr<SettingParam> SettingsPopup::coloursParam() const
         SettingParam::Options { .name = {},
                                 .choices = { "Built-in", "Your own" },
                                 .get = [this] { return context.settings.get().ownColours ? 1 : 0; },
-                                .set = [this] (int index) { useOwnColours (index == 1); },
+                                .set = [this] (int index) { useOwnColours (context, index == 1); },
                                 .otherText = {},
                                 .moreLines = std::move (more) });
-}
-
-void SettingsPopup::useOwnColours (bool shouldUse) const
-{
-    const auto file = coloursFile();
-
-    // Somewhere to begin: the colours as they are.
-    if (shouldUse && ! file.existsAsFile())
-    {
-        file.getParentDirectory().createDirectory();
-        Presets::replaceFile (file, textOf (contentOf ("Colors.json")), Presets::Durability::canBeMadeAgain);
-    }
-
-    auto values = context.settings.get();
-    values.ownColours = shouldUse;
-    context.settings.set (values);
 }
 
 void SettingsPopup::resetColours() const
 {
     AssetScheme::UserColours (coloursFile()).reset();
-    useOwnColours (false);
+    useOwnColours (context, false);
 }
 
 //======================================================================================================================

@@ -43,7 +43,6 @@ private:
 
     std::shared_ptr<SettingParam> windowSizeParam();
     std::shared_ptr<SettingParam> coloursParam() const;
-    void useOwnColours (bool shouldUse) const;
     void resetColours() const;
     void showFolders();
 

@@ -22,16 +22,26 @@ void SlotExport::drag (int slot, juce::Component& source)
     const auto file =
         juce::File::getSpecialLocation (juce::File::tempDirectory).getChildFile (fileName (slot));
 
-    if (write (slot, file).wasOk())
+    if (canWrite (slot) && save (slot, file))
         juce::DragAndDropContainer::performExternalDragDropOfFiles ({ file.getFullPathName() },
                                                                     false,
                                                                     &source);
 }
 
+bool SlotExport::canWrite (int slot) const
+{
+    const auto& pattern = context.state().patterns.getSlots()[static_cast<std::size_t> (slot)].pattern;
+
+    if (pattern.steps.empty())
+        context.overlay.showMessage ("This pattern is empty");
+
+    return ! pattern.steps.empty();
+}
+
 void SlotExport::saveAs (int slot)
 {
-    if (context.state().patterns.getSlots()[static_cast<std::size_t> (slot)].pattern.steps.empty())
-        return context.overlay.showMessage ("This pattern is empty");
+    if (! canWrite (slot))
+        return;
 
     const auto folder = juce::File::getSpecialLocation (juce::File::userDocumentsDirectory);
     chooser =
@@ -46,13 +56,17 @@ void SlotExport::saveAs (int slot)
     });
 }
 
-void SlotExport::save (int slot, const juce::File& file)
+bool SlotExport::save (int slot, const juce::File& file)
 {
-    if (const auto result = write (slot, file); result.failed())
+    const auto result = write (slot, file);
+
+    if (result.failed())
         context.overlay.showMessage (file.getFileName().quoted() + " was not saved. "
                                          + result.getErrorMessage(),
                                      "Retry",
                                      [this, slot] { saveAs (slot); });
+
+    return result.wasOk();
 }
 
 juce::String SlotExport::fileName (int slot) const

@@ -20,7 +20,10 @@ public:
 
 private:
     juce::String fileName (int slot) const;
-    void save (int slot, const juce::File& file);
+    bool canWrite (int slot) const;
+
+    /** Whether it is written; tells why not. */
+    bool save (int slot, const juce::File& file);
     juce::Result write (int slot, const juce::File& file) const;
 
     EditorContext& context;

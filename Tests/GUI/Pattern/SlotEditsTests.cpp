@@ -3,6 +3,7 @@
 #include "GUI/Pattern/Clipboard.h"
 #include "GUI/Pattern/PatternParams.h"
 #include "GUI/Support/BareEditor.h"
+#include "GUI/Widgets/SlotExport.h"
 #include "Support/StepText.h"
 
 #include <gtest/gtest.h>
@@ -127,5 +128,11 @@ TEST_F (SlotEditing, ParametersBelongToTheShownSlot)
 
     EXPECT_EQ (params.grid->getInt(), 7);
     EXPECT_FALSE (bare.edits.getUndo().canUndo()) << "one step each";
+}
+
+TEST_F (SlotEditing, ADragOfAnEmptyPatternSaysWhyThereIsNoFile)
+{
+    SlotExport (bare.context).drag (6, bare.root);
+    EXPECT_EQ (bare.overlay.message, "This pattern is empty");
 }
 } // namespace Zn::GUI
