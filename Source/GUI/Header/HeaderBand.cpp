@@ -43,6 +43,7 @@ HeaderBand::HeaderBand (EditorContext& contextToUse)
                 { .icon = "settings.svg", .look = Look::quiet, .iconSize = "IconSizeHeader" },
                 [this] { toggle<SettingsPopup> (context); })
 {
+    setTitle ("Presets, undo and settings");
     context.actions.help = [this] { help.click(); };
     context.actions.settings = [this] { settings.click(); };
 
@@ -52,5 +53,10 @@ HeaderBand::HeaderBand (EditorContext& contextToUse)
 
     for (auto* part : std::initializer_list<juce::Component*> { &undo, &redo, &learn, &help, &settings })
         addAndMakeVisible (part);
+}
+
+std::unique_ptr<juce::AccessibilityHandler> HeaderBand::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
 }
 } // namespace Zn::GUI

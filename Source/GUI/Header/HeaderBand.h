@@ -12,6 +12,8 @@ class HeaderBand : public AssetScheme::Element<>
 public:
     explicit HeaderBand (EditorContext& contextToUse);
 
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+
 private:
     EditorContext& context;
 

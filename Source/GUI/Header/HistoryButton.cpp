@@ -20,7 +20,9 @@ TooltipText HistoryButton::getTooltipText() const
 {
     auto text = Button::getTooltipText();
 
-    if (way == Way::undo && isEnabled())
+    if (! isEnabled())
+        text.help = way == Way::undo ? "Nothing has been changed yet." : "Nothing has been taken back.";
+    else if (way == Way::undo)
         text.value = context.processor.getUndo().getCurrentName();
 
     return text;

@@ -13,6 +13,7 @@ public:
 
     void paint (juce::Graphics& g) override;
     void schemeChanged() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 
 private:
     EditorContext& context;

@@ -1,5 +1,6 @@
 #include "GUI/Pattern/LaneSwitch.h"
 
+#include "GUI/Widgets/RadioHandler.h"
 #include "GUI/Widgets/ValueKeys.h"
 
 #include <algorithm>
@@ -20,6 +21,7 @@ void LaneSwitch::follow()
 {
     setWantsKeyboardFocus (isChosen());
     repaint();
+    RadioHandler::tellOfChange (*this);
 
     if (isChosen() && isShowing() && dynamic_cast<LaneSwitch*> (getCurrentlyFocusedComponent()) != nullptr)
         grabKeyboardFocus(); // from the other one
@@ -87,26 +89,9 @@ bool LaneSwitch::keyPressed (const juce::KeyPress& key)
 
 std::unique_ptr<juce::AccessibilityHandler> LaneSwitch::createAccessibilityHandler()
 {
-    struct Handler : juce::AccessibilityHandler
-    {
-        explicit Handler (LaneSwitch& laneSwitch)
-            : AccessibilityHandler (
-                laneSwitch,
-                juce::AccessibilityRole::radioButton,
-                juce::AccessibilityActions().addAction (juce::AccessibilityActionType::press,
-                                                        [&laneSwitch] { laneSwitch.choose(); }))
-            , owner (laneSwitch)
-        {}
-
-        juce::AccessibleState getCurrentState() const override
-        {
-            const auto state = AccessibilityHandler::getCurrentState().withCheckable();
-            return owner.isChosen() ? state.withChecked() : state;
-        }
-
-        LaneSwitch& owner;
-    };
-
-    return std::make_unique<Handler> (*this);
+    return std::make_unique<RadioHandler> (
+        *this,
+        [this] { return isChosen(); },
+        [this] { choose(); });
 }
 } // namespace Zn::GUI

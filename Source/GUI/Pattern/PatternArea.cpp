@@ -15,6 +15,7 @@ PatternArea::PatternArea (EditorContext& contextToUse)
     , fit (
           contextToUse, "ZoomFit", { .icon = "fit.svg", .look = Button::Look::quiet }, [this] { view.fit(); })
 {
+    setTitle ("Pattern");
     setOpaque (true);
     nameRows();
 
@@ -167,5 +168,10 @@ void PatternArea::paint (juce::Graphics& g)
     g.fillRect (0, lane.getY(), lane.getX(), line);
     g.fillRect (0, lane.getBottom() - line, lane.getX(), line);
     g.fillRect (lane.getX() - line, lane.getY(), line, lane.getHeight());
+}
+
+std::unique_ptr<juce::AccessibilityHandler> PatternArea::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
 }
 } // namespace Zn::GUI

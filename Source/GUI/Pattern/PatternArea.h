@@ -29,6 +29,7 @@ public:
 
     void paint (juce::Graphics& g) override;
     void schemeChanged() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
     void mouseDown (const juce::MouseEvent& event) override;
 
 private:

@@ -1,6 +1,7 @@
 #include "GUI/Popups/RoutingPopup.h"
 
 #include "GUI/Widgets/ParameterEdit.h"
+#include "GUI/Widgets/RadioHandler.h"
 #include "Parameters/CreateForwarder.h"
 
 namespace Zn::GUI
@@ -32,6 +33,7 @@ public:
     {
         setWantsKeyboardFocus (isChosen());
         repaint();
+        RadioHandler::tellOfChange (*this);
     }
 
     void schemeChanged() override
@@ -63,11 +65,10 @@ public:
 
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
     {
-        return std::make_unique<juce::AccessibilityHandler> (
+        return std::make_unique<RadioHandler> (
             *this,
-            juce::AccessibilityRole::radioButton,
-            juce::AccessibilityActions().addAction (juce::AccessibilityActionType::press,
-                                                    [this] { owner.choose (index); }));
+            [this] { return isChosen(); },
+            [this] { owner.choose (index); });
     }
 
 private:

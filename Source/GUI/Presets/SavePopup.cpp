@@ -88,7 +88,13 @@ void SavePopup::update()
 {
     const auto target = getTarget();
     confirmButton.setLabel (target.existsAsFile() ? "Replace" : "Save");
-    confirmButton.setEnabled (target != juce::File());
+
+    const auto canSave = target != juce::File();
+
+    if (confirmButton.isEnabled() != canSave)
+        confirmButton.setHelp (canSave ? controlText ("SaveConfirm").help : "Type a name first.");
+
+    confirmButton.setEnabled (canSave);
 }
 
 void SavePopup::confirm()

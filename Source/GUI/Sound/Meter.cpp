@@ -33,6 +33,7 @@ struct SpokenLevel : juce::AccessibilityValueInterface
 Meter::Meter (EditorContext& contextToUse, std::string element) : Control (contextToUse, std::move (element))
 {
     setWantsKeyboardFocus (false);
+    setMouseClickGrabsKeyboardFocus (false);
 }
 
 Meter::~Meter()
@@ -133,7 +134,10 @@ void Meter::redraw()
     const auto before = std::exchange (drawing, current);
 
     if (before.isRed != current.isRed)
+    {
+        setWantsKeyboardFocus (current.isRed);
         return repaint();
+    }
 
     const auto repaintBetween = [this] (int top, int otherTop, int height) {
         const auto [upper, lower] = std::minmax (top, otherTop);
@@ -146,13 +150,25 @@ void Meter::redraw()
     repaintBetween (before.peakTop, current.peakTop, 1 + static_cast<int> (pixels ("ThinnerStroke")));
 }
 
-void Meter::mouseDown (const juce::MouseEvent& event)
+void Meter::clearRed()
 {
-    if (event.mods.isPopupMenu())
-        return;
-
     shown.clipped = false;
     redraw();
+}
+
+void Meter::mouseDown (const juce::MouseEvent& event)
+{
+    if (! event.mods.isPopupMenu())
+        clearRed();
+}
+
+bool Meter::keyPressed (const juce::KeyPress& key)
+{
+    if (! drawing.isRed || ! isPressKey (key))
+        return false;
+
+    clearRed();
+    return true;
 }
 
 void Meter::paintControl (juce::Graphics& g)
@@ -185,7 +201,7 @@ std::unique_ptr<juce::AccessibilityHandler> Meter::createAccessibilityHandler()
     return std::make_unique<juce::AccessibilityHandler> (
         *this,
         juce::AccessibilityRole::progressBar,
-        juce::AccessibilityActions(),
+        juce::AccessibilityActions().addAction (juce::AccessibilityActionType::press, [this] { clearRed(); }),
         juce::AccessibilityHandler::Interfaces { std::make_unique<SpokenLevel> (*this) });
 }
 } // namespace Zn::GUI

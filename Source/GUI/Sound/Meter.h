@@ -6,7 +6,7 @@
 namespace Zn::GUI
 {
 /** The level of the left output. As long as it can be seen the audio thread works the level out; its top is red
-    once the level has gone over 0 dB, until it is clicked. Thread: message.
+    once the level has gone over 0 dB, until it is clicked; as long as it is, Tab stops here. Thread: message.
 */
 class Meter : public Control
 {
@@ -18,6 +18,7 @@ public:
     void schemeChanged() override;
     void visibilityChanged() override { listenWhileSeen(); }
     void mouseDown (const juce::MouseEvent& event) override;
+    bool keyPressed (const juce::KeyPress& key) override;
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 
     const MeterBallistics& getShown() const noexcept { return shown; }
@@ -41,6 +42,7 @@ private:
     bool isSeen() const;
     int topOf (float decibels) const;
     void redraw();
+    void clearRed();
 
     MeterBallistics shown;
     MeterBallistics::Settings settings;

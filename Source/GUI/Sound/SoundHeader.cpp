@@ -12,7 +12,13 @@ SoundHeader::SoundHeader (EditorContext& contextToUse)
               { .icon = "power.svg", .text = "Synth", .accent = "Sound" })
     , sounds (contextToUse, PresetKind::sounds (contextToUse.state()))
 {
+    setTitle ("Synth and sounds");
     addAndMakeVisible (enable);
     sounds.addTo (*this);
+}
+
+std::unique_ptr<juce::AccessibilityHandler> SoundHeader::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
 }
 } // namespace Zn::GUI

@@ -11,6 +11,8 @@ class SoundHeader : public AssetScheme::Element<>
 public:
     explicit SoundHeader (EditorContext& contextToUse);
 
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+
 private:
     Toggle enable;
     PresetBar sounds;

@@ -39,4 +39,12 @@ void UnisonChip::mouseDown (const juce::MouseEvent& event)
     if (! event.mods.isPopupMenu())
         onClick();
 }
+
+std::unique_ptr<juce::AccessibilityHandler> UnisonChip::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (
+        *this,
+        juce::AccessibilityRole::button,
+        juce::AccessibilityActions().addAction (juce::AccessibilityActionType::press, onClick));
+}
 } // namespace Zn::GUI

@@ -14,6 +14,7 @@ public:
 
     void schemeChanged() override;
     void mouseDown (const juce::MouseEvent& event) override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 
 private:
     void paintControl (juce::Graphics& g) override;

@@ -1,5 +1,9 @@
 #include "GUI/Widgets/Segments.h"
 
+#include "GUI/Widgets/RadioHandler.h"
+
+#include <utility>
+
 namespace Zn::GUI
 {
 struct Segments::Segment : juce::Component, TooltipSource
@@ -63,6 +67,7 @@ struct Segments::Segment : juce::Component, TooltipSource
     const Item item;
     const ControlText text;
     Caption caption;
+    bool wasChosen = isChosen(); // when that was told last
 };
 
 Segments::Segments (EditorContext& contextToUse,
@@ -156,7 +161,12 @@ void Segments::paintSegment (juce::Graphics& g, Segment& segment)
 void Segments::valueChanged()
 {
     for (auto& segment : segments)
+    {
         segment.repaint();
+
+        if (const auto isChosen = segment.isChosen(); std::exchange (segment.wasChosen, isChosen) != isChosen)
+            RadioHandler::tellOfChange (segment);
+    }
 }
 
 void Segments::choose (int value)
@@ -178,11 +188,10 @@ void Segments::moveBy (int distance)
 
 std::unique_ptr<juce::AccessibilityHandler> Segments::Segment::createAccessibilityHandler()
 {
-    return std::make_unique<juce::AccessibilityHandler> (
+    return std::make_unique<RadioHandler> (
         *this,
-        juce::AccessibilityRole::radioButton,
-        juce::AccessibilityActions().addAction (juce::AccessibilityActionType::press,
-                                                [this] { row.choose (item.value); }));
+        [this] { return isChosen(); },
+        [this] { row.choose (item.value); });
 }
 
 std::unique_ptr<juce::AccessibilityHandler> Segments::createAccessibilityHandler()

@@ -98,4 +98,39 @@ TEST (Page, LeavesNothingBehindWhenItCloses)
 
     EXPECT_EQ (counts(), before);
 }
+
+TEST (Page, TellsScreenReadersOfItsGroupsAndOfWhatIsChosenInThem)
+{
+    Tests::OpenEditor editor;
+    const auto handlerOf = [&editor] (const char* element) {
+        return editor.find (element).createAccessibilityHandler();
+    };
+
+    for (const auto* group : { "Header", "ArpHeader", "ArpEditing", "SoundHeader", "SoundModule" })
+    {
+        EXPECT_EQ (handlerOf (group)->getRole(), juce::AccessibilityRole::group) << group;
+        EXPECT_NE (editor.find (group).getTitle(), "") << group;
+    }
+
+    Tests::Hand::press (editor.page, "F1");
+
+    for (const auto& [chosen, other] : { std::pair ("BrushPencil", "BrushCursor"),
+                                         std::pair ("BrushCursor", "BrushPencil"),
+                                         std::pair ("LaneChance", "LaneVelocity"),
+                                         std::pair ("RoutingCase2", "RoutingCase1") })
+    {
+        handlerOf (chosen)->getActions().invoke (juce::AccessibilityActionType::press);
+        EXPECT_TRUE (handlerOf (chosen)->getCurrentState().isChecked()) << chosen;
+        EXPECT_FALSE (handlerOf (other)->getCurrentState().isChecked()) << other;
+    }
+}
+
+TEST (Page, SaysWhyItsHistoryButtonsAreOff)
+{
+    Tests::OpenEditor editor;
+    const auto& undo = editor.find<Control> ("Undo");
+    const auto& redo = editor.find<Control> ("Redo");
+    EXPECT_EQ (undo.getTooltipText().help, "Nothing has been changed yet.");
+    EXPECT_EQ (redo.getTooltipText().help, "Nothing has been taken back.");
+}
 } // namespace Zn::GUI

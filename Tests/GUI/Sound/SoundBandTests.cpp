@@ -393,14 +393,24 @@ TEST_F (SoundBandTest, HoldsThePeakOfTheMeterWhichStaysRedUntilItIsClicked)
     EXPECT_FALSE (meter.clipped);
 
     Tests::OpenEditor editor;
-    editor.getState().meter.store (1.2f);
-    editor.poll();
-    editor.getState().meter.store (0.0f);
-    editor.poll();
-
     auto& shown = editor.find<Meter> ("Meter");
-    EXPECT_TRUE (shown.getShown().clipped);
-    Tests::Hand::click (shown);
-    EXPECT_FALSE (shown.getShown().clipped);
+    const auto isCleared = [&] (const auto& clear) {
+        for (const auto gain : { 1.2f, 0.0f })
+        {
+            editor.getState().meter.store (gain);
+            editor.poll();
+        }
+
+        EXPECT_TRUE (shown.getShown().clipped);
+        EXPECT_TRUE (shown.getWantsKeyboardFocus());
+        clear();
+        return ! shown.getShown().clipped && ! shown.getWantsKeyboardFocus();
+    };
+
+    EXPECT_TRUE (isCleared ([&] { Tests::Hand::click (shown); }));
+    EXPECT_TRUE (isCleared ([&] { Tests::Hand::press (shown, "return"); }));
+    EXPECT_TRUE (isCleared ([&] {
+        shown.createAccessibilityHandler()->getActions().invoke (juce::AccessibilityActionType::press);
+    }));
 }
 } // namespace Zn::GUI
