@@ -11,6 +11,7 @@ PlayLine::PlayLine (RollContext& contextToUse)
     : context (contextToUse)
     , pollListener (contextToUse.editor.polls, [this] { followClock(); })
     , viewListener (contextToUse.view, [this] { place (lastPlace); })
+    , slotListener (contextToUse.editor.shownSlot, [this] { place (lastPlace); })
 {
     setInterceptsMouseClicks (false, false);
     setAccessible (false);

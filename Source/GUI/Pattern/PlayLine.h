@@ -55,6 +55,6 @@ private:
     std::optional<PlayPlace> lastPlace;
     juce::uint32 lastFrame = 0; // milliseconds
     juce::VBlankAttachment frames;
-    Events::Listener pollListener, viewListener;
+    Events::Listener pollListener, viewListener, slotListener;
 };
 } // namespace Zn::GUI

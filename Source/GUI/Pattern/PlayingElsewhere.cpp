@@ -19,13 +19,22 @@ void PlayingElsewhere::poll()
 
     playing = newPlaying;
     setVisible (playing >= 0);
+    tellWhich();
     repaint();
+}
+
+void PlayingElsewhere::tellWhich()
+{
+    text = "Slot " + juce::String (playing + 1) + " plays";
+    textWidth = font.getStringWidthFloat (text);
+    setTitle (text);
 }
 
 void PlayingElsewhere::schemeChanged()
 {
     font = getCanvas().fontOf ("FontSmall");
     setVisible (playing >= 0);
+    tellWhich();
 
     const auto height = 0.6f * font.getHeight();
     triangle.clear();
@@ -35,13 +44,12 @@ void PlayingElsewhere::schemeChanged()
 void PlayingElsewhere::paintControl (juce::Graphics& g)
 {
     const auto pad = 0.5f * font.getHeight();
-    const auto text = "Slot " + juce::String (playing + 1) + " plays";
     const auto textArea = area().withTrimmedRight (pad);
 
     paintHover (g);
     paintText (g, text, font, textArea, juce::Justification::centredRight, colour ("TextSecondary"));
 
-    const auto left = textArea.getRight() - font.getStringWidthFloat (text) - 2.0f * pad;
+    const auto left = textArea.getRight() - textWidth - 2.0f * pad;
     g.setColour (colour ("Pattern"));
     g.fillPath (triangle, juce::AffineTransform::translation (left, area().getCentreY()));
 }
@@ -67,5 +75,13 @@ void PlayingElsewhere::open()
 {
     if (playing >= 0)
         context.shownSlot.set (playing);
+}
+
+std::unique_ptr<juce::AccessibilityHandler> PlayingElsewhere::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (
+        *this,
+        juce::AccessibilityRole::button,
+        juce::AccessibilityActions().addAction (juce::AccessibilityActionType::press, [this] { open(); }));
 }
 } // namespace Zn::GUI

@@ -143,10 +143,13 @@ TEST (PlayLine, IsThereForTheSlotThatIsHeardAlone)
     editor.draw ({ { 0.0, 64 } }, 1);
     editor.play (1, 1.0);
     EXPECT_TRUE (editor.line.getDrawn().isEmpty()) << "another slot is heard";
-    EXPECT_TRUE (editor.find ("PlayingElsewhere").isVisible());
+    auto& elsewhere = editor.find ("PlayingElsewhere");
+    EXPECT_TRUE (elsewhere.isVisible());
+    EXPECT_EQ (elsewhere.getTitle(), "Slot 2 plays");
 
-    Tests::Hand::click (editor.find ("PlayingElsewhere"));
+    elsewhere.createAccessibilityHandler()->getActions().invoke (juce::AccessibilityActionType::press);
     EXPECT_EQ (editor.page.getContext().shownSlot.get(), 1);
+    EXPECT_FALSE (editor.line.getDrawn().isEmpty()) << "at once, even while the clock rests";
     editor.poll();
     EXPECT_FALSE (editor.find ("PlayingElsewhere").isVisible());
 
