@@ -167,7 +167,6 @@ void MessageCard::show (const juce::String& newText,
     };
 
     place();
-    repaint();
 }
 
 void MessageCard::place()
@@ -183,6 +182,7 @@ void MessageCard::place()
     const auto width = font.getStringWidth (text) + linkWidth + 3 * inset;
     setBounds (whole.withSizeKeepingCentre (std::min (width, whole.getWidth()), whole.getHeight()));
     link.setBounds (getLocalBounds().withTrimmedRight (inset / 2).removeFromRight (linkWidth));
+    repaint();
 }
 
 void MessageCard::paint (juce::Graphics& g)

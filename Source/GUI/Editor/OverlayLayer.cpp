@@ -51,6 +51,7 @@ OverlayLayer::OverlayLayer (juce::Component& pageToCover,
     , readoutShadow (addedTo (*this, readout), canvas)
     , messageShadow (addedTo (*this, message), canvas)
     , tooltips (pageToCover, *this, canvasToUse, settingsToUse, polls)
+    , canvasListener (canvas, [this] { message.place(); }) // its size is known after that of the page
     , pollListener (polls, [this] { poll(); })
     , editListener (edits.getUndo(), [this] { withdrawUndo(); })
 {
@@ -66,7 +67,6 @@ OverlayLayer::~OverlayLayer()
 void OverlayLayer::resized()
 {
     backdrop.setBounds (getLocalBounds());
-    message.place();
     tooltips.hide();
     closeEntry (ValueEntry::End::cancelled, {});
 }

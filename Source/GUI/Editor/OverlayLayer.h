@@ -94,6 +94,6 @@ private:
     bool offersUndo = false;     // the message does
     int numMenus = 0;            // that are open, or have yet to act
     Tooltips tooltips;
-    Events::Listener pollListener, editListener;
+    Events::Listener canvasListener, pollListener, editListener;
 };
 } // namespace Zn::GUI

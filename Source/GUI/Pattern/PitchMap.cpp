@@ -25,7 +25,13 @@ PitchMap::PitchMap (RollContext& contextToUse)
 {
     setOpaque (true);
     setMouseCursor (juce::MouseCursor::UpDownResizeCursor);
-    setTitle ("Pitches of the rows");
+    setTitle (text.title);
+    setDescription (text.help);
+}
+
+TooltipText PitchMap::getTooltipText() const
+{
+    return { .title = text.title, .value = {}, .help = text.help, .shortcut = text.shortcut };
 }
 
 void PitchMap::refresh()

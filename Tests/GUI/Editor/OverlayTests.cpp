@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace Zn::GUI
 {
 namespace
@@ -193,6 +195,8 @@ TEST (Tooltips, ComeWhenThePointerRestsAndGoWithIt)
     EXPECT_EQ (tooltips.getShown(), "Help");
     tooltips.look (nullptr, {}, 1000);
     EXPECT_EQ (tooltips.getShown(), "");
+    tooltips.look (&editor.find ("PitchMap"), {}, 1000);
+    EXPECT_EQ (tooltips.getShown(), "Rows");
 
     auto values = settings.get();
     values.tooltips = false;
@@ -224,5 +228,20 @@ TEST (Messages, OfferToUndoOnlyWhatTheyTellOf)
     edits.join (&snap, "Snap", [&] { return setSnap (false); });
     followLink (overlay);
     EXPECT_FALSE (snap.getBool()) << "a wheel that may still turn is a later step";
+}
+
+TEST (Messages, StayInTheMiddleOfAnEditorOfAnotherSize)
+{
+    Tests::OpenEditor editor;
+    auto& overlay = overlayOf (editor);
+    overlay.showMessage ("Pattern cleared", {}, {});
+    editor.page.setSize (800, 553);
+
+    const auto isMessage = [] (const auto* card) { return card->getTitle() == "Pattern cleared"; };
+    const auto& cards = overlay.getChildren();
+    const auto* const message = *std::find_if (cards.begin(), cards.end(), isMessage);
+    const auto place = editor.page.getContext().canvas.boundsOf ("Message");
+    EXPECT_EQ (message->getHeight(), place.getHeight());
+    EXPECT_NEAR (message->getBounds().getCentreX(), place.getCentreX(), 1);
 }
 } // namespace Zn::GUI
