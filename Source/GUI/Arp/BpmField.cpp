@@ -81,6 +81,7 @@ void BpmField::poll()
         tapping.reset();
 
     setWantsKeyboardFocus (! isHosts());
+    setMouseCursor (isHosts() ? juce::MouseCursor::NormalCursor : juce::MouseCursor::UpDownResizeCursor);
     NumberField::poll();
 }
 

@@ -2,6 +2,7 @@
 
 #include "GUI/Arp/SlotMenu.h"
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Widgets/NoEntryPointer.h"
 #include "GUI/Widgets/ValueKeys.h"
 
 #include <algorithm>
@@ -101,8 +102,21 @@ void SlotBank::tileDragged (SlotTile& tile, const juce::MouseEvent& event)
         dragged->over = isOther ? std::optional ((*under)->getIndex()) : std::nullopt;
     }
 
-    tile.setMouseCursor (juce::MouseCursor::DraggingHandCursor);
+    tile.setMouseCursor (pointerOver (inBank));
     showStates();
+}
+
+juce::MouseCursor SlotBank::pointerOver (juce::Point<int> inBank)
+{
+    const auto* const own = tiles[static_cast<std::size_t> (dragged->from)].get();
+
+    if (dragged->over || dragged->hasLeft || own->getBounds().contains (inBank))
+        return juce::MouseCursor::DraggingHandCursor;
+
+    if (noEntry == juce::MouseCursor())
+        noEntry = makeNoEntryPointer();
+
+    return noEntry;
 }
 
 void SlotBank::tileReleased (SlotTile& tile, const juce::MouseEvent& event)

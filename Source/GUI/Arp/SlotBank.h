@@ -42,6 +42,7 @@ private:
     void drop (int from, int onto, bool swaps);
     void showMenu (SlotTile& tile);
     void moveFocus (int from, int step);
+    juce::MouseCursor pointerOver (juce::Point<int> inBank);
 
     void poll();
     void followPlayingSlot (int heard);
@@ -57,7 +58,8 @@ private:
     std::array<double, Sequencer::numSlots> lastPositions {};   // quarter notes in each pattern
     std::array<juce::uint32, Sequencer::numSlots> flashEnds {}; // milliseconds, 0 none
     std::optional<Drag> dragged;
-    int lastHeard, announced; // of those that were heard
+    juce::MouseCursor noEntry; // made when it is needed first
+    int lastHeard, announced;  // of those that were heard
 
     Events::Listener polls, patterns, undone;
     Events::UpdateTimer pulses; // while a pattern waits

@@ -11,11 +11,19 @@ MasterValue::MasterValue (EditorContext& contextToUse, std::string element)
 {
     setWantsKeyboardFocus (false);
     setAccessible (false);
+    setMouseCursor (juce::MouseCursor::UpDownResizeCursor);
 }
 
 void MasterValue::schemeChanged()
 {
     font = context.canvas.fontOf ("FontSmall");
+    valueChanged();
+}
+
+void MasterValue::valueChanged()
+{
+    text = shownText() + " dB";
+    repaint();
 }
 
 void MasterValue::pressed (const juce::MouseEvent& event)
@@ -36,6 +44,6 @@ void MasterValue::focusLost (FocusChangeType cause)
 
 void MasterValue::paintControl (juce::Graphics& g)
 {
-    paintText (g, shownText() + " dB", font, area(), juce::Justification::centred, colour ("Text"));
+    paintText (g, text, font, area(), juce::Justification::centred, colour ("Text"));
 }
 } // namespace Zn::GUI

@@ -19,7 +19,9 @@ private:
     void paintControl (juce::Graphics& g) override;
     juce::Rectangle<int> valueArea() const override { return getLocalBounds(); }
     void pressed (const juce::MouseEvent& event) override;
+    void valueChanged() override;
 
+    juce::String text;
     juce::Font font;
 };
 } // namespace Zn::GUI

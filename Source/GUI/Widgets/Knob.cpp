@@ -25,7 +25,9 @@ Knob::Knob (EditorContext& contextToUse,
             std::shared_ptr<Parameters::Parameter> parameterToShow)
     : ValueControl (contextToUse, std::move (element), std::move (parameterToShow))
     , isBipolar (getText().style == ValueStyle::signedNumber)
-{}
+{
+    setMouseCursor (juce::MouseCursor::UpDownResizeCursor);
+}
 
 bool Knob::labelFits() const
 {
@@ -62,6 +64,12 @@ juce::Rectangle<float> Knob::learnArea() const
 void Knob::valueChanged()
 {
     filled = arc (isBipolar ? 0.5f : 0.0f, shownPosition());
+
+    const auto outer = pixels ("KnobDiameter") / 2.0f;
+    const auto angle = angleOf (shownPosition());
+    pointer.clear();
+    pointer.startNewSubPath (centre.getPointOnCircumference (pointerStart * outer, angle));
+    pointer.lineTo (centre.getPointOnCircumference (pointerEnd * outer, angle));
     repaint();
 }
 
@@ -108,10 +116,6 @@ void Knob::paintControl (juce::Graphics& g)
     g.fillEllipse (
         juce::Rectangle<float> (2.0f * capRadius * outer, 2.0f * capRadius * outer).withCentre (centre));
 
-    const auto angle = angleOf (shownPosition());
-    juce::Path pointer;
-    pointer.startNewSubPath (centre.getPointOnCircumference (pointerStart * outer, angle));
-    pointer.lineTo (centre.getPointOnCircumference (pointerEnd * outer, angle));
     g.setColour (colour ("KnobPointer"));
     g.strokePath (pointer,
                   { pixels ("ThinStroke"), juce::PathStrokeType::curved, juce::PathStrokeType::rounded });

@@ -37,6 +37,6 @@ private:
     juce::Rectangle<int> labelLine, valueLine;
     juce::Point<float> centre;
     float radius = 0.0f; // of the middle of the arc's stroke
-    juce::Path track, filled;
+    juce::Path track, filled, pointer;
 };
 } // namespace Zn::GUI

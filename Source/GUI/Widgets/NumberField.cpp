@@ -17,6 +17,8 @@ NumberField::NumberField (EditorContext& contextToUse,
     : ValueControl (contextToUse, std::move (element), std::move (parameterToShow))
     , options (std::move (optionsToUse))
 {
+    setMouseCursor (juce::MouseCursor::UpDownResizeCursor);
+
     if (options.hasMenu)
         chevron.emplace ("down.svg");
 }

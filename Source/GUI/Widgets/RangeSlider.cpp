@@ -13,7 +13,9 @@ class RangeSlider::End : public ValueControl
 public:
     End (RangeSlider& slider, const char* name, std::shared_ptr<OctaveEnd> octave)
         : ValueControl (slider.context, slider.getElement() + name, std::move (octave)), owner (slider)
-    {}
+    {
+        setMouseCursor (juce::MouseCursor::LeftRightResizeCursor);
+    }
 
     float position() const { return shownPosition(); }
 

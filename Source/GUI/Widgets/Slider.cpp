@@ -2,6 +2,23 @@
 
 namespace Zn::GUI
 {
+namespace
+{
+/** Nothing for a line without a length. */
+juce::Path pathAlong (juce::Line<float> line)
+{
+    juce::Path path;
+
+    if (line.getLength() > 0.0f)
+    {
+        path.startNewSubPath (line.getStart());
+        path.lineTo (line.getEnd());
+    }
+
+    return path;
+}
+} // namespace
+
 Slider::Slider (EditorContext& contextToUse,
                 std::string element,
                 std::shared_ptr<Parameters::Parameter> parameterToShow,
@@ -43,33 +60,36 @@ juce::Rectangle<float> Slider::handle() const
     return size.withCentre (track().getPointAlongLineProportionally (shownPosition()));
 }
 
+void Slider::schemeChanged()
+{
+    setMouseCursor (isAcross() ? juce::MouseCursor::LeftRightResizeCursor
+                               : juce::MouseCursor::UpDownResizeCursor);
+    whole = pathAlong (track());
+    valueChanged();
+}
+
+void Slider::valueChanged()
+{
+    const auto start = track().getPointAlongLineProportionally (options.fromMiddle ? 0.5f : 0.0f);
+    lit = pathAlong ({ start, handle().getCentre() });
+    repaint();
+}
+
 void Slider::paintControl (juce::Graphics& g)
 {
-    const auto line = track();
-    const auto stroke = pixels ("DefaultStroke");
-    const auto lit =
-        juce::Line<float> (line.getPointAlongLineProportionally (options.fromMiddle ? 0.5f : 0.0f),
-                           handle().getCentre());
-
-    const auto draw = [&g, stroke] (juce::Line<float> part) {
-        juce::Path path;
-        path.startNewSubPath (part.getStart());
-        path.lineTo (part.getEnd());
-        g.strokePath (path, { stroke, juce::PathStrokeType::curved, juce::PathStrokeType::rounded });
-    };
-
+    const juce::PathStrokeType stroke { pixels ("DefaultStroke"),
+                                        juce::PathStrokeType::curved,
+                                        juce::PathStrokeType::rounded };
     g.setColour (colour ("KnobTrack"));
-    draw (line);
+    g.strokePath (whole, stroke);
     g.setColour (colour (options.accent));
-
-    if (lit.getLength() > 0.0f)
-        draw (lit);
+    g.strokePath (lit, stroke);
 
     if (options.fromMiddle)
     {
         g.setColour (colour ("GridBar"));
         g.fillRect (juce::Rectangle<float> (pixels ("ThinnerStroke"), pixels ("SliderThumb"))
-                        .withCentre (line.getPointAlongLineProportionally (0.5f)));
+                        .withCentre (track().getPointAlongLineProportionally (0.5f)));
     }
 
     g.setColour (surface ("KnobPointer"));

@@ -30,8 +30,11 @@ public:
             std::shared_ptr<Parameters::Parameter> parameterToShow,
             Options optionsToUse);
 
+    void schemeChanged() override;
+
 private:
     void paintControl (juce::Graphics& g) override;
+    void valueChanged() override;
     float proportionOf (juce::Point<float> movement) const override;
     juce::String getReadout() const override { return options.showsReadout ? shownText() : juce::String(); }
 
@@ -40,5 +43,6 @@ private:
     juce::Rectangle<float> handle() const;
 
     const Options options;
+    juce::Path whole, lit; // of the line
 };
 } // namespace Zn::GUI

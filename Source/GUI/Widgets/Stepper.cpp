@@ -37,6 +37,12 @@ void Stepper::pressed (const juce::MouseEvent& event)
         clickBy (event.position.x < area().getCentreX() ? -1 : 1);
 }
 
+void Stepper::mouseMove (const juce::MouseEvent& event)
+{
+    setMouseCursor (value.contains (event.getPosition()) ? juce::MouseCursor::UpDownResizeCursor
+                                                         : juce::MouseCursor::NormalCursor);
+}
+
 void Stepper::mouseDoubleClick (const juce::MouseEvent& event)
 {
     if (value.contains (event.getPosition())) // on a sign two quick clicks are two

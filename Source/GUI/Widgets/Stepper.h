@@ -15,6 +15,7 @@ public:
 
     void schemeChanged() override;
     void mouseDoubleClick (const juce::MouseEvent& event) override;
+    void mouseMove (const juce::MouseEvent& event) override;
 
 private:
     void paintControl (juce::Graphics& g) override;
