@@ -68,6 +68,14 @@ void Page::followSettings()
     AssetScheme::Base::get().resetUserColours();
 }
 
+void Page::tellOfFailure()
+{
+    overlay.showMessage ("Your settings cannot be written to "
+                             + settings.getFile().getParentDirectory().getFullPathName(),
+                         "Retry",
+                         [this] { settings.retry(); });
+}
+
 PageActions Page::ownActions()
 {
     PageActions own;

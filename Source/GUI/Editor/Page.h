@@ -65,6 +65,7 @@ private:
     /** Those that need no band; a band may put its own in their place. */
     PageActions ownActions();
     void followSettings();
+    void tellOfFailure();
     bool escape();
     void focusBand (int direction);
 
@@ -99,6 +100,7 @@ private:
 
     std::optional<AssetScheme::UserColours> userColours;
     Events::Listener settingsListener { settings, [this] { followSettings(); } };
+    Events::Listener failureListener { settings.getFailures(), [this] { tellOfFailure(); } };
     Events::UpdateTimer timer;
 };
 } // namespace Zn::GUI

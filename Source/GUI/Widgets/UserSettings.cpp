@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace Zn::GUI
 {
@@ -144,8 +145,13 @@ std::string textOf (const Values& values)
 } // namespace
 
 UserSettings::UserSettings (const juce::File& fileToUse)
-    : watcher (fileToUse, [this] { take (readFile (watcher.getFile()).value_or (values)); })
-    , values (readFile (fileToUse).value_or (Values()))
+    : watcher (fileToUse,
+               [this] {
+                   inFile = readFile (watcher.getFile()).value_or (values);
+                   take (inFile);
+               })
+    , inFile (readFile (fileToUse).value_or (Values()))
+    , values (inFile)
 {}
 
 juce::File UserSettings::defaultFile()
@@ -156,21 +162,41 @@ juce::File UserSettings::defaultFile()
 
 void UserSettings::set (const Values& newValues)
 {
-    if (values == newValues)
-        return;
+    if (values != newValues)
+        write (newValues);
+}
 
+void UserSettings::retry()
+{
+    hasFailed = false;
+    write (Values (values));
+}
+
+void UserSettings::write (const Values& wanted)
+{
     // Another editor may have changed other settings just now: those stay.
     const auto& file = watcher.getFile();
-    const auto inFile = file.existsAsFile() ? readFile (file) : values;
-    auto merged = inFile.value_or (values);
+    const auto found = file.existsAsFile() ? readFile (file) : inFile;
+    auto merged = found.value_or (inFile);
 
-    visitFields ([] (const char*, auto&... field) { merge (field...); }, merged, values, newValues);
+    visitFields ([] (const char*, auto&... field) { merge (field...); }, merged, inFile, wanted);
     file.getParentDirectory().createDirectory();
 
-    if (inFile || keepAside (file))
-        Presets::replaceFile (file, textOf (merged), Presets::Durability::survivesPowerLoss);
+    const auto isWritten =
+        (found || keepAside (file))
+        && Presets::replaceFile (file, textOf (merged), Presets::Durability::survivesPowerLoss);
+
+    if (isWritten)
+        inFile = merged;
 
     take (merged);
+    tell (isWritten);
+}
+
+void UserSettings::tell (bool isWritten)
+{
+    if (! std::exchange (hasFailed, ! isWritten) && hasFailed)
+        failures.callListeners();
 }
 
 void UserSettings::take (const Values& newValues)

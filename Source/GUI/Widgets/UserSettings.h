@@ -9,7 +9,8 @@ namespace Zn::GUI
 {
 /** What a user wants of every editor, kept in a file of theirs. Tells its listeners of changes, and writes them
     at once; takes in what other open editors write. Whatever cannot be read in the file has its default; a file that
-    cannot be read at all is kept beside the new one when that is written. Thread: message.
+    cannot be read at all is kept beside the new one when that is written. What cannot be written counts all the same,
+    and is written with the next change. Thread: message.
 */
 class UserSettings : public Events::HasBroadcaster
 {
@@ -38,13 +39,26 @@ public:
     const Values& get() const noexcept { return values; }
     void set (const Values& newValues);
 
+    const juce::File& getFile() const noexcept { return watcher.getFile(); }
+
+    /** Called when the file could not be written, but not again until it could. */
+    Events::Broadcaster& getFailures() noexcept { return failures; }
+
+    /** Tries once more to write what could not be written. */
+    void retry();
+
     /** Looks at the file at once, as it does twice a second. */
     void check() { watcher.check(); }
 
 private:
+    void write (const Values& wanted);
+    void tell (bool isWritten);
     void take (const Values& newValues);
 
     AssetScheme::FileParser watcher;
+    Values inFile; // as it was read or written last
     Values values;
+    bool hasFailed = false;
+    Events::Broadcaster failures;
 };
 } // namespace Zn::GUI

@@ -77,6 +77,29 @@ TEST (UserSettings, KeepWhatCannotBeReadAndWhatIsKnownAlready)
     EXPECT_EQ (file.getParentDirectory().getNumberOfChildFiles (juce::File::findFiles), 3);
 }
 
+TEST (UserSettings, TellOnceThatTheyCannotBeWrittenAndWriteAllOfItLater)
+{
+    const SettingsFile settingsFile;
+    const auto folder = settingsFile.file.getParentDirectory();
+    UserSettings settings (settingsFile.file);
+    auto numFailures = 0;
+    const Events::Listener listener (settings.getFailures(), [&] { ++numFailures; });
+
+    folder.deleteRecursively();
+    folder.replaceWithText ("is in the way");
+    settings.set ({ .middleC = 4 });
+    settings.set ({ .middleC = 4, .tooltips = false });
+    EXPECT_EQ (numFailures, 1);
+    settings.retry();
+    EXPECT_EQ (numFailures, 2);
+    EXPECT_FALSE (settings.get().tooltips) << "it counts all the same";
+
+    folder.deleteFile();
+    settings.retry();
+    EXPECT_EQ (numFailures, 2);
+    EXPECT_TRUE (UserSettings (settingsFile.file).get() == settings.get());
+}
+
 TEST (UserSettings, AreSharedByOpenEditors)
 {
     const SettingsFile settingsFile;
