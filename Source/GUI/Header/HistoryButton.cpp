@@ -20,10 +20,12 @@ TooltipText HistoryButton::getTooltipText() const
 {
     auto text = Button::getTooltipText();
 
+    const auto& history = context.processor.getUndo();
+
     if (! isEnabled())
         text.help = way == Way::undo ? "Nothing has been changed yet." : "Nothing has been taken back.";
-    else if (way == Way::undo)
-        text.value = context.processor.getUndo().getCurrentName();
+    else
+        text.value = way == Way::undo ? history.getCurrentName() : history.getNextName();
 
     return text;
 }

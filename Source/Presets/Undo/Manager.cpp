@@ -101,6 +101,11 @@ juce::String Manager::getCurrentName() const
     return snapshots.empty() ? floorName : snapshots[static_cast<std::size_t> (index)].getName();
 }
 
+juce::String Manager::getNextName() const
+{
+    return canRedo() ? snapshots[static_cast<std::size_t> (index) + 1].getName() : juce::String();
+}
+
 std::size_t Manager::getNumBytes() const noexcept
 {
     return std::accumulate (snapshots.begin(),

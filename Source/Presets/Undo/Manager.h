@@ -56,6 +56,9 @@ public:
     /** Of the edit that the state is at, "Initial" before the first. */
     juce::String getCurrentName() const;
 
+    /** Of the edit that redo brings back; empty if there is none. */
+    juce::String getNextName() const;
+
     /** What all snapshots take. */
     std::size_t getNumBytes() const noexcept;
 

@@ -125,12 +125,17 @@ TEST (Page, TellsScreenReadersOfItsGroupsAndOfWhatIsChosenInThem)
     }
 }
 
-TEST (Page, SaysWhyItsHistoryButtonsAreOff)
+TEST (Page, SaysWhyItsHistoryButtonsAreOffAndWhatTheyDo)
 {
     Tests::OpenEditor editor;
     const auto& undo = editor.find<Control> ("Undo");
     const auto& redo = editor.find<Control> ("Redo");
     EXPECT_EQ (undo.getTooltipText().help, "Nothing has been changed yet.");
     EXPECT_EQ (redo.getTooltipText().help, "Nothing has been taken back.");
+
+    Tests::Hand::click (editor.find ("Snap"));
+    editor.page.getContext().edits.undo();
+    editor.poll();
+    EXPECT_EQ (redo.getTooltipText().value, "Snap");
 }
 } // namespace Zn::GUI
