@@ -2,6 +2,9 @@
 
 #include "GUI/Framework/MissingImage.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace Zn::GUI
 {
 namespace
@@ -26,6 +29,19 @@ juce::Rectangle<float> pageOf (juce::XmlElement& svg)
 
     return { lengthOf ("width", 2), lengthOf ("height", 3) };
 }
+
+/** None if nothing is drawn: it has been cut off, most likely. */
+std::unique_ptr<juce::Drawable> drawableOf (const juce::String& text, const juce::String& colour)
+{
+    const auto svg = juce::parseXML (text.replace ("currentColor", colour));
+
+    if (svg == nullptr)
+        return nullptr;
+
+    pageOf (*svg); // gives it a size
+    auto drawable = juce::Drawable::createFromSVG (*svg);
+    return drawable != nullptr && drawable->getNumChildComponents() > 0 ? std::move (drawable) : nullptr;
+}
 } // namespace
 
 SVGPainter::SVGPainter (const juce::String& fileName, const Binaries::Library& library)
@@ -40,32 +56,32 @@ SVGPainter::SVGPainter (const juce::String& fileName, const Binaries::Library& l
 
     text = juce::String::fromUTF8 (reinterpret_cast<const char*> (content.data()),
                                    static_cast<int> (content.size()));
-    parse ({});
+    const auto svg = juce::parseXML (text);
 
-    if (drawable == nullptr)
+    if (svg != nullptr && svg->hasTagName ("svg"))
+    {
+        page = pageOf (*svg);
+        untinted = drawableOf (text, svg->getStringAttribute ("color", "#000000"));
+    }
+
+    if (untinted == nullptr)
         error = missingImage (fileName);
 }
 
 void SVGPainter::paint (juce::Graphics& g, juce::Rectangle<float> area)
 {
-    paintAs (g, area, {});
+    draw (g, area, untinted.get());
 }
 
-void SVGPainter::paint (juce::Graphics& g, juce::Rectangle<float> area, juce::Colour newColour)
+void SVGPainter::paint (juce::Graphics& g, juce::Rectangle<float> area, juce::Colour colour)
 {
-    paintAs (g, area, svgColour (newColour));
+    draw (g, area, tintedIn (colour));
 }
 
-void SVGPainter::paintAs (juce::Graphics& g, juce::Rectangle<float> area, const juce::String& newColour)
+void SVGPainter::draw (juce::Graphics& g, juce::Rectangle<float> area, const juce::Drawable* drawable) const
 {
-    if (error.isNotEmpty())
-    {
-        drawMissing (g, area, error);
-        return;
-    }
-
-    if (newColour != colour)
-        parse (newColour);
+    if (drawable == nullptr)
+        return drawMissing (g, area, error);
 
     // Not drawWithin, which would blow up what is drawn and leave out the margins of the page.
     constexpr auto opaque = 1.0f;
@@ -75,21 +91,24 @@ void SVGPainter::paintAs (juce::Graphics& g, juce::Rectangle<float> area, const 
         juce::RectanglePlacement (juce::RectanglePlacement::centred).getTransformToFit (page, area));
 }
 
-void SVGPainter::parse (const juce::String& newColour)
+const juce::Drawable* SVGPainter::tintedIn (juce::Colour colour)
 {
-    colour = newColour;
+    constexpr auto mostColours = 4u; // of one icon: at rest, chosen, and both while disabled
 
-    auto svg = juce::parseXML (text);
+    if (untinted == nullptr)
+        return nullptr;
 
-    if (svg == nullptr || ! svg->hasTagName ("svg"))
-        return;
+    const auto hasColour = [colour] (const Tinted& one) { return one.colour == colour; };
 
-    const auto shown = newColour.isNotEmpty() ? newColour : svg->getStringAttribute ("color", "#000000");
-    svg = juce::parseXML (text.replace ("currentColor", shown));
-    page = pageOf (*svg);
-    drawable = juce::Drawable::createFromSVG (*svg);
+    if (const auto known = std::find_if (tinted.begin(), tinted.end(), hasColour); known != tinted.end())
+        return known->drawable.get();
 
-    if (drawable != nullptr && drawable->getNumChildComponents() == 0)
-        drawable.reset(); // cut off, most likely
+    newest = tinted.size() < mostColours ? tinted.size() : (newest + 1) % mostColours;
+
+    if (newest == tinted.size())
+        tinted.emplace_back();
+
+    tinted[newest] = { colour, drawableOf (text, svgColour (colour)) };
+    return tinted[newest].drawable.get();
 }
 } // namespace Zn::GUI

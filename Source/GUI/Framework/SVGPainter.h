@@ -5,12 +5,13 @@
 #include <juce_gui_basics/juce_gui_basics.h>
 
 #include <memory>
-#include <optional>
+#include <vector>
 
 namespace Zn::GUI
 {
 /** Draws an embedded SVG, as large as its area allows and in its middle. What the file paints in
-    "currentColor" takes the colour it is asked for, or that of the file. Thread: message.
+    "currentColor" takes the colour it is asked for, or that of the file; it is parsed once for each of a few
+    colours. Thread: message.
 */
 class SVGPainter
 {
@@ -24,12 +25,19 @@ public:
     const juce::String& getError() const noexcept { return error; }
 
 private:
-    void paintAs (juce::Graphics& g, juce::Rectangle<float> area, const juce::String& newColour);
-    void parse (const juce::String& newColour);
+    struct Tinted
+    {
+        juce::Colour colour;
+        std::unique_ptr<juce::Drawable> drawable;
+    };
+
+    void draw (juce::Graphics& g, juce::Rectangle<float> area, const juce::Drawable* drawable) const;
+    const juce::Drawable* tintedIn (juce::Colour colour);
 
     juce::String text, error;
-    juce::String colour; // as SVG writes it, of the drawable
     juce::Rectangle<float> page;
-    std::unique_ptr<juce::Drawable> drawable;
+    std::unique_ptr<juce::Drawable> untinted;
+    std::vector<Tinted> tinted; // those of the last few colours
+    std::size_t newest = 0;     // of them
 };
 } // namespace Zn::GUI
