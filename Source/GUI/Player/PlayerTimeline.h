@@ -37,6 +37,7 @@ private:
 
     void paintControl (juce::Graphics& g) override;
     void poll() override;
+    bool showsHover() const override { return false; } // the chord under the pointer does
     void readSong();
     void layOut();
     bool canJump() const;

@@ -20,6 +20,7 @@ private:
     juce::Rectangle<int> valueArea() const override { return getLocalBounds(); }
     void pressed (const juce::MouseEvent& event) override;
     void valueChanged() override;
+    bool showsHover() const override { return false; }
 
     juce::String text;
     juce::Font font;

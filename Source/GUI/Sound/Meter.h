@@ -38,6 +38,7 @@ private:
 
     void paintControl (juce::Graphics& g) override;
     void poll() override;
+    bool showsHover() const override { return false; }
     void listenWhileSeen();
     bool isSeen() const;
     int topOf (float decibels) const;

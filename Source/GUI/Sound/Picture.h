@@ -60,6 +60,7 @@ protected:
     void paintControl (juce::Graphics& g) final;
     void paintHandles (juce::Graphics& g) const;
     void poll() override;
+    bool showsHover() const final { return false; } // its handles tell what is pointed at
 
     /** The area inside of the inset. */
     juce::Rectangle<float> canvasArea() const { return drawn; }

@@ -226,7 +226,7 @@ void Control::update()
 
 void Control::fade()
 {
-    const auto target = isPointed (*this) && isEnabled() ? 1.0f : 0.0f;
+    const auto target = isEnabled() && showsHover() && isPointed (*this) ? 1.0f : 0.0f;
 
     if (hover == target)
         return;

@@ -52,6 +52,9 @@ protected:
     /** Looks whether what it shows has changed, and repaints it then. */
     virtual void poll() {}
 
+    /** Whether it looks another under the pointer; what does not is not painted again for it. */
+    virtual bool showsHover() const { return true; }
+
     /** While learning, a press arms it, and one of the right button forgets. Whether that was so. */
     bool takeLearnPress (const juce::MouseEvent& event);
 

@@ -32,6 +32,7 @@ private:
     void paintControl (juce::Graphics& g) override;
     juce::Rectangle<int> valueArea() const override { return getLocalBounds(); }
     void pressed (const juce::MouseEvent& event) override;
+    bool showsHover() const override { return ! options.bare; }
     void openMenu();
 
     const Options options;
