@@ -285,7 +285,7 @@ bool SlotBank::takeFlash (int slot, bool isHeard)
     const auto lastPosition = std::exchange (lastPositions[index], position);
     const auto now = juce::Time::getMillisecondCounter();
 
-    if (position >= 0.0 && position < lastPosition)
+    if (position >= 0.0 && (lastPosition < 0.0 || position < lastPosition))
         flashEnds[index] = now + flashMilliseconds;
 
     return isHeard && now < flashEnds[index] && ! context.settings.get().reducedMotion;

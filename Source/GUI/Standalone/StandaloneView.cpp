@@ -33,6 +33,7 @@ StandaloneView::StandaloneView (std::unique_ptr<juce::AudioProcessorEditor> edit
     setOpaque (true);
     setWantsKeyboardFocus (true);
     juce::LookAndFeel::setDefaultLookAndFeel (&look);
+    juce::Typeface::clearTypefaceCache(); // which knows the system's font by the name for whatever is usual
     strip.setLookAndFeel (&page.getLookAndFeel());
     addAndMakeVisible (*editor);
     addAndMakeVisible (strip);

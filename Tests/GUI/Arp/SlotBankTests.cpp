@@ -190,16 +190,24 @@ TEST_F (SlotBankOfEditor, CopiesAndSwapsByDrags)
     EXPECT_EQ (steps (1), first);
 }
 
-TEST_F (SlotBankOfEditor, ShowsHowFarThePatternIsAndFlashesWhenItBeginsAnew)
+TEST_F (SlotBankOfEditor, ShowsHowFarThePatternIsAndFlashesWhenItBegins)
 {
-    draw (0, 64);
-    play (2.3); // of 2.4 seconds for the bar
-    EXPECT_FALSE (tile (1).getLook().flashes);
-    play (0.2);
-    EXPECT_TRUE (tile (1).getLook().flashes);
+    const auto flashes = [this] { return tile (1).getLook().flashes; };
+    const auto rest = [this] {
+        juce::Thread::sleep (110);
+        editor.poll();
+    };
 
-    juce::Thread::sleep (110);
+    draw (0, 64);
     editor.poll();
-    EXPECT_FALSE (tile (1).getLook().flashes);
+    EXPECT_FALSE (flashes());
+    play (2.3); // of 2.4 seconds for the bar
+    EXPECT_TRUE (flashes()) << "it was silent";
+    rest();
+    EXPECT_FALSE (flashes());
+    play (0.2);
+    EXPECT_TRUE (flashes()) << "it begins anew";
+    rest();
+    EXPECT_FALSE (flashes());
 }
 } // namespace Zn::GUI
