@@ -81,8 +81,8 @@ void KeyboardStrip::Piano::paintKey (
     }
 }
 
-KeyboardStrip::Button::Button (const juce::String& text, TooltipText explanation)
-    : TextButton (text), tooltip (std::move (explanation))
+KeyboardStrip::Button::Button (const juce::String& name, TooltipText explanation)
+    : TextButton (name), tooltip (std::move (explanation))
 {
     setTitle (tooltip.title);
     setDescription (tooltip.help);

@@ -146,14 +146,14 @@ TEST_F (Controls, TwoQuickClicksAreTwo)
         *stepper,
         stepper->getLocalBounds().toFloat().getCentre().withX (static_cast<float> (stepper->getWidth() - 3)));
     EXPECT_EQ (voices->getInt(), 0);
-    EXPECT_EQ (bench.undo.steps, 2);
+    EXPECT_EQ (bench.steps, 2);
 
     const auto segments = bench.make<Segments> ("DelayMode", bench.of (synth.delay.mode));
 
     for (const auto* segment : { "DelayModeFree", "DelayModeSync" })
         Hand::click (Hand::find<juce::Component> (*segments, segment));
 
-    EXPECT_EQ (bench.undo.steps, 4);
+    EXPECT_EQ (bench.steps, 4);
 
     const auto enable = bench.of (synth.filter.enable);
     const auto toggle = bench.make<Toggle> ("FilterEnable", enable, Toggle::Options {});
