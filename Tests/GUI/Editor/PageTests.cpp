@@ -1,6 +1,7 @@
 #include "GUI/Framework/AssetScheme/Base.h"
 #include "GUI/Support/HiddenWindow.h"
 #include "GUI/Support/OpenEditor.h"
+#include "GUI/Support/ScreenReader.h"
 
 #include <gtest/gtest.h>
 
@@ -103,7 +104,7 @@ TEST (Page, TellsScreenReadersOfItsGroupsAndOfWhatIsChosenInThem)
 {
     Tests::OpenEditor editor;
     const auto handlerOf = [&editor] (const char* element) {
-        return editor.find (element).createAccessibilityHandler();
+        return Tests::accessibilityOf (editor.find (element));
     };
 
     for (const auto* group : { "Header", "ArpHeader", "ArpEditing", "SoundHeader", "SoundModule" })

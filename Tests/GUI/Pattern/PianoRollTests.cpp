@@ -1,6 +1,7 @@
 #include "GUI/Pattern/PianoRoll.h"
 
 #include "GUI/Support/OpenEditor.h"
+#include "GUI/Support/ScreenReader.h"
 
 #include <gtest/gtest.h>
 
@@ -147,7 +148,7 @@ TEST (PlayLine, IsThereForTheSlotThatIsHeardAlone)
     EXPECT_TRUE (elsewhere.isVisible());
     EXPECT_EQ (elsewhere.getTitle(), "Slot 2 plays");
 
-    elsewhere.createAccessibilityHandler()->getActions().invoke (juce::AccessibilityActionType::press);
+    Tests::accessibilityOf (elsewhere)->getActions().invoke (juce::AccessibilityActionType::press);
     EXPECT_EQ (editor.page.getContext().shownSlot.get(), 1);
     EXPECT_FALSE (editor.line.getDrawn().isEmpty()) << "at once, even while the clock rests";
     editor.poll();

@@ -3,6 +3,7 @@
 #include "GUI/Sound/Picture.h"
 #include "GUI/Sound/WavetableList.h"
 #include "GUI/Support/OpenEditor.h"
+#include "GUI/Support/ScreenReader.h"
 
 #include <gtest/gtest.h>
 
@@ -409,8 +410,7 @@ TEST_F (SoundBandTest, HoldsThePeakOfTheMeterWhichStaysRedUntilItIsClicked)
 
     EXPECT_TRUE (isCleared ([&] { Tests::Hand::click (shown); }));
     EXPECT_TRUE (isCleared ([&] { Tests::Hand::press (shown, "return"); }));
-    EXPECT_TRUE (isCleared ([&] {
-        shown.createAccessibilityHandler()->getActions().invoke (juce::AccessibilityActionType::press);
-    }));
+    EXPECT_TRUE (isCleared (
+        [&] { Tests::accessibilityOf (shown)->getActions().invoke (juce::AccessibilityActionType::press); }));
 }
 } // namespace Zn::GUI

@@ -38,7 +38,7 @@ private:
     {
         using ComponentPeer::ComponentPeer;
 
-        juce::Rectangle<int> getBounds() const override { return getComponent().getBounds(); }
+        juce::Rectangle<int> getBounds() const override { return component.getBounds(); }
         juce::Point<float> localToGlobal (juce::Point<float> local) override { return local; }
         juce::Point<float> globalToLocal (juce::Point<float> global) override { return global; }
         juce::BorderSize<int> getFrameSize() const override { return {}; }
