@@ -22,6 +22,17 @@ def load(name):
         raise Unavailable(str(error)) from error
 
 
+def start_server(name, folder, screen):
+    """The server, and whether it has got the display."""
+    read, write = os.pipe()
+    command = ["Xvfb", name, "-displayfd", str(write), "-screen", "0", screen, "-fbdir", str(folder)]
+    server = subprocess.Popen(command, pass_fds=[write], stderr=subprocess.DEVNULL)
+    os.close(write)
+
+    with os.fdopen(read) as answer:
+        return server, answer.readline().strip() != ""
+
+
 class Display:
     """An Xvfb of its own. Positions are pixels of its screen."""
 
@@ -31,13 +42,16 @@ class Display:
 
         self.x11, self.xtst = load("libX11.so.6"), load("libXtst.so.6")
         self.frame = Path(folder) / "Xvfb_screen0"
-        read, write = os.pipe()
-        command = ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{width}x{height}x24", "-fbdir", str(folder)]
-        self.server = subprocess.Popen(command, pass_fds=[write], stderr=subprocess.DEVNULL)
-        os.close(write)
 
-        with os.fdopen(read) as answer:
-            self.name = ":" + answer.readline().strip()
+        # Not the first: programs take that for the user's where they are told of none.
+        for number in range(50, 100):
+            self.name = f":{number}"
+            self.server, is_ready = start_server(self.name, folder, f"{width}x{height}x24")
+
+            if is_ready:
+                break
+        else:
+            raise Unavailable("no display is free")
 
         self.x11.XOpenDisplay.restype = c_void_p
         self.x11.XDefaultRootWindow.restype = c_ulong

@@ -22,6 +22,10 @@ TEST (Page, ShowsTheFocusThatKeysHaveMovedAndNoneAfterAClick)
 {
     Tests::OpenEditor editor;
     Tests::HiddenWindow window { editor.page };
+    auto settings = editor.page.getContext().settings.get();
+    settings.reducedMotion = true; // pop-ups fade on a screen only
+    editor.page.getContext().settings.set (settings);
+
     const auto isShown = [] {
         auto* focused = juce::Component::getCurrentlyFocusedComponent();
         auto* control = dynamic_cast<Control*> (focused);

@@ -185,7 +185,8 @@ TEST_F (RollKeysTest, TheMenuKeyOffersAllMenusInOne)
         bare.overlay.choose (line);
     }
 
-    EXPECT_EQ (text(), "60 @0.0625+0.0625, -63 @0.3125+0.125");
+    EXPECT_EQ (text(), "60 @0.0625+0.0625, 63 @0.3125+0.125");
+    EXPECT_FALSE (editor.getDrawing().note (1).enabled);
 
     editor.select ({});
     editor.cellCursor.set (RollCell { .column = 2, .row = 60 });

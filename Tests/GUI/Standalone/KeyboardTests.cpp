@@ -109,12 +109,6 @@ struct ProgramWindow
 {
     using Editor = Audio::Plugin::StateEditor<Audio::Plugins::Vornel::Processor, Page>;
 
-    ProgramWindow() : ProgramWindow (std::make_unique<Editor> (processor)) {}
-
-    explicit ProgramWindow (std::unique_ptr<Editor> editor)
-        : page (editor->getPage()), view (std::move (editor), page, [] {})
-    {}
-
     template <typename Part>
     Part& childOfStrip (int index = 0)
     {
@@ -141,8 +135,9 @@ struct ProgramWindow
 
     Singleton::UserToken singletonsStay;
     Audio::Plugins::Vornel::Processor processor { Audio::Plugins::Vornel::StartUp::empty };
-    Page& page;
-    StandaloneView view;
+    std::unique_ptr<Editor> editor = std::make_unique<Editor> (processor);
+    Page& page = editor->getPage();
+    StandaloneView view { std::move (editor), page, [] {} };
 };
 } // namespace
 
