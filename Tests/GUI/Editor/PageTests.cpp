@@ -22,9 +22,13 @@ TEST (Page, ShowsTheFocusThatKeysHaveMovedAndNoneAfterAClick)
 {
     Tests::OpenEditor editor;
     Tests::HiddenWindow window { editor.page };
-    auto settings = editor.page.getContext().settings.get();
-    settings.reducedMotion = true; // pop-ups fade on a screen only
-    editor.page.getContext().settings.set (settings);
+    auto& settings = editor.page.getContext().settings;
+    const juce::ScopeGuard restoresSettings { [&settings, before = settings.get()] {
+        settings.set (before);
+    } };
+    auto still = settings.get();
+    still.reducedMotion = true; // pop-ups fade on a screen only
+    settings.set (still);
 
     const auto isShown = [] {
         auto* focused = juce::Component::getCurrentlyFocusedComponent();

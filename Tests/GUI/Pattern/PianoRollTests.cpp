@@ -143,6 +143,8 @@ TEST (PlayLine, IsThereForTheSlotThatIsHeardAlone)
 
     editor.draw ({ { 0.0, 64 } }, 1);
     editor.play (1, 1.0);
+    editor.page.getContext().shownSlot.set (0); // it has followed
+    editor.poll();
     EXPECT_TRUE (editor.line.getDrawn().isEmpty()) << "another slot is heard";
     auto& elsewhere = editor.find ("PlayingElsewhere");
     EXPECT_TRUE (elsewhere.isVisible());
