@@ -59,6 +59,8 @@ def state_of(kind, document):
     """The document in the container of a host's project."""
     if kind == "Sounds":
         document = {"version": document["version"], "Synth": document}
+    elif document.get("Params"):  # a sound comes with it, and is called as the plug-in's own browser calls it
+        document = document | {"Synth": {"version": document["version"], "name": f"from {document['name']}", "dirty": False}}
 
     present = {key: value for key, value in document.items() if value is not None}
     text = json.dumps(present, ensure_ascii=False, separators=(",", ":")).encode() + b"\0"

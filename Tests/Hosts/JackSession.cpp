@@ -181,10 +181,14 @@ struct JackSession::Implementation : private Conductor
 
     void moveToStart()
     {
+        constexpr auto looksAtOneRequest = 100; // beside others it may get lost
         const auto start = static_cast<jack_nframes_t> (std::llround (tempoMap.frame));
+        auto numLooks = 0;
 
-        check ("locate", jack_transport_locate (keysClient.get(), start) == 0);
         waitFor ("the song's start", patience, [&] {
+            if (numLooks++ % looksAtOneRequest == 0)
+                check ("locate", jack_transport_locate (keysClient.get(), start) == 0);
+
             jack_position_t position;
             return jack_transport_query (keysClient.get(), &position) == JackTransportStopped
                    && position.frame == start;

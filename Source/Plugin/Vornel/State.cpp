@@ -17,18 +17,13 @@ constexpr int semitonesPerOctave = 12;
 constexpr int lastSlot = Sequencer::numSlots - 1;
 constexpr int mostColumns = 128; // that the editor offers
 
-constexpr auto paramsKey = "Params", soundKey = "Synth";
+constexpr auto paramsKey = "Params";
 
-/** Whether a preset of patterns is loaded that has a sound, too: from its file, or in an LV2 host, whose presets hold no more
-    than the files. One without a sound holds no parameters; projects and undo hold a sound of its own name.
-*/
+/** A preset of patterns alone holds nothing there. */
 bool bringsSound (Reflector& r)
 {
     const auto* const params = r.getChild (paramsKey);
-    const auto isPreset = r.getContext() == ReflectorContext::forPresetFile()
-                          || (r.isForHostChunk() && r.getChild (soundKey) == nullptr);
-
-    return isPreset && params != nullptr && params->getSize() > 0;
+    return params != nullptr && params->getSize() > 0;
 }
 
 /** The sound that a pattern preset has brought is in no file of the sounds, and no edit of the one that was there. */
@@ -150,7 +145,7 @@ void State::reflectMembers (Reflector& r)
     const juce::ScopeGuard settles { [this, &r] {
         settleAfterLoad (r.getContext());
 
-        if (bringsSound (r))
+        if (r.getContext() == ReflectorContext::forPresetFile() && bringsSound (r))
             nameAfter (*this, synthPreset);
     } };
     const juce::ScopedValueSetter<bool> loadIsNoEdit (patternsChangeByHand, false);
@@ -169,7 +164,7 @@ void State::reflectDocument (Reflector& r)
 
     r.addChild ("Slots", Section { [this] (Reflector& s) { reflectSlots (s); } });
     r.addChild ("MidiPlayer", player);
-    r.addChild (soundKey, synthPreset);
+    r.addChild ("Synth", synthPreset);
     r.addChild ("Octave", Section { [this] (Reflector& o) { reflectOctaves (o); } });
     r.addChild ("UI", Section { [this] (Reflector& u) { u.add ("snap", snap); } });
     r.addChild ("MidiLearn", learnMap);
