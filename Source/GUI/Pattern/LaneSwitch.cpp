@@ -29,17 +29,29 @@ void LaneSwitch::follow()
 
 void LaneSwitch::schemeChanged()
 {
+    constexpr auto padOfText = 8.0f / 6.8f; // of a handle of the lane
+    constexpr auto leastGap = 2.0f;         // pixels between bar and text
+    const auto bar = barWidth();
+
+    textArea = area()
+                   .withTrimmedRight (padOfText * pixels ("LaneHandle"))
+                   .withTrimmedLeft (2.0f * bar + std::max (0.5f * bar, leastGap));
+
     font = getCanvas().fontOf ("FontSmall");
+    font.setHorizontalScale (
+        std::min (1.0f, textArea.getWidth() / font.getStringWidthFloat (getText().label)));
+}
+
+float LaneSwitch::barWidth() const
+{
+    constexpr auto ofHandle = 0.44f;
+    return std::round (ofHandle * pixels ("LaneHandle"));
 }
 
 void LaneSwitch::paintControl (juce::Graphics& g)
 {
-    constexpr auto barHeight = 0.6f;        // of the switch
-    constexpr auto padOfBar = 0.44f;        // of a handle of the lane, as is the bar's width
-    constexpr auto padOfText = 8.0f / 6.8f; // of a handle of the lane
-    constexpr auto leastGap = 2.0f;         // pixels between bar and text
-    const auto handle = pixels ("LaneHandle");
-    const auto bar = std::round (padOfBar * handle);
+    constexpr auto barHeight = 0.6f; // of the switch
+    const auto bar = barWidth();
 
     if (isChosen())
     {
@@ -53,9 +65,7 @@ void LaneSwitch::paintControl (juce::Graphics& g)
     paintText (g,
                getText().label,
                font,
-               area()
-                   .withTrimmedRight (padOfText * handle)
-                   .withTrimmedLeft (2.0f * bar + std::max (0.5f * bar, leastGap)),
+               textArea,
                juce::Justification::centredRight,
                colour (isBright ? "Text" : "TextSecondary"));
 }

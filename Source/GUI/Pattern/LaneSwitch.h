@@ -20,6 +20,7 @@ public:
 
 private:
     void paintControl (juce::Graphics& g) override;
+    float barWidth() const; // pixels, as is the gap at its left
     void choose() { roll.tools.laneValue.set (value); }
     void follow();
     bool isChosen() const { return roll.tools.laneValue.get() == value; }
@@ -27,6 +28,7 @@ private:
     RollContext& roll;
     const NoteValue value;
     juce::Font font;
+    juce::Rectangle<float> textArea;
     Events::Listener listener;
 };
 } // namespace Zn::GUI
