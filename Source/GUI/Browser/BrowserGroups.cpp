@@ -1,6 +1,7 @@
 #include "GUI/Browser/BrowserGroups.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Widgets/TextLine.h"
 
 #include <algorithm>
 
@@ -116,7 +117,6 @@ void BrowserGroups::paintLine (juce::Graphics& g,
                                juce::Rectangle<float> area,
                                bool isChosen)
 {
-    constexpr auto narrowestSqueeze = 0.85f; // of a text's width, before it is cut
     const auto scrollBar = area.getWidth() - box.getWidth();
 
     if (isChosen)
@@ -137,13 +137,12 @@ void BrowserGroups::paintLine (juce::Graphics& g,
         text.removeFromLeft (getCanvas().pixelsOf ("CaptionGap"));
     }
 
-    g.setFont (font);
-    g.setColour (colour (isChosen ? "Text" : "TextSecondary"));
-    g.drawFittedText (line.text,
-                      text.getSmallestIntegerContainer(),
-                      juce::Justification::centredLeft,
-                      1,
-                      narrowestSqueeze);
+    paintTextLine (g,
+                   line.text,
+                   font,
+                   text,
+                   juce::Justification::centredLeft,
+                   colour (isChosen ? "Text" : "TextSecondary"));
     g.setColour (colour (isChosen ? "TextSecondary" : "TextQuiet"));
     g.drawText (juce::String (line.count),
                 countArea.translated (scrollBar, 0.0f),

@@ -2,6 +2,7 @@
 
 #include "GUI/Framework/AssetScheme/Base.h"
 #include "GUI/Widgets/StepsPicture.h"
+#include "GUI/Widgets/TextLine.h"
 
 namespace Zn::GUI
 {
@@ -90,7 +91,6 @@ void PresetRow::paint (juce::Graphics& g)
 
 void PresetRow::paintName (juce::Graphics& g, const CataloguedPreset& preset, bool isCurrent)
 {
-    constexpr auto narrowestSqueeze = 0.85f; // of a text's width, before it is cut
     const auto& style = owner.getStyle();
     auto line = style.text.withRight (style.text.getRight() + starArea().getX() - style.starArea.getX());
 
@@ -107,13 +107,12 @@ void PresetRow::paintName (juce::Graphics& g, const CataloguedPreset& preset, bo
         line.removeFromRight (style.canvas.pixelsOf ("CaptionGap"));
     }
 
-    g.setFont (isCurrent ? style.currentName : style.name);
-    g.setColour (colour ("Text"));
-    g.drawFittedText (preset.name,
-                      line.getSmallestIntegerContainer(),
-                      juce::Justification::centredLeft,
-                      1,
-                      narrowestSqueeze);
+    paintTextLine (g,
+                   preset.name,
+                   isCurrent ? style.currentName : style.name,
+                   line,
+                   juce::Justification::centredLeft,
+                   colour ("Text"));
 }
 
 void PresetRow::mouseDown (const juce::MouseEvent& event)

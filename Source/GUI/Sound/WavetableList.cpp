@@ -3,6 +3,7 @@
 #include "GUI/Framework/AssetScheme/Base.h"
 #include "GUI/Sound/Picture.h"
 #include "GUI/Sound/WaveShape.h"
+#include "GUI/Widgets/TextLine.h"
 #include "Synth/WavetableSynth/SampleList.h"
 
 #include <algorithm>
@@ -76,14 +77,12 @@ public:
         g.setColour (colour ("Sound"));
         g.strokePath (wave, juce::PathStrokeType (style.stroke, juce::PathStrokeType::curved));
 
-        constexpr auto narrowestSqueeze = 0.85f; // of a text's width, before it is cut
-        g.setFont (isCurrent ? style.currentName : style.name);
-        g.setColour (colour ("Text"));
-        g.drawFittedText (named.name,
-                          line.getSmallestIntegerContainer(),
-                          juce::Justification::centredLeft,
-                          1,
-                          narrowestSqueeze);
+        paintTextLine (g,
+                       named.name,
+                       isCurrent ? style.currentName : style.name,
+                       line,
+                       juce::Justification::centredLeft,
+                       colour ("Text"));
     }
 
     void mouseDrag (const juce::MouseEvent& event) override

@@ -1,14 +1,11 @@
 #include "GUI/Widgets/Caption.h"
 
+#include "GUI/Widgets/TextLine.h"
+
 #include <algorithm>
 
 namespace Zn::GUI
 {
-namespace
-{
-constexpr auto narrowestSqueeze = 0.85f; // of a text's width, before it is cut
-}
-
 Caption::Caption (Options optionsToUse) : options (std::move (optionsToUse))
 {
     if (options.icon.isNotEmpty())
@@ -86,13 +83,12 @@ void Caption::paint (juce::Graphics& g, juce::Colour iconColour, juce::Colour te
     if (options.text.isEmpty())
         return;
 
-    g.setFont (font);
-    g.setColour (textColour);
-    g.drawFittedText (options.text,
-                      textArea.getSmallestIntegerContainer(),
-                      options.arrangement == Arrangement::stacked ? juce::Justification::centred
-                                                                  : juce::Justification::centredLeft,
-                      1,
-                      narrowestSqueeze);
+    paintTextLine (g,
+                   options.text,
+                   font,
+                   textArea,
+                   options.arrangement == Arrangement::stacked ? juce::Justification::centred
+                                                               : juce::Justification::centredLeft,
+                   textColour);
 }
 } // namespace Zn::GUI

@@ -1,6 +1,7 @@
 #include "GUI/Widgets/Control.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Widgets/TextLine.h"
 
 #include <algorithm>
 #include <utility>
@@ -9,8 +10,7 @@ namespace Zn::GUI
 {
 namespace
 {
-constexpr auto wheelDelay = 150u;        // milliseconds
-constexpr auto narrowestSqueeze = 0.85f; // of a text's width, before it is cut
+constexpr auto wheelDelay = 150u; // milliseconds
 
 juce::Colour schemeColour (std::string_view name)
 {
@@ -199,9 +199,7 @@ void Control::paintText (juce::Graphics& g,
                          juce::Justification justification,
                          juce::Colour fill) const
 {
-    g.setFont (font);
-    g.setColour (fill);
-    g.drawFittedText (line, textArea.getSmallestIntegerContainer(), justification, 1, narrowestSqueeze);
+    paintTextLine (g, line, font, textArea, justification, fill);
 }
 
 bool Control::isPressKey (const juce::KeyPress& key) const

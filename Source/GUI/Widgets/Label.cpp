@@ -1,14 +1,10 @@
 #include "GUI/Widgets/Label.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Widgets/TextLine.h"
 
 namespace Zn::GUI
 {
-namespace
-{
-constexpr auto narrowestSqueeze = 0.85f; // of a text's width, before it is cut
-}
-
 Label::Label (EditorContext& context, std::string element, juce::String textToShow)
     : Label (context, std::move (element), std::move (textToShow), Options())
 {}
@@ -72,12 +68,11 @@ void Label::schemeChanged()
 
 void Label::paint (juce::Graphics& g)
 {
-    g.setFont (font);
-    g.setColour (AssetScheme::Base::get().colourOf (options.colour));
-    g.drawFittedText (shortened ? options.shortText : text,
-                      getLocalBounds(),
-                      options.justification,
-                      1,
-                      narrowestSqueeze);
+    paintTextLine (g,
+                   shortened ? options.shortText : text,
+                   font,
+                   getLocalBounds().toFloat(),
+                   options.justification,
+                   AssetScheme::Base::get().colourOf (options.colour));
 }
 } // namespace Zn::GUI
