@@ -203,7 +203,9 @@ def look_at_devices(editor):
     display.flush(1.0)
     editor.show("9-devices")
     x, y, width, height = display.place_of(dialogue)
-    demand_that(len(display.colours_in(x, y, width // 3, height)) > 10, "the dialogue for devices has no labels")
+    for what, left, top, across, down in (("labels", 0.0, 0.0, 0.3, 1.0), ("lists", 0.4, 0.69, 0.5, 0.08)):
+        place = (x + left * width, y + top * height, across * width, down * height)
+        demand_that(len(display.colours_in(*map(int, place))) > 10, f"the dialogue for devices has no {what}")
     display.focus(dialogue)
     display.press("Escape")
 
