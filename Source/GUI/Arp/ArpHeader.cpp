@@ -62,9 +62,4 @@ void ArpHeader::paint (juce::Graphics& g)
 {
     g.fillAll (AssetScheme::Base::get().colourOf ("Band"));
 }
-
-std::unique_ptr<juce::AccessibilityHandler> ArpHeader::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
 } // namespace Zn::GUI

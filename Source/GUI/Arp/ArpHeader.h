@@ -5,6 +5,7 @@
 #include "GUI/Arp/SlotBank.h"
 #include "GUI/Widgets/Choice.h"
 #include "GUI/Widgets/Divider.h"
+#include "GUI/Widgets/GroupHandler.h"
 #include "GUI/Widgets/Label.h"
 #include "GUI/Widgets/Segments.h"
 #include "GUI/Widgets/Toggle.h"
@@ -19,7 +20,10 @@ public:
 
     void paint (juce::Graphics& g) override;
     void paintOverChildren (juce::Graphics& g) override { slots.paintEdges (g); }
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
 
 private:
     EditorContext& context;

@@ -79,11 +79,6 @@ void ArpParams::paint (juce::Graphics& g)
     g.fillAll (AssetScheme::Base::get().colourOf ("Band"));
 }
 
-std::unique_ptr<juce::AccessibilityHandler> ArpParams::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
-
 void ArpParams::poll()
 {
     const auto followsKey = context.state().keyMode.load();

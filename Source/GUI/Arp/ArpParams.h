@@ -2,6 +2,7 @@
 
 #include "GUI/Widgets/Choice.h"
 #include "GUI/Widgets/Divider.h"
+#include "GUI/Widgets/GroupHandler.h"
 #include "GUI/Widgets/Label.h"
 #include "GUI/Widgets/NumberField.h"
 #include "GUI/Widgets/RangeSlider.h"
@@ -20,7 +21,10 @@ public:
     explicit ArpParams (EditorContext& contextToUse);
 
     void paint (juce::Graphics& g) override;
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
 
 private:
     void poll();

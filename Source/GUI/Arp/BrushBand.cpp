@@ -93,11 +93,6 @@ void BrushBand::paint (juce::Graphics& g)
     g.fillAll (AssetScheme::Base::get().colourOf ("Band"));
 }
 
-std::unique_ptr<juce::AccessibilityHandler> BrushBand::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
-
 void BrushBand::poll()
 {
     const auto shown = static_cast<std::size_t> (context.shownSlot.get());

@@ -4,6 +4,7 @@
 #include "GUI/Pattern/PatternParams.h"
 #include "GUI/Pattern/SlotEdits.h"
 #include "GUI/Widgets/Divider.h"
+#include "GUI/Widgets/GroupHandler.h"
 #include "GUI/Widgets/Label.h"
 #include "GUI/Widgets/NumberField.h"
 #include "GUI/Widgets/Segments.h"
@@ -18,7 +19,10 @@ public:
     explicit BrushBand (EditorContext& contextToUse);
 
     void paint (juce::Graphics& g) override;
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
 
 private:
     void poll();

@@ -61,11 +61,6 @@ void SlotBank::paintEdges (juce::Graphics& g) const
         tile->paintEdge (g);
 }
 
-std::unique_ptr<juce::AccessibilityHandler> SlotBank::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
-
 void SlotBank::tilePressed (SlotTile& tile, const juce::MouseEvent& event)
 {
     dragged.reset();

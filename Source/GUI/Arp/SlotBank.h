@@ -2,6 +2,7 @@
 
 #include "GUI/Arp/SlotTile.h"
 #include "GUI/Pattern/SlotEdits.h"
+#include "GUI/Widgets/GroupHandler.h"
 #include "GUI/Widgets/SlotExport.h"
 
 #include <array>
@@ -21,7 +22,10 @@ public:
     /** What lies around the tiles, for the band to paint over itself. */
     void paintEdges (juce::Graphics& g) const;
 
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
 
 private:
     struct Drag

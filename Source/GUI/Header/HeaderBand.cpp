@@ -54,9 +54,4 @@ HeaderBand::HeaderBand (EditorContext& contextToUse)
     for (auto* part : std::initializer_list<juce::Component*> { &undo, &redo, &learn, &help, &settings })
         addAndMakeVisible (part);
 }
-
-std::unique_ptr<juce::AccessibilityHandler> HeaderBand::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
 } // namespace Zn::GUI

@@ -3,6 +3,7 @@
 #include "GUI/Header/HistoryButton.h"
 #include "GUI/Header/Logo.h"
 #include "GUI/Presets/PresetBar.h"
+#include "GUI/Widgets/GroupHandler.h"
 
 namespace Zn::GUI
 {
@@ -12,7 +13,10 @@ class HeaderBand : public AssetScheme::Element<>
 public:
     explicit HeaderBand (EditorContext& contextToUse);
 
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
 
 private:
     EditorContext& context;

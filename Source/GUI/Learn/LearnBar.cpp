@@ -57,9 +57,4 @@ void LearnBar::paint (juce::Graphics& g)
     g.setFont (textFont);
     g.drawFittedText (help, textArea.toNearestInt(), juce::Justification::centredLeft, 1);
 }
-
-std::unique_ptr<juce::AccessibilityHandler> LearnBar::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
 } // namespace Zn::GUI

@@ -2,6 +2,7 @@
 
 #include "GUI/Framework/SVGPainter.h"
 #include "GUI/Widgets/Button.h"
+#include "GUI/Widgets/GroupHandler.h"
 
 namespace Zn::GUI
 {
@@ -13,7 +14,10 @@ public:
 
     void paint (juce::Graphics& g) override;
     void schemeChanged() override;
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
 
 private:
     EditorContext& context;

@@ -169,9 +169,4 @@ void PatternArea::paint (juce::Graphics& g)
     g.fillRect (0, lane.getBottom() - line, lane.getX(), line);
     g.fillRect (lane.getX() - line, lane.getY(), line, lane.getHeight());
 }
-
-std::unique_ptr<juce::AccessibilityHandler> PatternArea::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
 } // namespace Zn::GUI

@@ -13,6 +13,7 @@
 #include "GUI/Pattern/RollScrollBar.h"
 #include "GUI/Pattern/Ruler.h"
 #include "GUI/Widgets/Button.h"
+#include "GUI/Widgets/GroupHandler.h"
 
 namespace Zn::GUI
 {
@@ -29,7 +30,10 @@ public:
 
     void paint (juce::Graphics& g) override;
     void schemeChanged() override;
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
     void mouseDown (const juce::MouseEvent& event) override;
 
 private:

@@ -40,9 +40,4 @@ void PlayerBand::paint (juce::Graphics& g)
     g.setColour (scheme.colourOf ("Hairline"));
     g.fillRect (getLocalBounds().toFloat().withHeight (hairline));
 }
-
-std::unique_ptr<juce::AccessibilityHandler> PlayerBand::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
 } // namespace Zn::GUI

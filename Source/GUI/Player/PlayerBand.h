@@ -4,6 +4,7 @@
 #include "GUI/Player/PlayerFile.h"
 #include "GUI/Player/PlayerTimeline.h"
 #include "GUI/Widgets/Button.h"
+#include "GUI/Widgets/GroupHandler.h"
 #include "GUI/Widgets/Toggle.h"
 
 namespace Zn::GUI
@@ -19,7 +20,10 @@ public:
 
     void schemeChanged() override { hairline = getCanvas().pixelsOf ("HairlineStroke"); }
     void paint (juce::Graphics& g) override;
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
 
 private:
     PlayerActions actions;

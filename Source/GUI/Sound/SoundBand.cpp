@@ -139,9 +139,4 @@ void SoundBand::paint (juce::Graphics& g)
     g.setColour (AssetScheme::Base::get().colourOf ("Hairline"));
     g.fillRect (getLocalBounds().toFloat().withHeight (hairline));
 }
-
-std::unique_ptr<juce::AccessibilityHandler> SoundBand::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
 } // namespace Zn::GUI

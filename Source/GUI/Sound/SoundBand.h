@@ -9,6 +9,7 @@
 #include "GUI/Sound/SubCard.h"
 #include "GUI/Sound/UnisonCard.h"
 #include "GUI/Widgets/Button.h"
+#include "GUI/Widgets/GroupHandler.h"
 #include "GUI/Widgets/Slider.h"
 
 #include <array>
@@ -26,7 +27,10 @@ public:
 
     void schemeChanged() override;
     void paint (juce::Graphics& g) override;
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
 
 private:
     OscillatorCard::Callbacks callbacksOf (std::size_t oscillator);

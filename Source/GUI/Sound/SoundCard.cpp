@@ -48,11 +48,6 @@ void SoundCard::paint (juce::Graphics& g)
     g.fillPath (surface);
 }
 
-std::unique_ptr<juce::AccessibilityHandler> SoundCard::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
-
 bool soundsNow (const EditorContext& context) noexcept
 {
     return context.state().params.sound.synthEnable.get() && ! context.processor.isMidiEffect();

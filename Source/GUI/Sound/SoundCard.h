@@ -2,6 +2,7 @@
 
 #include "GUI/Framework/AssetScheme/Element.h"
 #include "GUI/Widgets/EditorContext.h"
+#include "GUI/Widgets/GroupHandler.h"
 
 #include <functional>
 
@@ -18,7 +19,10 @@ public:
 
     void schemeChanged() override;
     void paint (juce::Graphics& g) override;
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
 
 protected:
     void add (std::initializer_list<juce::Component*> children);

@@ -16,9 +16,4 @@ SoundHeader::SoundHeader (EditorContext& contextToUse)
     addAndMakeVisible (enable);
     sounds.addTo (*this);
 }
-
-std::unique_ptr<juce::AccessibilityHandler> SoundHeader::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
 } // namespace Zn::GUI

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GUI/Presets/PresetBar.h"
+#include "GUI/Widgets/GroupHandler.h"
 #include "GUI/Widgets/Toggle.h"
 
 namespace Zn::GUI
@@ -11,7 +12,10 @@ class SoundHeader : public AssetScheme::Element<>
 public:
     explicit SoundHeader (EditorContext& contextToUse);
 
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
 
 private:
     Toggle enable;

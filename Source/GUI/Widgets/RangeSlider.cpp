@@ -151,9 +151,4 @@ void RangeSlider::paint (juce::Graphics& g)
                 .withCentre (pointAt (static_cast<float> (octave) / static_cast<float> (numOctaves)))
                 .translated (0.0f, below));
 }
-
-std::unique_ptr<juce::AccessibilityHandler> RangeSlider::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
 } // namespace Zn::GUI

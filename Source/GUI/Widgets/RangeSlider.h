@@ -2,6 +2,7 @@
 
 #include "GUI/Framework/AssetScheme/Element.h"
 #include "GUI/Widgets/EditorContext.h"
+#include "GUI/Widgets/GroupHandler.h"
 
 #include <memory>
 
@@ -27,7 +28,10 @@ public:
     void typeValues();
 
     void paint (juce::Graphics& g) override;
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
 
 private:
     class End;

@@ -193,9 +193,4 @@ std::unique_ptr<juce::AccessibilityHandler> Segments::Segment::createAccessibili
         [this] { return isChosen(); },
         [this] { row.choose (item.value); });
 }
-
-std::unique_ptr<juce::AccessibilityHandler> Segments::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
-}
 } // namespace Zn::GUI

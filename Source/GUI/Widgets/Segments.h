@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GUI/Widgets/Caption.h"
+#include "GUI/Widgets/GroupHandler.h"
 #include "GUI/Widgets/ValueControl.h"
 
 #include <deque>
@@ -37,7 +38,10 @@ public:
     ~Segments() override;
 
     void schemeChanged() override;
-    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return groupHandler (*this);
+    }
 
 private:
     struct Segment;
