@@ -74,15 +74,7 @@ bool PatternEditor::perform (const juce::String& name, const Change& change)
     endDrag();
 
     auto hasChanged = false;
-    context.edits.perform (name, [&] {
-        auto drawing = shown;
-        change (drawing);
-        show (std::move (drawing));
-        hasChanged = ! shown.playsAs (written);
-        publish();
-        return hasChanged;
-    });
-
+    context.edits.perform (name, [&] { return hasChanged = apply (change); });
     return hasChanged;
 }
 
@@ -92,14 +84,20 @@ bool PatternEditor::nudge (Nudge kind, const juce::String& name, const Change& c
 
     auto hasChanged = false;
     context.edits.join (&nudgeTargets[static_cast<std::size_t> (kind)], name, [&] {
-        auto drawing = shown;
-        change (drawing);
-        show (std::move (drawing));
-        hasChanged = ! shown.playsAs (written);
-        publish();
-        return hasChanged;
+        return hasChanged = apply (change);
     });
+    return hasChanged;
+}
 
+/** To what is shown and to the slot. Whether it plays otherwise than before. */
+bool PatternEditor::apply (const Change& change)
+{
+    auto drawing = shown;
+    change (drawing);
+    show (std::move (drawing));
+
+    const auto hasChanged = ! shown.playsAs (written);
+    publish();
     return hasChanged;
 }
 

@@ -87,6 +87,7 @@ private:
 
     Sequencer::PatternSlot& slot() const;
     void show (Drawing newDrawing);
+    bool apply (const Change& change);
     void publish();
     void publishWhenDue();
     void followModel();
