@@ -33,19 +33,19 @@ void visitFields (Visit&& visit, AllValues&... values)
     visit ("favourites", values.favourites...);
 }
 
-void read (const Json& json, bool& value)
+void readValue (const Json& json, bool& value)
 {
     if (json.is_boolean())
         value = json.get<bool>();
 }
 
-void read (const Json& json, int& value)
+void readValue (const Json& json, int& value)
 {
     if (json.is_number_integer())
         value = json.get<int>();
 }
 
-void read (const Json& json, juce::StringArray& value)
+void readValue (const Json& json, juce::StringArray& value)
 {
     if (! json.is_array())
         return;
@@ -105,7 +105,7 @@ std::optional<Values> readFile (const juce::File& file)
 
     const auto readField = [&json] (const char* name, auto& value) {
         if (const auto found = json.find (name); found != json.end())
-            read (*found, value);
+            readValue (*found, value);
     };
 
     visitFields (readField, values);
@@ -145,11 +145,7 @@ std::string textOf (const Values& values)
 } // namespace
 
 UserSettings::UserSettings (const juce::File& fileToUse)
-    : watcher (fileToUse,
-               [this] {
-                   inFile = readFile (watcher.getFile()).value_or (values);
-                   take (inFile);
-               })
+    : watcher (fileToUse, [this] { read(); })
     , inFile (readFile (fileToUse).value_or (Values()))
     , values (inFile)
 {}
@@ -172,24 +168,40 @@ void UserSettings::retry()
     write (Values (values));
 }
 
+/** What others have written, with what has been changed here since the file was read or written last. */
+Values UserSettings::merged (Values target, const Values& wanted) const
+{
+    visitFields ([] (const char*, auto&... field) { merge (field...); }, target, inFile, wanted);
+    return target;
+}
+
+void UserSettings::read()
+{
+    const auto found = readFile (watcher.getFile());
+
+    if (! found)
+        return;
+
+    const auto newValues = merged (*found, values); // some may not have been written
+    inFile = *found;
+    take (newValues);
+}
+
 void UserSettings::write (const Values& wanted)
 {
-    // Another editor may have changed other settings just now: those stay.
     const auto& file = watcher.getFile();
     const auto found = file.existsAsFile() ? readFile (file) : inFile;
-    auto merged = found.value_or (inFile);
-
-    visitFields ([] (const char*, auto&... field) { merge (field...); }, merged, inFile, wanted);
+    const auto newValues = merged (found.value_or (inFile), wanted);
     file.getParentDirectory().createDirectory();
 
     const auto isWritten =
         (found || keepAside (file))
-        && Presets::replaceFile (file, textOf (merged), Presets::Durability::survivesPowerLoss);
+        && Presets::replaceFile (file, textOf (newValues), Presets::Durability::survivesPowerLoss);
 
     if (isWritten)
-        inFile = merged;
+        inFile = newValues;
 
-    take (merged);
+    take (newValues);
     tell (isWritten);
 }
 

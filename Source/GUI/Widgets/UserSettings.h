@@ -51,6 +51,8 @@ public:
     void check() { watcher.check(); }
 
 private:
+    Values merged (Values target, const Values& wanted) const;
+    void read();
     void write (const Values& wanted);
     void tell (bool isWritten);
     void take (const Values& newValues);

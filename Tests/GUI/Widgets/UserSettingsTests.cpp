@@ -95,9 +95,13 @@ TEST (UserSettings, TellOnceThatTheyCannotBeWrittenAndWriteAllOfItLater)
     EXPECT_FALSE (settings.get().tooltips) << "it counts all the same";
 
     folder.deleteFile();
+    UserSettings (settingsFile.file).set ({ .wheelTurnsKnobs = false });
+    settings.check();
+    EXPECT_FALSE (settings.get().tooltips) << "what others write leaves it alone";
     settings.retry();
     EXPECT_EQ (numFailures, 2);
     EXPECT_TRUE (UserSettings (settingsFile.file).get() == settings.get());
+    EXPECT_FALSE (settings.get().wheelTurnsKnobs);
 }
 
 TEST (UserSettings, AreSharedByOpenEditors)
