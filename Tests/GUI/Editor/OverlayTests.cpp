@@ -134,7 +134,7 @@ TEST (ValueEntry, StaysUntilItHasAValueOrIsGivenUp)
 
 TEST (ValueEntry, ReddensInsteadOfShakingWhereNothingShallMove)
 {
-    for (const auto isReduced : { true, false }) // the usual last: settings outlive the editor
+    for (const auto isReduced : { true, false })
     {
         Tests::OpenEditor editor;
         auto values = editor.page.getContext().settings.get();

@@ -65,7 +65,6 @@ TEST (SettingsPopup, ChangesWhatTheUserWantsAndNothingOfTheProject)
     EXPECT_NE (windowSize.getFloat(), first) << "or it goes on showing the first of them";
     windowSize.setFromText ("125 %");
     EXPECT_EQ (editor.page.getWidth(), 1375);
-    context.settings.set (before);
 }
 
 TEST (SettingsPopup, BringsTheUsersColoursAndTakesThemBack)

@@ -134,6 +134,7 @@ struct ProgramWindow
     }
 
     Singleton::UserToken singletonsStay;
+    Tests::UserFiles userFiles;
     Audio::Plugins::Vornel::Processor processor { Audio::Plugins::Vornel::StartUp::empty };
     std::unique_ptr<Editor> editor = std::make_unique<Editor> (processor);
     Page& page = editor->getPage();
@@ -148,7 +149,6 @@ TEST (KeyboardStrip, FollowsTheSettingsAndTheColoursOfTheUser)
 
     AssetScheme::Base::get().setUserColours (R"({"Window": {"r": 200, "g": 3, "b": 4}})");
     EXPECT_GE (window.numGaps(), 48);
-    AssetScheme::Base::get().resetUserColours();
 
     auto& settings = window.page.getContext().settings;
     auto values = settings.get();

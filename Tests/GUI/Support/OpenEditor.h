@@ -3,6 +3,7 @@
 #include "Foundation/Singleton.h"
 #include "GUI/Editor/Page.h"
 #include "GUI/Support/Hand.h"
+#include "GUI/Support/UserFiles.h"
 #include "Support/MessageLoop.h"
 
 namespace Zn::Tests
@@ -30,6 +31,7 @@ struct OpenEditor
     auto& getState() { return processor.getState(); }
 
     Singleton::UserToken singletonsStay;
+    UserFiles userFiles;
     Audio::Plugins::Vornel::Processor processor;
     GUI::Page page { processor };
 };
