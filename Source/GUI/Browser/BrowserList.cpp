@@ -15,7 +15,7 @@ BrowserList::BrowserList (AssetScheme::Canvas& canvas, std::string element, cons
 
 BrowserList::~BrowserList()
 {
-    setModel (nullptr);
+    jassert (getModel() == nullptr); // or the lines ask a list that is half gone
 }
 
 void BrowserList::setHint (const juce::String& newHint)

@@ -29,7 +29,9 @@ public:
     void paintOverChildren (juce::Graphics& g) override;
 
 protected:
-    /** Whoever derives from it is its model, once it has lines: setModel (this). */
+    /** Whoever derives from it is its model once it has lines, setModel (this), and until its own destructor, which
+        calls setModel (nullptr): both lay lines out, which ask it then.
+    */
     BrowserList (AssetScheme::Canvas& canvas, std::string element, const juce::String& title);
 
     virtual std::unique_ptr<BrowserRow> makeRow() = 0;

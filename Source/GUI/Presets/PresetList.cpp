@@ -15,6 +15,11 @@ PresetList::PresetList (PresetActions& actionsToUse, PresetPreviews& previewsToS
     setModel (this);
 }
 
+PresetList::~PresetList()
+{
+    setModel (nullptr);
+}
+
 void PresetList::schemeChanged()
 {
     style = std::make_unique<PresetRowStyle> (getCanvas(), actions.getKind());

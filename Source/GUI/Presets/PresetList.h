@@ -17,6 +17,7 @@ class PresetList : public BrowserList, private PresetRowOwner
 {
 public:
     PresetList (PresetActions& actionsToUse, PresetPreviews& previewsToShow);
+    ~PresetList() override;
 
     /** The places of what is listed in a catalogue, which stays as it is until the next call. The hint stands there
         when nothing is listed.

@@ -147,6 +147,11 @@ WavetableList::WavetableList (AssetScheme::Canvas& canvas, Callbacks callbacksTo
     setModel (this);
 }
 
+WavetableList::~WavetableList()
+{
+    setModel (nullptr);
+}
+
 void WavetableList::schemeChanged()
 {
     const auto& canvas = getCanvas();

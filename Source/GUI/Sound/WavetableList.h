@@ -32,6 +32,7 @@ public:
     };
 
     WavetableList (AssetScheme::Canvas& canvas, Callbacks callbacksToUse);
+    ~WavetableList() override;
 
     /** The hint stands there when nothing is listed. */
     void show (std::vector<int> newTables, const juce::String& newHint);
