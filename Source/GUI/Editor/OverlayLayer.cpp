@@ -250,6 +250,8 @@ void OverlayLayer::enterValue (juce::Component& over,
     ValueEntry::Asked asked { .text = text,
                               .accept = std::move (accept),
                               .finished = [this, nextFunc = std::move (next)] (ValueEntry::End end) {
+                                  const auto byKey = entry != nullptr && entry->hasKeyboardFocus (true);
+                                  keysInUse = keysInUse || byKey;
                                   closeEntry (end, nextFunc);
                               } };
 
@@ -271,13 +273,8 @@ void OverlayLayer::closeEntry (ValueEntry::End end, const CallbackFunc& next)
     closedEntry = std::move (entry);
     removeChildComponent (closedEntry.get());
 
-    if (hadFocus) // a key has closed it
-    {
-        keysInUse = true;
-
-        if (control != nullptr)
-            control->grabKeyboardFocus();
-    }
+    if (hadFocus && control != nullptr)
+        control->grabKeyboardFocus();
 
     if (end == ValueEntry::End::keptForNext && nextFunc != nullptr)
         nextFunc();

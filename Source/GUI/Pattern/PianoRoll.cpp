@@ -61,7 +61,7 @@ void PianoRoll::focusGained (FocusChangeType cause)
 {
     if (FocusRing::isShownFor (cause, context.editor))
     {
-        setKeysInUse (true);
+        context.editor.keysInUse = true;
         focusShown();
     }
 
@@ -70,15 +70,15 @@ void PianoRoll::focusGained (FocusChangeType cause)
 
 void PianoRoll::setKeysInUse (bool areInUse)
 {
-    if (std::exchange (keysInUse, areInUse) != areInUse)
-        refresh();
+    context.editor.keysInUse = areInUse;
+    refresh();
 }
 
 juce::Rectangle<int> PianoRoll::boundsOfCursor() const
 {
     const auto& cell = context.pattern.cellCursor.get();
 
-    if (! cell || ! keysInUse || ! context.pattern.getDrawing().selection.isEmpty())
+    if (! cell || ! showsFocus() || ! context.pattern.getDrawing().selection.isEmpty())
         return {};
 
     const auto& geometry = context.view.get();
@@ -212,9 +212,7 @@ void PianoRoll::addNotes (std::vector<NoteLook>& looks) const
     const auto& drawing = context.pattern.getDrawing();
     const auto seen = getLocalBounds().toFloat().expanded (context.editor.canvas.pixelsOf ("LaneHandle"));
     const auto sounds = ! isElsewhere();
-    const auto focused = keysInUse && drawing.selection.size() == 1 && hasKeyboardFocus (false)
-                             ? drawing.selection.first()
-                             : -1;
+    const auto focused = showsFocus() && drawing.selection.size() == 1 ? drawing.selection.first() : -1;
 
     for (auto index = 0; index < drawing.numNotes(); ++index)
     {

@@ -61,6 +61,7 @@ public:
 private:
     void refresh();
     void setKeysInUse (bool areInUse);
+    bool showsFocus() const { return context.editor.keysInUse && hasKeyboardFocus (false); }
     void followCell();
     juce::Rectangle<int> boundsOfCursor() const;
     GridLook gridLook() const;
@@ -80,7 +81,6 @@ private:
     NoteCells cells;
     juce::Font font;
     juce::Rectangle<int> paintedLasso, paintedCursor;
-    bool keysInUse = false; // after the mouse they show no focus
     bool isEmpty = false;
 
     std::optional<PlayPlace> place;
