@@ -39,7 +39,6 @@ LearnMode::LearnMode (EditorContext& contextToUse, juce::Component& pageToMark)
 {
     pulses.setActive (false);
     setTitle ("MIDI learn");
-    setWantsKeyboardFocus (true);
     setFocusContainerType (FocusContainerType::keyboardFocusContainer);
     addAndMakeVisible (bar);
     addAndMakeVisible (panel);

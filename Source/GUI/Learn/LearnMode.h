@@ -10,8 +10,8 @@
 namespace Zn::GUI
 {
 /** Lies over the page while keys and the pedal are learned: dims all but what can be learned, which shows by itself what
-    is learned for it, and takes the clicks. Click: the next message is for this; again: no longer. Right-click: forgets it. After a slot the
-    next one that has no key waits for one.
+    is learned for it, and takes the clicks. Click: the next message is for this; again: no longer. Right-click:
+    forgets it. After a slot the next one that has no key waits for one. Tab stays inside.
 
     Only there while Learning is active. Thread: message.
 */

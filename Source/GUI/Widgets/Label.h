@@ -6,7 +6,9 @@
 
 namespace Zn::GUI
 {
-/** A line of text, which lets the pointer through unless a double-click on it does something. Screen readers have it as the name of its control. Thread: message. */
+/** A line of text, which lets the pointer through unless a double-click on it does something. Screen readers have it as
+    the name of its control. Thread: message.
+*/
 class Label : public AssetScheme::Element<>, public ShortensLabel
 {
 public:

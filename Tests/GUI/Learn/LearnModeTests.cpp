@@ -1,4 +1,5 @@
 #include "GUI/Learn/LearnMode.h"
+#include "GUI/Support/HiddenWindow.h"
 #include "GUI/Support/OpenEditor.h"
 
 #include <gtest/gtest.h>
@@ -125,6 +126,25 @@ TEST_F (LearnModeOfEditor, ClosesThePopupThatWouldLieAbove)
     Tests::Hand::press (editor.page, "ctrl + L");
     EXPECT_TRUE (mode.isVisible());
     EXPECT_EQ (overlay.getPopup(), nullptr);
+}
+
+TEST_F (LearnModeOfEditor, KeepsTabFromWhatIsDimmed)
+{
+    editorMap.bind ({ Target::forSlot (0), 24 });
+    learning.setActive (false);
+    Tests::HiddenWindow window { editor.page };
+    learning.setActive (true);
+
+    for (const auto* key :
+         { "tab", "tab", "tab", "shift + tab", "shift + tab", "shift + tab", "shift + tab" })
+    {
+        window.press (key);
+        EXPECT_TRUE (mode.hasKeyboardFocus (true)) << key << ": " << window.focused();
+    }
+
+    mode.grabKeyboardFocus(); // as a click in it does
+    window.press ("shift + tab");
+    EXPECT_TRUE (mode.hasKeyboardFocus (true)) << window.focused();
 }
 
 TEST_F (LearnModeOfEditor, ForgetsAllInOneStep)
