@@ -42,7 +42,8 @@ OscillatorCard::OscillatorCard (EditorContext& contextToUse, int index, Callback
     , title (enable, std::move (callbacks.dragged), std::move (callbacks.dropped))
 {
     setPower (enable, [&enabled = paramsOf (contextToUse, index).enable] { return enabled.get(); });
-    add ({ &enable, &unison, &wave, &type, &octave, &tune, &volume, &title });
+    add ({ &enable, &unison, &wave, &type, &octave, &tune, &volume });
+    enable.addAndMakeVisible (title);
 }
 
 void OscillatorCard::setDropTarget (bool shouldBeDropTarget)
@@ -62,7 +63,7 @@ void OscillatorCard::schemeChanged()
     fitLabels ({ &octave, &tune, &volume });
 
     // The sign itself stays the button's; its words, which flip it too, can be dragged.
-    auto words = context.canvas.boundsIn (this, name + "Enable");
+    auto words = enable.getLocalBounds();
     words.removeFromLeft (
         juce::roundToInt (context.canvas.pixelsOf ("IconSize") + context.canvas.pixelsOf ("CaptionGap")));
     title.setBounds (words);

@@ -143,6 +143,8 @@ void Toggle::paintButton (juce::Graphics& g)
 
     if (options.look == Look::button)
         paintField (g, area(), surface (on ? fill : "Control"));
+    else
+        paintHover (g);
 
     const auto* off = options.look == Look::power ? "TextQuiet" : "TextSecondary";
     const auto* text = on ? "Text" : off;
