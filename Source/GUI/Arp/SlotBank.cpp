@@ -2,7 +2,6 @@
 
 #include "GUI/Arp/SlotMenu.h"
 #include "GUI/Framework/AssetScheme/Base.h"
-#include "GUI/Widgets/NoEntryPointer.h"
 #include "GUI/Widgets/ValueKeys.h"
 
 #include <algorithm>
@@ -108,10 +107,7 @@ juce::MouseCursor SlotBank::pointerOver (juce::Point<int> inBank)
     if (dragged->over || dragged->hasLeft || own->getBounds().contains (inBank))
         return juce::MouseCursor::DraggingHandCursor;
 
-    if (noEntry == juce::MouseCursor())
-        noEntry = makeNoEntryPointer();
-
-    return noEntry;
+    return noEntry.get();
 }
 
 void SlotBank::tileReleased (SlotTile& tile, const juce::MouseEvent& event)

@@ -3,6 +3,7 @@
 #include "GUI/Arp/SlotTile.h"
 #include "GUI/Pattern/SlotEdits.h"
 #include "GUI/Widgets/GroupHandler.h"
+#include "GUI/Widgets/NoEntryPointer.h"
 #include "GUI/Widgets/SlotExport.h"
 
 #include <array>
@@ -62,8 +63,8 @@ private:
     std::array<double, Sequencer::numSlots> lastPositions {};   // quarter notes in each pattern
     std::array<juce::uint32, Sequencer::numSlots> flashEnds {}; // milliseconds, 0 none
     std::optional<Drag> dragged;
-    juce::MouseCursor noEntry; // made when it is needed first
-    int lastHeard, announced;  // of those that were heard
+    NoEntryPointer noEntry;
+    int lastHeard, announced; // of those that were heard
 
     Events::Listener polls, patterns, undone;
     Events::UpdateTimer pulses; // while a pattern waits

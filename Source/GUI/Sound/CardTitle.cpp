@@ -6,7 +6,6 @@ CardTitle::CardTitle (Toggle& buttonToFlip, Dragged draggedToUse, Dropped droppe
     : button (buttonToFlip), dragged (std::move (draggedToUse)), dropped (std::move (droppedToUse))
 {
     setAccessible (false);
-    setMouseCursor (juce::MouseCursor::PointingHandCursor);
 }
 
 TooltipText CardTitle::getTooltipText() const
@@ -18,51 +17,34 @@ TooltipText CardTitle::getTooltipText() const
 
 void CardTitle::mouseDown (const juce::MouseEvent& event)
 {
-    isPressed = ! event.mods.isPopupMenu();
+    gesture.press (event);
 
-    if (! isPressed)
+    if (event.mods.isPopupMenu())
         button.showMenu();
 }
 
 void CardTitle::mouseDrag (const juce::MouseEvent& event)
 {
-    if (! isPressed || ! event.mouseWasDraggedSinceMouseDown())
-        return;
-
-    if (! focus)
-        focus.emplace (*this);
-
-    setMouseCursor (juce::MouseCursor::CopyingCursor);
-    dragged (event.getScreenPosition());
+    if (gesture.move (event))
+        gesture.showWhetherItDrops (dragged (event.getScreenPosition()));
 }
 
 void CardTitle::mouseUp (const juce::MouseEvent& event)
 {
-    if (! isPressed)
-        return;
+    const auto end = gesture.release (event);
 
-    endDrag();
-
-    if (event.mouseWasDraggedSinceMouseDown())
+    if (end == CarryGesture::End::drop)
         dropped (event.getScreenPosition(), event.mods.isAltDown());
-    else
+    else if (end == CarryGesture::End::click)
         button.setOn (! button.isOn());
 }
 
 bool CardTitle::keyPressed (const juce::KeyPress& key)
 {
-    if (! focus || key != juce::KeyPress (juce::KeyPress::escapeKey))
+    if (! gesture.giveUp (key))
         return false;
 
-    endDrag();
     dragged ({});
     return true;
-}
-
-void CardTitle::endDrag()
-{
-    isPressed = false;
-    setMouseCursor (juce::MouseCursor::PointingHandCursor);
-    focus.reset();
 }
 } // namespace Zn::GUI

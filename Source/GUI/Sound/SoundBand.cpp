@@ -52,11 +52,11 @@ SoundBand::SoundBand (EditorContext& contextToUse)
 OscillatorCard::Callbacks SoundBand::callbacksOf (std::size_t oscillator)
 {
     return { .unisonClicked = [this] { unison.focusVoices(); },
-             .dragged = [this,
-                         oscillator] (auto onScreen) { showDropTarget (&oscillators[oscillator], onScreen); },
+             .dragged = [this, oscillator] (
+                            auto onScreen) { return showDropTarget (&oscillators[oscillator], onScreen); },
              .dropped = [this, oscillator] (auto onScreen,
                                             bool swaps) { drop (oscillator, onScreen, swaps); },
-             .table = { .dragged = [this] (auto onScreen) { showDropTarget (nullptr, onScreen); },
+             .table = { .dragged = [this] (auto onScreen) { return showDropTarget (nullptr, onScreen); },
                         .dropped = [this] (int table, auto onScreen) { dropTable (table, onScreen); } } };
 }
 
@@ -69,23 +69,20 @@ OscillatorCard* SoundBand::cardAt (juce::Point<int> onScreen)
     return nullptr;
 }
 
-void SoundBand::showDropTarget (const OscillatorCard* from, std::optional<juce::Point<int>> onScreen)
+bool SoundBand::showDropTarget (const OscillatorCard* from, std::optional<juce::Point<int>> onScreen)
 {
-    const auto* target = onScreen ? cardAt (*onScreen) : nullptr;
+    const auto* const under = onScreen ? cardAt (*onScreen) : nullptr;
+    const auto* const target = under != from ? under : nullptr;
 
     for (auto& card : oscillators)
-        card.setDropTarget (&card == target && &card != from);
-}
+        card.setDropTarget (&card == target);
 
-void SoundBand::showNoDropTarget()
-{
-    for (auto& card : oscillators)
-        card.setDropTarget (false);
+    return target != nullptr;
 }
 
 void SoundBand::dropTable (int table, juce::Point<int> onScreen)
 {
-    showNoDropTarget();
+    showDropTarget (nullptr, {});
 
     if (auto* const target = cardAt (onScreen))
         target->setTable (table);
@@ -93,7 +90,7 @@ void SoundBand::dropTable (int table, juce::Point<int> onScreen)
 
 void SoundBand::drop (std::size_t from, juce::Point<int> onScreen, bool swaps)
 {
-    showNoDropTarget();
+    showDropTarget (nullptr, {});
 
     const auto* target = cardAt (onScreen);
 

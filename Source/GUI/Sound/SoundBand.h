@@ -34,10 +34,12 @@ public:
 
 private:
     OscillatorCard::Callbacks callbacksOf (std::size_t oscillator);
-    void showDropTarget (const OscillatorCard* from, std::optional<juce::Point<int>> onScreen);
+
+    /** Whether one of them would be another by a drop there; none: marks none. */
+    bool showDropTarget (const OscillatorCard* from, std::optional<juce::Point<int>> onScreen);
+
     void drop (std::size_t from, juce::Point<int> onScreen, bool swaps);
     void dropTable (int table, juce::Point<int> onScreen);
-    void showNoDropTarget();
     OscillatorCard* cardAt (juce::Point<int> onScreen);
     void poll();
 

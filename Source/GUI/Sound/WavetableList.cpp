@@ -1,6 +1,7 @@
 #include "GUI/Sound/WavetableList.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Sound/CarryGesture.h"
 #include "GUI/Sound/Picture.h"
 #include "GUI/Sound/WaveShape.h"
 #include "GUI/Widgets/TextLine.h"
@@ -15,46 +16,24 @@ namespace
 {
 using Audio::WavetableSynth::SampleList;
 
-constexpr BrowserColours colours { .accent = "Sound", .wash = "SoundDeep" };
-
 juce::Colour colour (std::string_view name)
 {
     return AssetScheme::Base::get().colourOf (name);
 }
 } // namespace
 
-std::vector<NamedTable> NamedTable::all()
-{
-    constexpr auto separator = " - ";
-    std::vector<NamedTable> result;
-
-    for (const auto& name : SampleList::get().getNames())
-        if (name.contains (separator))
-            result.push_back ({ .name = name.fromFirstOccurrenceOf (separator, false, false),
-                                .category = name.upToFirstOccurrenceOf (separator, false, false) });
-        else
-            result.push_back ({ .name = name, .category = "Others" });
-
-    return result;
-}
-
-//======================================================================================================================
 class WavetableList::Row : public BrowserRow
 {
 public:
-    explicit Row (WavetableList& listToAsk) : list (listToAsk)
-    {
-        setMouseCursor (juce::MouseCursor::PointingHandCursor);
-    }
+    explicit Row (WavetableList& listToAsk) : list (listToAsk) {}
 
     TooltipText getTooltipText() const override
     {
         if (table < 0)
             return {};
 
-        const auto& named = list.names[static_cast<std::size_t> (table)];
-        return { .title = named.name,
-                 .value = named.category,
+        return { .title = list.named (table).name,
+                 .value = list.named (table).category,
                  .help = "Drag it onto any oscillator to set it there.",
                  .shortcut = {} };
     }
@@ -67,7 +46,6 @@ public:
             return;
 
         const auto& style = list.style;
-        const auto& named = list.names[static_cast<std::size_t> (table)];
         const auto isCurrent = table == list.current;
         const auto line = style.text.withRight (static_cast<float> (getWidth()) - style.row.getWidth()
                                                 + style.text.getRight());
@@ -78,33 +56,42 @@ public:
         g.strokePath (wave, juce::PathStrokeType (style.stroke, juce::PathStrokeType::curved));
 
         paintTextLine (g,
-                       named.name,
+                       list.named (table).name,
                        isCurrent ? style.currentName : style.name,
                        line,
                        juce::Justification::centredLeft,
                        colour ("Text"));
     }
 
+    void mouseDown (const juce::MouseEvent& event) override
+    {
+        if (carried = table; carried >= 0)
+            gesture.press (event);
+    }
+
     void mouseDrag (const juce::MouseEvent& event) override
     {
-        if (table < 0 || event.mods.isPopupMenu() || ! event.mouseWasDraggedSinceMouseDown())
-            return;
-
-        setMouseCursor (juce::MouseCursor::CopyingCursor);
-        list.callbacks.dragged (table, event.getScreenPosition());
+        if (gesture.move (event))
+            gesture.showWhetherItDrops (list.callbacks.dragged (carried, event.getScreenPosition()));
     }
 
     void mouseUp (const juce::MouseEvent& event) override
     {
-        setMouseCursor (juce::MouseCursor::PointingHandCursor);
+        const auto end = gesture.release (event);
 
-        if (table < 0 || event.mods.isPopupMenu())
-            return;
-
-        if (event.mouseWasDraggedSinceMouseDown())
-            list.callbacks.dropped (table, event.getScreenPosition());
-        else
+        if (end == CarryGesture::End::drop)
+            list.callbacks.dropped (carried, event.getScreenPosition());
+        else if (end == CarryGesture::End::click)
             list.selectRow (getRow());
+    }
+
+    bool keyPressed (const juce::KeyPress& key) override
+    {
+        if (! gesture.giveUp (key))
+            return false;
+
+        list.callbacks.notDropped();
+        return true;
     }
 
     void mouseDoubleClick (const juce::MouseEvent&) override { list.activate(); }
@@ -136,13 +123,18 @@ private:
     }
 
     WavetableList& list;
-    int table = -1;
+    int table = -1, carried = -1;
     juce::Path wave;
+    CarryGesture gesture { *this };
 };
 
 //======================================================================================================================
-WavetableList::WavetableList (AssetScheme::Canvas& canvas, Callbacks callbacksToUse)
-    : BrowserList (canvas, "WavetableList", "Wavetables"), callbacks (std::move (callbacksToUse))
+WavetableList::WavetableList (AssetScheme::Canvas& canvas,
+                              const NamedTables& namesToShow,
+                              Callbacks callbacksToUse)
+    : BrowserList (canvas, "WavetableList", "Wavetables")
+    , names (namesToShow)
+    , callbacks (std::move (callbacksToUse))
 {
     setModel (this);
 }
@@ -234,12 +226,7 @@ int WavetableList::tableAt (int row) const
 juce::String WavetableList::getNameForRow (int row)
 {
     const auto table = tableAt (row);
-
-    if (table < 0)
-        return {};
-
-    const auto& named = names[static_cast<std::size_t> (table)];
-    return named.name + ", " + named.category;
+    return table >= 0 ? named (table).name + ", " + named (table).category : juce::String();
 }
 
 std::unique_ptr<BrowserRow> WavetableList::makeRow()

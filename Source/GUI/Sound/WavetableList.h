@@ -9,13 +9,14 @@
 
 namespace Zn::GUI
 {
-/** Wavetables by the names that the editor shows, "Category - Name", in their order. Thread: message. */
+/** A wavetable by the names that the editor shows. */
 struct NamedTable
 {
-    juce::String name {}, category {};
-
-    static std::vector<NamedTable> all();
+    juce::String name, category;
 };
+
+/** All there are, in their order. */
+using NamedTables = std::vector<NamedTable>;
 
 /** Wavetables, a line each with one cycle and the name. A line that is marked by hand is heard; it can be dragged away.
     Thread: message.
@@ -28,10 +29,17 @@ public:
     {
         std::function<void (int table)> marked;
         CallbackFunc taken;
-        std::function<void (int table, juce::Point<int> onScreen)> dragged, dropped;
+        std::function<bool (int table, juce::Point<int> onScreen)>
+            dragged; // whether a drop would do anything
+        std::function<void (int table, juce::Point<int> onScreen)> dropped;
+        CallbackFunc notDropped; // after all
     };
 
-    WavetableList (AssetScheme::Canvas& canvas, Callbacks callbacksToUse);
+    /** What is chosen is what is heard. */
+    static constexpr BrowserColours colours { .accent = "Sound", .wash = "SoundDeep" };
+
+    /** The names outlive it. */
+    WavetableList (AssetScheme::Canvas& canvas, const NamedTables& namesToShow, Callbacks callbacksToUse);
     ~WavetableList() override;
 
     /** The hint stands there when nothing is listed. */
@@ -65,9 +73,10 @@ private:
     void markCurrent();
     void turn (const juce::MouseWheelDetails& wheel);
     int tableAt (int row) const; // -1 behind the end
+    const NamedTable& named (int table) const { return names[static_cast<std::size_t> (table)]; }
 
+    const NamedTables& names;
     const Callbacks callbacks;
-    const std::vector<NamedTable> names = NamedTable::all();
     std::vector<int> tables;
     int current = -1;
     bool marksItself = false;

@@ -1,37 +1,46 @@
 #include "GUI/Sound/WavetablePopup.h"
 
 #include "GUI/Browser/SearchWords.h"
+#include "Synth/WavetableSynth/SampleList.h"
+#include "Synth/WavetableSynth/TableNames.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace Zn::GUI
 {
+namespace
+{
+NamedTables allTables()
+{
+    using namespace Audio::WavetableSynth;
+    NamedTables tables;
+
+    for (const auto& name : SampleList::get().getNames())
+        tables.push_back ({ .name = shortNameOf (name), .category = categoryOf (name) });
+
+    return tables;
+}
+} // namespace
+
 WavetablePopup::WavetablePopup (EditorContext& contextToUse,
                                 std::string cardElement,
                                 std::shared_ptr<Parameters::Parameter> tableToChoose,
                                 const juce::String& titleOfTable,
                                 Callbacks callbacksToUse)
-    : BrowserPopup (contextToUse, "Wavetable", titleOfTable, { .accent = "Sound", .wash = "SoundDeep" })
+    : BrowserPopup (contextToUse, "Wavetable", titleOfTable, WavetableList::colours)
     , card (std::move (cardElement))
     , parameter (std::move (tableToChoose))
     , stepName (titleOfTable)
     , callbacks (std::move (callbacksToUse))
+    , tables (allTables())
     , list (context.canvas,
+            tables,
             { .marked = [this] (int table) { hear (table); },
               .taken = [this] { take(); },
-              .dragged =
-                  [this] (int table, auto onScreen) {
-                      context.overlay.showReadout (stepName,
-                                                   tables[static_cast<std::size_t> (table)].name,
-                                                   onScreen);
-                      callbacks.dragged (onScreen);
-                  },
-              .dropped =
-                  [this] (int table, auto onScreen) {
-                      context.overlay.hideReadout();
-                      callbacks.dropped (table, onScreen);
-                  } })
+              .dragged = [this] (int table, auto onScreen) { return drag (table, onScreen); },
+              .dropped = [this] (int table, auto onScreen) { drop (table, onScreen); },
+              .notDropped = [this] { endDrag(); } })
     , departure (context.edits.aboutToTravel, [this] { edit.reset(); }) // what is heard is a step by then
     , pollListener (context.polls, [this] { poll(); })
 {
@@ -42,6 +51,11 @@ WavetablePopup::WavetablePopup (EditorContext& contextToUse,
     list.setCurrent (parameter->getInt());
     showGroups();
     showFound();
+}
+
+WavetablePopup::~WavetablePopup()
+{
+    endDrag();
 }
 
 /** Above the card, which shows what is chosen; the editor may have got another size. */
@@ -112,6 +126,29 @@ void WavetablePopup::take()
         list.moveSelection (1);
 
     keep();
+}
+
+bool WavetablePopup::drag (int table, juce::Point<int> onScreen)
+{
+    isDragging = true;
+    context.overlay.showReadout (stepName, tables[static_cast<std::size_t> (table)].name, onScreen);
+    return callbacks.dragged (onScreen);
+}
+
+void WavetablePopup::drop (int table, juce::Point<int> onScreen)
+{
+    endDrag();
+    edit.reset(); // what is heard is a step by itself
+    callbacks.dropped (table, onScreen);
+}
+
+void WavetablePopup::endDrag()
+{
+    if (! std::exchange (isDragging, false))
+        return;
+
+    context.overlay.hideReadout();
+    callbacks.dragged ({});
 }
 
 void WavetablePopup::keep()

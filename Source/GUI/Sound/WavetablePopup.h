@@ -17,7 +17,8 @@ public:
     /** What other parts do about a table that is dragged away. */
     struct Callbacks
     {
-        std::function<void (juce::Point<int> onScreen)> dragged;
+        /** None: no longer. Whether a drop there would do anything. */
+        std::function<bool (std::optional<juce::Point<int>> onScreen)> dragged;
         std::function<void (int table, juce::Point<int> onScreen)> dropped;
     };
 
@@ -27,6 +28,7 @@ public:
                     std::shared_ptr<Parameters::Parameter> tableToChoose,
                     const juce::String& titleOfTable,
                     Callbacks callbacksToUse);
+    ~WavetablePopup() override;
 
     /** For a press that goes on as a drag into the list: hears what is there. Whether anything is. */
     bool hearAt (juce::Point<int> onScreen) { return list.markAt (onScreen); }
@@ -45,15 +47,19 @@ private:
 
     void hear (int table);
     void take();
+    bool drag (int table, juce::Point<int> onScreen);
+    void drop (int table, juce::Point<int> onScreen);
+    void endDrag();
     void poll();
 
     const std::string card;
     const std::shared_ptr<Parameters::Parameter> parameter;
     const juce::String stepName;
     const Callbacks callbacks;
-    const std::vector<NamedTable> tables = NamedTable::all();
+    const NamedTables tables;
 
     std::optional<ParameterEdit> edit; // since something else was heard
+    bool isDragging = false;           // one of its tables
     juce::Rectangle<int> cardPlace;
     WavetableList list;
 

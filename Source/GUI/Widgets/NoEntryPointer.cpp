@@ -4,7 +4,9 @@
 
 namespace Zn::GUI
 {
-juce::MouseCursor makeNoEntryPointer()
+namespace
+{
+juce::MouseCursor makePointer()
 {
     constexpr auto size = 20; // pixels, as other pointers
     constexpr auto stroke = 2.5f, edge = 1.5f;
@@ -25,5 +27,14 @@ juce::MouseCursor makeNoEntryPointer()
     g.setColour (scheme.colourOf ("Danger"));
     g.strokePath (sign, juce::PathStrokeType (stroke));
     return { image, size / 2, size / 2 };
+}
+} // namespace
+
+const juce::MouseCursor& NoEntryPointer::get()
+{
+    if (pointer == juce::MouseCursor())
+        pointer = makePointer();
+
+    return pointer;
 }
 } // namespace Zn::GUI

@@ -4,6 +4,13 @@
 
 namespace Zn::GUI
 {
-/** For a drag over what takes no drop. Thread: message. */
-juce::MouseCursor makeNoEntryPointer();
+/** For a drag over what takes no drop; made when it is needed first. Thread: message. */
+class NoEntryPointer
+{
+public:
+    const juce::MouseCursor& get();
+
+private:
+    juce::MouseCursor pointer;
+};
 } // namespace Zn::GUI

@@ -18,13 +18,18 @@ juce::String displayNameOf (const juce::String& fileName)
     const auto withCategory = name.contains (separator) ? name : "User" + separator + name;
 
     // A parameter's text has an end, and a name that does not fit would not be found again.
-    const auto category = withCategory.upToFirstOccurrenceOf (separator, true, false);
-    return category + shortNameOf (withCategory).substring (0, Parameters::maxTextLength).trim();
+    return categoryOf (withCategory) + separator
+           + shortNameOf (withCategory).substring (0, Parameters::maxTextLength).trim();
 }
 
 juce::String shortNameOf (const juce::String& displayName)
 {
     return displayName.fromFirstOccurrenceOf (separator, false, false);
+}
+
+juce::String categoryOf (const juce::String& displayName)
+{
+    return displayName.upToFirstOccurrenceOf (separator, false, false);
 }
 
 const juce::StringArray& factoryTableNames()

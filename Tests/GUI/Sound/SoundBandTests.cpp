@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <optional>
@@ -82,6 +83,14 @@ struct SoundPictures : KeepsTables
 
 struct SoundBandTest : KeepsTables
 {};
+
+bool showsReadout (Tests::OpenEditor& editor)
+{
+    auto& overlay = dynamic_cast<OverlayLayer&> (editor.page.getContext().overlay);
+    return std::ranges::any_of (overlay.getChildren(), [] (const auto* child) {
+        return child->isVisible() && dynamic_cast<const ReadoutCard*> (child) != nullptr;
+    });
+}
 
 float opacityOf (Tests::OpenEditor& editor, const juce::String& element)
 {
@@ -233,6 +242,9 @@ TEST_F (SoundBandTest, CopiesAndSwapsOscillatorsByTheirTitles)
     const auto event = Tests::Hand::mouseEvent (title, over, {}, Tests::Hand::leftButton, 1, true);
     title.mouseDown (event);
     title.mouseDrag (event);
+    EXPECT_EQ (title.getMouseCursor(), juce::MouseCursor::CopyingCursor);
+    title.mouseDrag (Tests::Hand::mouseEvent (title, {}, {}, Tests::Hand::leftButton, 1, true));
+    EXPECT_NE (title.getMouseCursor(), juce::MouseCursor::CopyingCursor) << "its own card";
     EXPECT_TRUE (Tests::Hand::press (title, "escape"));
     title.mouseUp (event);
     EXPECT_EQ (third.tune.get(), 7);
@@ -343,17 +355,39 @@ TEST_F (SoundBandTest, FindsTablesByWords)
 TEST_F (SoundBandTest, SetsATableWhereItsLineIsDropped)
 {
     Tests::OpenEditor editor;
+    startWithRoom (editor);
+    auto& context = editor.page.getContext();
     auto& oscillators = soundOf (editor).synth.oscillators.oscillators;
     const auto before = oscillators[0].type->getIndex();
     Tests::Hand::click (editor.find ("Osc1Type"));
 
     auto& line = *editor.find<WavetableList> ("WavetableList").getComponentForRowNumber (before + 1);
-    const auto from = line.getLocalBounds().getCentre();
-    const auto onto = line.getLocalPoint (&editor.find ("Osc3"), juce::Point<int> (10, 40));
-    Tests::Hand::drag (line, { from.toFloat(), onto.toFloat() });
+    const auto onto = line.getLocalPoint (&editor.find ("Osc3"), Point { 10, 40 });
+    const auto over = Tests::Hand::mouseEvent (line, onto, {}, Tests::Hand::leftButton, 1, true);
 
+    line.mouseDown (over);
+    line.mouseDrag (over);
+    EXPECT_TRUE (showsReadout (editor));
+    EXPECT_TRUE (Tests::Hand::press (line, "escape"));
+    EXPECT_FALSE (showsReadout (editor));
+    EXPECT_NE (context.overlay.getPopup(), nullptr) << "Esc ends the drag alone";
+    line.mouseUp (over);
+    EXPECT_EQ (oscillators[2].type->getIndex(), before);
+
+    Tests::Hand::press (editor.find ("WavetableSearch"), "cursor down");
+    Tests::Hand::press (editor.find ("WavetableSearch"), "cursor down");
+    Tests::Hand::drag (line, { {}, onto });
+    EXPECT_EQ (oscillators[0].type->getIndex(), before + 2);
     EXPECT_EQ (oscillators[2].type->getIndex(), before + 1);
-    EXPECT_EQ (oscillators[0].type->getIndex(), before);
+    context.edits.undo();
+    EXPECT_EQ (oscillators[0].type->getIndex(), before + 2) << "another step";
+    EXPECT_EQ (oscillators[2].type->getIndex(), before);
+
+    line.mouseDown (over);
+    line.mouseDrag (over);
+    context.overlay.closePopup();
+    editor.poll();
+    EXPECT_FALSE (showsReadout (editor)) << "it goes with the list";
 }
 
 TEST_F (SoundBandTest, HasTheLevelWorkedOutOnlyWhileTheMeterCanBeSeen)
