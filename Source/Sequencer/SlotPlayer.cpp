@@ -20,9 +20,11 @@ bool fallsBack (double before, double after) noexcept
 }
 
 /** How far it is to where the song goes back. */
-std::size_t sizeUpToFall (std::span<const double> ppq) noexcept
+std::size_t sizeUpToFall (std::span<const double> ppq, double ppqPerSample) noexcept
 {
-    if (ppq.back() >= ppq.front()) // a loop lasts longer than a block
+    const auto evenly = ppqPerSample * static_cast<double> (ppq.size() - 1);
+
+    if (! fallsBack (evenly, ppq.back() - ppq.front()))
         return ppq.size();
 
     const auto fall = std::adjacent_find (ppq.begin(), ppq.end(), fallsBack);
@@ -65,7 +67,7 @@ void SlotPlayer::run (const ClockSlice& clock,
 
     for (auto rest = clock.ppq; ! rest.empty();)
     {
-        const auto pass = rest.first (sizeUpToFall (rest));
+        const auto pass = rest.first (sizeUpToFall (rest, clock.ppqPerSample));
         runPass (played, pass, arrival, output.from (clock.size() - static_cast<int> (rest.size())));
         rest = rest.subspan (pass.size());
 

@@ -57,6 +57,8 @@ TEST (HostClock, PlaysEveryPassOfALoopAlikeWhereverItWraps)
                              Row { 0.0, 4.0, 500, 1.0 },
                              Row { 0.0, 4.0, 95999, 1.0 },
                              Row { 0.0, 4.0, 10667, 1.0 },
+                             Row { 0.0, 1.0, 95999, 0.5 }, // all passes in one block
+                             Row { 4.0, 5.0, 50000, 1.0 },
                              Row { 4.0, 8.0, 777, 1.0 },
                              Row { 8.0, 16.0, 1000, 0.9 } })
     {
@@ -75,6 +77,59 @@ TEST (HostClock, PlaysEveryPassOfALoopAlikeWhereverItWraps)
 
         song.expectBalanced();
     }
+}
+
+TEST (HostClock, StrikesNothingTwiceWhenTheHostTellsOfALoopThatIsOver)
+{
+    // The tempo is another one behind the middle of the loop.
+    for (const auto tempo : { 150.0, 121.0, 100.0 })
+    {
+        Song song;
+        const auto half = 2.0 * quarter, rate = tempo / 120.0;
+        const auto length = half + half / rate;
+        song.host.playHead.edit = [&] (PositionInfo& position) {
+            const auto time = std::fmod (double (song.host.getPosition()), length);
+            const auto isFirstHalf = time < half;
+            position.setTimeInSamples (std::llround (time));
+            position.setBpm (isFirstHalf ? 120.0 : tempo);
+            position.setPpqPosition (isFirstHalf ? time / quarter : 2.0 + (time - half) * rate / quarter);
+            position.setIsLooping (true);
+            position.setLoopPoints (juce::AudioPlayHead::LoopPoints { 0.0, 4.0 });
+        };
+        song.host.run (std::llround (3.0 * length));
+
+        EXPECT_THAT (song.starts(), SizeIs (12)) << tempo;
+        song.expectBalanced();
+    }
+
+    // The host counts in ticks.
+    for (const auto ticks : { 480.0, 960.0 })
+        for (const auto blockSize : { 500, 511, 512 })
+        {
+            Song song { blockSize };
+            song.host.playHead.setTempo (133.7);
+            song.host.playHead.setLoop (0.0, 4.0);
+            song.host.playHead.edit = [ticks] (PositionInfo& position) {
+                position.setPpqPosition (std::round (*position.getPpqPosition() * ticks) / ticks);
+            };
+            song.host.run (std::llround (12.0 * quarter * 120.0 / 133.7));
+
+            EXPECT_THAT (song.starts(), SizeIs (12)) << ticks << " in blocks of " << blockSize;
+            song.expectBalanced();
+        }
+}
+
+TEST (HostClock, PlaysOnWhereTheSongStartsAtTheEndOfALoop)
+{
+    Song song;
+    song.host.playHead.jumpTo (3.0);
+    song.host.playHead.edit = [] (PositionInfo& position) {
+        position.setIsLooping (true);
+        position.setLoopPoints (juce::AudioPlayHead::LoopPoints { 0.0, 3.0 });
+    };
+    song.host.run (bar);
+    EXPECT_THAT (song.starts(), ElementsAre (0, quarter, 2 * quarter, 3 * quarter));
+    song.expectBalanced();
 }
 
 TEST (HostClock, KeepsAPatternThatItsSwitchStartsAtTheEndOfALoop)

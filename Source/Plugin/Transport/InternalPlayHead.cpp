@@ -34,6 +34,9 @@ constexpr std::int64_t jitterSamples = 30;
 constexpr auto longestTick = 1.0 / 960.0;
 constexpr auto shortestRounding = 1.0e-6;
 
+// Of the host's; what is shorter is no music. Quarter notes.
+constexpr auto shortestLoop = 0.1;
+
 // Beyond these a double no longer tells neighbouring samples apart.
 constexpr auto farthestPpq = 1.0e12;
 constexpr std::int64_t farthestSample = std::int64_t { 1 } << 52;
@@ -151,18 +154,22 @@ void InternalPlayHead::update (juce::AudioPlayHead* host, int numSamples) noexce
 
     stateChanged = wasPlaying != playing;
     jumped = isForced || isAwayFrom (expectedSample);
-    songJumped = isForced || (jumped && ! (loopsInside && ! isAwayFrom (expectedSample - loopLength)));
+    songJumped = isForced || (jumped && ! hasFallenBack());
     wasPlaying = playing;
     startPpq = endPpq = info.getPpqPosition().orFallback (0.0);
     expectedSample = playing ? time + n : time;
 
     ppqBySample.resize (static_cast<std::size_t> (n));
+    songPpq.resize (static_cast<std::size_t> (n));
     loopsInside = false;
 
     if (playing)
         fillPlaying (n);
     else
-        std::fill (ppqBySample.begin(), ppqBySample.end(), startPpq);
+    {
+        std::ranges::fill (ppqBySample, startPpq);
+        std::ranges::fill (songPpq, startPpq);
+    }
 }
 
 /** Takes over the host's position, and works out what it does not tell from where the last block ended. */
@@ -193,9 +200,30 @@ void InternalPlayHead::follow (const PositionInfo& host) noexcept
         info.setPpqPosition (std::clamp (expectedPpq + moved, -farthestPpq, farthestPpq));
     }
 
+    if (! hasPpq || ! wasPlaying || ! isPlaying() || tempo != lastTempo)
+        return;
+
     // Followed to the letter, ticks make a step that starts at a block's edge start twice, or never.
-    if (hasPpq && wasPlaying && isPlaying() && time == expectedSample && tempo == lastTempo)
+    if (time == expectedSample)
         info.setPpqPosition (unrounded (*ppq, expectedPpq));
+    else if (loopsInside && std::abs (getTimeInSamples() - (expectedSample - loopLength)) <= 1)
+        info.setPpqPosition (unrounded (*ppq, songEnd));
+}
+
+/** Whether the host only tells of the loop that the song has followed inside the last block. Where the tempo differs
+    between the loop's ends, it has gone on from there by another way than we.
+*/
+bool InternalPlayHead::hasFallenBack() const noexcept
+{
+    if (! loopsInside)
+        return false;
+
+    const auto ppq = info.getPpqPosition().orFallback (0.0);
+    const auto rates = std::max (ppqPerSample, lastRate);
+    const auto aside = std::abs (ppqPerSample - lastRate) * static_cast<double> (samplesSinceLoop);
+    const auto isAtSongEnd = std::abs (ppq - songEnd) < rates * jitterSamples + aside;
+
+    return isAtSongEnd || ! isAwayFrom (expectedSample - loopLength);
 }
 
 bool InternalPlayHead::isAwayFrom (std::int64_t expected) const noexcept
@@ -224,22 +252,29 @@ void InternalPlayHead::fillPlaying (int numSamples) noexcept
     info.setPpqPosition (endPpq);
 }
 
-/** Where a loop is so short that it would wrap more than once, the song is left as the host tells it. */
+/** A song that starts at the loop's end, or beyond, goes on from there. */
 void InternalPlayHead::fillSong() noexcept
 {
+    std::ranges::copy (ppqBySample, songPpq.begin());
+
     const auto length = loop.ppqEnd - loop.ppqStart;
     const auto isInside = startPpq >= loop.ppqStart && startPpq < loop.ppqEnd;
 
-    if (ppqBySample.empty() || ! isInside || ppqBySample.back() < loop.ppqEnd
-        || ppqBySample.back() - startPpq >= length)
+    if (songPpq.empty() || ! isInside || songPpq.back() < loop.ppqEnd || length < shortestLoop)
         return;
 
+    const auto inLoop = [&] (double ppq) { return loop.ppqStart + std::fmod (ppq - loop.ppqStart, length); };
+
+    for (auto& ppq : songPpq)
+        if (ppq >= loop.ppqEnd)
+            ppq = rounded (inLoop (ppq));
+
+    const auto end = startPpq + static_cast<double> (songPpq.size()) * ppqPerSample;
     loopsInside = true;
-    loopLength = nearestSample (length / ppqPerSample);
-    songPpq.resize (ppqBySample.size());
-    std::ranges::transform (ppqBySample, songPpq.begin(), [&] (double ppq) {
-        return ppq < loop.ppqEnd ? ppq : rounded (ppq - length);
-    });
+    songEnd = inLoop (end);
+    loopLength = nearestSample ((end - songEnd) / ppqPerSample);
+    samplesSinceLoop = nearestSample ((songEnd - loop.ppqStart) / ppqPerSample);
+    lastRate = ppqPerSample;
 }
 
 /** Only the loop's own range is wrapped, which moves its very end: a position the host puts beyond it stays.

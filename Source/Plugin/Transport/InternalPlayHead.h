@@ -58,7 +58,7 @@ public:
     /** The same as the song goes on behind the end of the host's loop: at the loop's start. A host that does not cut
         its blocks there tells of it with its next block only, which is no jump to who has gone on here.
     */
-    std::span<const double> getSongPpq() const noexcept { return loopsInside ? songPpq : ppqBySample; }
+    std::span<const double> getSongPpq() const noexcept { return songPpq; }
 
     /** Whether a clock can run at this tempo: finite, at least 1, and not beyond what any music has. */
     static bool isUsableTempo (double bpm) noexcept;
@@ -67,6 +67,7 @@ private:
     void follow (const PositionInfo& host) noexcept;
     void updateRate() noexcept;
     bool isAwayFrom (std::int64_t expected) const noexcept;
+    bool hasFallenBack() const noexcept;
     void fillPlaying (int numSamples) noexcept;
     void fillSong() noexcept;
     double wrapIntoLoop (double ppq) const noexcept;
@@ -81,9 +82,14 @@ private:
     std::int64_t expectedSample = 0;     // where the next block should start
     bool jumpForced = false;
     std::vector<double> ppqBySample; // quarter notes, one a sample of the block
-    std::vector<double> songPpq;     // the same, if the song wraps inside the block
-    bool loopsInside = false;
-    std::int64_t loopLength = 0; // samples, of the loop that the song wraps in
+    std::vector<double> songPpq;     // the same of the song
+
+    bool loopsInside = false;          // the song has wrapped inside the block, and then:
+    double songEnd = 0.0;              // quarter notes just past the last sample
+    std::int64_t loopLength = 0;       // samples that it has fallen back by, in all
+    std::int64_t samplesSinceLoop = 0; // from the loop's start to the block's end
+    double lastRate = 0.0;             // quarter notes a sample
+
     PositionInfo info;
     LoopPoints loop; // quarter notes; empty unless the host loops
 };
