@@ -221,6 +221,25 @@ TEST (HangingNotes, EndWithTheBypassAndWithItsEnd)
     EXPECT_THAT (startsOf (s.host, 60), testing::SizeIs (testing::AnyOf (4, 5))) << "it plays again";
 }
 
+TEST (HangingNotes, ThatPassedBypassedEndThoughTheHostStopsOrGivesNoSamples)
+{
+    SoundingStep s { false };
+    juce::AudioBuffer<float> nothing (2, 0);
+    s.host.isBypassed = true;
+    s.host.send (events ("on 72 ch5 @0, on 60 @0"));
+    s.host.run (quarter);
+    ASSERT_THAT (s.host.getSounding(), ElementsAre (60, 72));
+
+    auto lift = events ("off 72 ch5 @0");
+    s.processor.processBlockBypassed (nothing, lift);
+    s.host.run (480);
+    EXPECT_THAT (s.host.getSounding(), ElementsAre (60)) << "the lift of a block without samples";
+
+    s.processor.releaseResources();
+    s.host.run (480);
+    EXPECT_THAT (s.host.getSounding(), IsEmpty());
+}
+
 TEST (HangingNotes, AreNotBroughtBackByAHostThatStoppedAndLostTheLifts)
 {
     struct Row

@@ -132,6 +132,9 @@ public:
         connect (port, data);
     }
 
+    /** The host will not tell which keys are lifted meanwhile. */
+    void stop() { processor.releaseResources(); }
+
     /** Thread: audio. */
     void runBlock (std::uint32_t numSamples)
     {
@@ -231,6 +234,7 @@ LV2_Descriptor makeDescriptor()
     descriptor.connect_port = [] (LV2_Handle handle, std::uint32_t port, void* data) {
         instanceOf (handle).connectPort (port, data);
     };
+    descriptor.deactivate = [] (LV2_Handle handle) { instanceOf (handle).stop(); };
     descriptor.run = [] (LV2_Handle handle, std::uint32_t numSamples) {
         instanceOf (handle).runBlock (numSamples);
     };

@@ -7,6 +7,8 @@ namespace Zn::Audio::Plugins::Vornel
 {
 namespace
 {
+constexpr auto allChannels = 16; // what passes while bypassed keeps its own
+
 void append (juce::MidiBuffer& target, const juce::MidiBuffer& source, int sampleOffset) noexcept
 {
     Midi::EventWriter writer (target);
@@ -61,6 +63,9 @@ void MidiPipeline::process (juce::MidiBuffer& midi,
         Midi::EventWriter ends (midi), unheard (scratch);
         passed.end (ends, 0);
 
+        if (panics)
+            silenceInstruments (ends, allChannels);
+
         unheard.clear();
         midiProcessor.endHeardNotes (unheard);
     }
@@ -85,10 +90,9 @@ void MidiPipeline::processBypassed (juce::MidiBuffer& midi,
                                     const Sequencer::PatternFrame& patterns,
                                     const Midi::Learn::State& learn) noexcept
 {
-    takeInput (midi, clock.size());
-
     endBeforeBypassed();
-    passed.follow (midi);
+    append (output, carried, 0);
+    takeInput (midi, clock.size());
 
     if (! output.isEmpty())
     {
@@ -97,6 +101,7 @@ void MidiPipeline::processBypassed (juce::MidiBuffer& midi,
         append (midi, output, 0);
     }
 
+    passed.follow (midi);
     output.clear();
     letGo (clock, patterns);
     panics = false;
@@ -116,12 +121,13 @@ void MidiPipeline::endBeforeBypassed() noexcept
         Midi::flattenChannels (scratch, output); // they end where they have begun
     }
 
-    if (panics)
-    {
-        Midi::EventWriter ends (output);
+    Midi::EventWriter ends (output);
+
+    if (letsGo)
         passed.end (ends, 0);
-        silenceInstruments (ends, 16); // what passes keeps its channel
-    }
+
+    if (panics)
+        silenceInstruments (ends, allChannels);
 }
 
 void MidiPipeline::release() noexcept

@@ -45,7 +45,11 @@ protected:
     void release() override;
     void process (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept override;
     void processBypassed (juce::AudioBuffer<float>& audio, juce::MidiBuffer& hostMidi) noexcept override;
-    void keepForNextBlock (juce::MidiBuffer& hostMidi) noexcept override { midi.keepForNextBlock (hostMidi); }
+    void keepForNextBlock (juce::MidiBuffer& hostMidi) noexcept override
+    {
+        followPanic();
+        midi.keepForNextBlock (hostMidi);
+    }
     void hostStateLoaded() override;
 
 private:
