@@ -31,21 +31,15 @@ juce::LookAndFeel_V4::ColourScheme colourScheme()
 const juce::Identifier EditorLook::refused { "refused" };
 
 EditorLook::EditorLook (AssetScheme::Canvas& canvasToUse)
-    : canvas (canvasToUse)
-    , tick ("check.svg")
-    , more ("next.svg")
-    , up ("up.svg")
-    , down ("down.svg")
-    , listener (canvasToUse, [this] { update(); })
+    : MenuLook (canvasToUse), canvas (canvasToUse), listener (canvasToUse, [this] { update(); })
 {
     update();
 }
 
 void EditorLook::update()
 {
-    menuFont = canvas.fontOf ("FontBody");
+    font = canvas.fontOf ("FontBody");
     titleFont = canvas.fontOf ("FontTitle", AssetScheme::Cut::bold);
-    quietFont = canvas.fontOf ("FontSmall");
 
     setColourScheme (colourScheme());
 
@@ -64,175 +58,15 @@ void EditorLook::update()
     setColour (juce::HyperlinkButton::textColourId, colour ("Pattern"));
 }
 
-juce::Typeface::Ptr EditorLook::getTypefaceForFont (const juce::Font& font)
+juce::Typeface::Ptr EditorLook::getTypefaceForFont (const juce::Font& wanted)
 {
-    if (font.getTypefaceName() != juce::Font::getDefaultSansSerifFontName())
-        return LookAndFeel_V4::getTypefaceForFont (font);
+    if (wanted.getTypefaceName() != juce::Font::getDefaultSansSerifFontName())
+        return MenuLook::getTypefaceForFont (wanted);
 
-    const auto* const file = font.isBold() ? "Inter-Bold.otf" : "Inter-Regular.otf";
+    const auto* const file = wanted.isBold() ? "Inter-Bold.otf" : "Inter-Regular.otf";
     return Binaries::StaticFontMap::get().getTypeface (file);
 }
 
-//======================================================================================================================
-float EditorLook::menuItemInset() const
-{
-    return canvas.pixelsOf ("MenuItemInset");
-}
-
-int EditorLook::getPopupMenuBorderSize()
-{
-    return juce::roundToInt (canvas.pixelsOf ("MenuBorder"));
-}
-
-void EditorLook::getIdealPopupMenuItemSize (
-    const juce::String& text, bool isSeparator, int, int& idealWidth, int& idealHeight)
-{
-    constexpr auto separatorPart = 3; // of a line's height
-    idealHeight = juce::roundToInt (canvas.pixelsOf ("MenuItemHeight"));
-
-    auto width = 0;
-
-    for (const auto& line : juce::StringArray::fromLines (text))
-        width = std::max (width, menuFont.getStringWidth (line));
-
-    // a column in front for ticks and icons, one behind for the arrow of a menu in the menu
-    idealWidth = width + 2 * juce::roundToInt (menuItemInset()) + 2 * idealHeight;
-
-    if (isSeparator)
-        idealHeight /= separatorPart;
-}
-
-void EditorLook::drawPopupMenuBackground (juce::Graphics& g, int width, int height)
-{
-    paintCard (g, canvas, { width, height });
-}
-
-void EditorLook::drawPopupMenuBackgroundWithOptions (juce::Graphics& g,
-                                                     int width,
-                                                     int height,
-                                                     const juce::PopupMenu::Options& options)
-{
-    if (options.getParentComponent() == nullptr) // a window, which may not be able to have round corners
-        g.fillAll (colour ("Popup"));
-
-    drawPopupMenuBackground (g, width, height);
-}
-
-void EditorLook::drawPopupMenuItem (juce::Graphics& g,
-                                    const juce::Rectangle<int>& area,
-                                    bool isSeparator,
-                                    bool isActive,
-                                    bool isHighlighted,
-                                    bool isTicked,
-                                    bool hasSubMenu,
-                                    const juce::String& text,
-                                    const juce::String& shortcut,
-                                    const juce::Drawable* icon,
-                                    const juce::Colour* textColour)
-{
-    auto line = area.toFloat();
-
-    if (isSeparator)
-    {
-        const auto stroke = std::max (1.0f, canvas.pixelsOf ("HairlineStroke"));
-        g.setColour (colour ("ControlEdge"));
-        g.fillRect (line.reduced (menuItemInset(), 0.0f)
-                        .withSizeKeepingCentre (line.getWidth() - 2.0f * menuItemInset(), stroke));
-        return;
-    }
-
-    if (isHighlighted && isActive)
-    {
-        g.setColour (colour ("PopupHover"));
-        g.fillRoundedRectangle (line, canvas.cornerOf ("ControlCorner", line));
-    }
-
-    const auto usual = textColour != nullptr ? *textColour : colour ("Text");
-    const auto ink = isActive ? usual : colour ("TextDisabled");
-    const auto side = menuFont.getHeight();
-    const auto square = [side] (juce::Rectangle<float> place) {
-        return place.withSizeKeepingCentre (side, side);
-    };
-
-    line.reduce (menuItemInset(), 0.0f);
-
-    if (hasSubMenu)
-        more.paint (g, square (line.removeFromRight (side)), ink);
-
-    if (isTicked)
-        tick.paint (g, square (line.removeFromRight (side)), colour ("Pattern"));
-
-    if (icon != nullptr)
-    {
-        icon->drawWithin (g,
-                          square (line.removeFromLeft (side)),
-                          juce::RectanglePlacement::centred,
-                          isActive ? 1.0f : 0.5f);
-        line.removeFromLeft (menuItemInset() / 2.0f);
-    }
-
-    if (shortcut.isNotEmpty())
-    {
-        g.setColour (isActive ? colour ("TextSecondary") : ink);
-        g.setFont (quietFont);
-        g.drawText (shortcut, line, juce::Justification::centredRight, false);
-    }
-
-    g.setColour (ink);
-    g.setFont (menuFont);
-    g.drawText (text, line, juce::Justification::centredLeft, true);
-}
-
-void EditorLook::drawPopupMenuSectionHeader (juce::Graphics& g,
-                                             const juce::Rectangle<int>& area,
-                                             const juce::String& text)
-{
-    const auto inset = menuItemInset();
-    auto place = area.toFloat().reduced (inset, 0.0f);
-    const auto second = text.fromFirstOccurrenceOf ("\n", false, false);
-
-    const auto stroke = std::max (1.0f, canvas.pixelsOf ("HairlineStroke"));
-    const auto gap = inset / 2.0f;
-    g.setColour (colour ("ControlEdge"));
-    g.fillRect (area.toFloat().removeFromBottom (gap).withHeight (stroke));
-    place.removeFromBottom (gap);
-
-    if (second.isNotEmpty())
-    {
-        g.setColour (colour ("TextSecondary"));
-        g.setFont (quietFont);
-        g.drawText (second,
-                    place.removeFromBottom (quietFont.getHeight()),
-                    juce::Justification::centredLeft,
-                    true);
-    }
-
-    g.setColour (colour ("Text"));
-    g.setFont (titleFont);
-    g.drawText (text.upToFirstOccurrenceOf ("\n", false, false),
-                place,
-                juce::Justification::centredLeft,
-                true);
-}
-
-void EditorLook::drawPopupMenuUpDownArrow (juce::Graphics& g, int width, int height, bool isUp)
-{
-    const juce::Rectangle<int> area (width, height);
-    (isUp ? up : down).paint (g, area.toFloat(), colour ("TextSecondary"));
-}
-
-void EditorLook::preparePopupMenuWindow (juce::Component& window)
-{
-    std::erase_if (menuShadows, [] (const auto& shadow) { return ! shadow->isNeeded(); });
-
-    if (window.getParentComponent() == nullptr)
-        return;
-
-    window.setOpaque (false); // round corners, also where windows could have none
-    menuShadows.push_back (std::make_unique<CardShadow> (window, canvas));
-}
-
-//======================================================================================================================
 void EditorLook::paintField (juce::Graphics& g, juce::Rectangle<float> area, juce::Colour fill) const
 {
     g.setColour (fill);
@@ -295,7 +129,6 @@ void EditorLook::drawTextEditorOutline (juce::Graphics& g, int width, int height
     g.drawRoundedRectangle (area.reduced (stroke / 2.0f), fieldCornerOf (canvas, area), stroke);
 }
 
-//======================================================================================================================
 void EditorLook::drawScrollbar (juce::Graphics& g,
                                 juce::ScrollBar&,
                                 int x,

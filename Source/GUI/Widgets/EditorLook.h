@@ -1,54 +1,19 @@
 #pragma once
 
 #include "Foundation/Events/Listener.h"
-#include "GUI/Framework/SVGPainter.h"
-#include "GUI/Widgets/Card.h"
-
-#include <memory>
-#include <vector>
+#include "GUI/Widgets/MenuLook.h"
 
 namespace Zn::GUI
 {
 /** How the parts that JUCE brings look in our editor: menus, text fields, scroll bars, lists, the file browsers of
-    systems without one, and the dialogue for devices. Fonts and colours are those of the scheme.
-
-    The heading of a menu may have a second, quieter line. Thread: message.
+    systems without one, and the dialogue for devices. Fonts and colours are those of the scheme. Thread: message.
 */
-class EditorLook : public juce::LookAndFeel_V4
+class EditorLook : public MenuLook
 {
 public:
     explicit EditorLook (AssetScheme::Canvas& canvasToUse);
 
     juce::Typeface::Ptr getTypefaceForFont (const juce::Font& font) override;
-
-    juce::Font getPopupMenuFont() override { return menuFont; }
-    int getPopupMenuBorderSize() override;
-    void getIdealPopupMenuItemSize (const juce::String& text,
-                                    bool isSeparator,
-                                    int standardHeight,
-                                    int& idealWidth,
-                                    int& idealHeight) override;
-    void drawPopupMenuBackground (juce::Graphics& g, int width, int height) override;
-    void drawPopupMenuBackgroundWithOptions (juce::Graphics& g,
-                                             int width,
-                                             int height,
-                                             const juce::PopupMenu::Options& options) override;
-    void drawPopupMenuItem (juce::Graphics& g,
-                            const juce::Rectangle<int>& area,
-                            bool isSeparator,
-                            bool isActive,
-                            bool isHighlighted,
-                            bool isTicked,
-                            bool hasSubMenu,
-                            const juce::String& text,
-                            const juce::String& shortcut,
-                            const juce::Drawable* icon,
-                            const juce::Colour* textColour) override;
-    void drawPopupMenuSectionHeader (juce::Graphics& g,
-                                     const juce::Rectangle<int>& area,
-                                     const juce::String& text) override;
-    void drawPopupMenuUpDownArrow (juce::Graphics& g, int width, int height, bool isUp) override;
-    void preparePopupMenuWindow (juce::Component& window) override;
 
     void
     fillTextEditorBackground (juce::Graphics& g, int width, int height, juce::TextEditor& field) override;
@@ -92,12 +57,12 @@ public:
                         bool isDown) override;
     int getDefaultScrollbarWidth() override;
 
-    juce::Font getLabelFont (juce::Label&) override { return menuFont; }
-    juce::Font getTextButtonFont (juce::TextButton&, int) override { return menuFont; }
-    juce::Font getComboBoxFont (juce::ComboBox&) override { return menuFont; }
+    juce::Font getLabelFont (juce::Label&) override { return font; }
+    juce::Font getTextButtonFont (juce::TextButton&, int) override { return font; }
+    juce::Font getComboBoxFont (juce::ComboBox&) override { return font; }
     juce::Font getAlertWindowTitleFont() override { return titleFont; }
-    juce::Font getAlertWindowMessageFont() override { return menuFont; }
-    juce::Font getAlertWindowFont() override { return menuFont; }
+    juce::Font getAlertWindowMessageFont() override { return font; }
+    juce::Font getAlertWindowFont() override { return font; }
 
     /** The property of a text field that has not understood its text: its edge is red. */
     static const juce::Identifier refused;
@@ -105,12 +70,10 @@ public:
 private:
     void update();
     void paintField (juce::Graphics& g, juce::Rectangle<float> area, juce::Colour fill) const;
-    float menuItemInset() const;
 
     AssetScheme::Canvas& canvas;
-    juce::Font menuFont, titleFont, quietFont;
-    SVGPainter tick, more, up, down;
-    std::vector<std::unique_ptr<CardShadow>> menuShadows;
+    juce::Font font, titleFont;
+    SVGPainter tick { "check.svg" }, down { "down.svg" };
     Events::Listener listener;
 };
 } // namespace Zn::GUI
