@@ -99,7 +99,7 @@ juce::Component* find (juce::Component& root, const juce::String& name)
 
 void click (juce::Component& page, const juce::String& name, juce::ModifierKeys modifiers)
 {
-    auto* target = find (page, name);
+    const juce::Component::SafePointer<juce::Component> target (find (page, name)); // a press may be its end
 
     if (target == nullptr)
     {
@@ -117,8 +117,8 @@ void click (juce::Component& page, const juce::String& name, juce::ModifierKeys 
                                   0.0f,
                                   0.0f,
                                   0.0f,
-                                  target,
-                                  target,
+                                  target.getComponent(),
+                                  target.getComponent(),
                                   now,
                                   centre,
                                   now,
@@ -126,7 +126,9 @@ void click (juce::Component& page, const juce::String& name, juce::ModifierKeys 
                                   false);
     target->mouseEnter (event);
     target->mouseDown (event);
-    target->mouseUp (event);
+
+    if (target != nullptr)
+        target->mouseUp (event);
 }
 
 /** The editor by itself, or in the program's own window. */
