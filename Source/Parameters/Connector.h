@@ -42,6 +42,10 @@ public:
     MenuItems::Item getMenuChoices() override;
 
     float getFloat() const override { return target->getFloat(); }
+    bool differsFrom (float normalised, float plain) const override
+    {
+        return target->differsFrom (normalised, plain);
+    }
     int getInt() const override { return target->getInt(); }
     bool getBool() const override { return target->getBool(); }
     bool isHostVisible() const override { return target->isHostVisible(); }

@@ -4,6 +4,16 @@ namespace Zn::Parameters
 {
 using HostForwarder = ForwarderBase<juce::AudioProcessorParameter>;
 
+HostForwarder::ForwarderBase (juce::AudioProcessorParameter& targetToUse)
+    : target (&targetToUse), floatTarget (dynamic_cast<const juce::AudioParameterFloat*> (target))
+{}
+
+bool HostForwarder::differsFrom (float normalised, float plain) const
+{
+    // Of the two, the one that JUCE stores: the other would take a curved range each time.
+    return floatTarget != nullptr ? floatTarget->get() != plain : target->getValue() != normalised;
+}
+
 void HostForwarder::setRawNormalised (float normalised)
 {
     if (const auto legal = legalNormalised (*target, normalised))

@@ -17,7 +17,7 @@ template <>
 class ForwarderBase<juce::AudioProcessorParameter> : public Parameter
 {
 public:
-    explicit ForwarderBase (juce::AudioProcessorParameter& targetToUse) : target (&targetToUse) {}
+    explicit ForwarderBase (juce::AudioProcessorParameter& targetToUse);
 
     float getNormalised() const override { return target->getValue(); }
     void setRawNormalised (float normalised) override;
@@ -33,6 +33,7 @@ public:
     void setNormalisedNotifying (float normalised) override { setNormalised (*target, normalised); }
     MenuItems::Item getMenuChoices() override;
     float getFloat() const override { return plainValueOf (*target); }
+    bool differsFrom (float normalised, float plain) const override;
     bool isHostVisible() const override { return true; }
     bool hasSteps() const override { return getNumSteps() > 0; }
     int getNumSteps() const override;
@@ -42,5 +43,6 @@ public:
 
 private:
     juce::AudioProcessorParameter* const target;
+    const juce::AudioParameterFloat* const floatTarget; // the same one, or null
 };
 } // namespace Zn::Parameters

@@ -49,6 +49,14 @@ public:
     /** The value in its own unit. */
     virtual float getFloat() const = 0;
 
+    /** Whether the value is another than the one that was read as these two: for whoever looks again and again, who is
+        to convert it after a change only.
+    */
+    virtual bool differsFrom (float normalised, float plain) const
+    {
+        return getNormalised() != normalised || getFloat() != plain;
+    }
+
     virtual int getInt() const;   // getFloat without its fraction
     virtual bool getBool() const; // strictly above the middle of the range
 

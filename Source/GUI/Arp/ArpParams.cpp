@@ -88,6 +88,11 @@ void ArpParams::poll()
     if (const auto now = swing.getParameter()->getFloat(); std::exchange (shownSwing, now) != now)
         swingValue.setText (swing.getShownText());
 
-    rangeValue.setText (range.getShownText());
+    const ShownRange now { .lowest = context.state().lowestOctave.getInt(),
+                           .highest = context.state().highestOctave.getInt(),
+                           .middleC = context.settings.get().middleC };
+
+    if (std::exchange (shownRange, now) != now)
+        rangeValue.setText (range.getShownText());
 }
 } // namespace Zn::GUI

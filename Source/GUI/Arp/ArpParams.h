@@ -46,7 +46,16 @@ private:
     Segments swingRef;
     Divider afterSwing { context, "ArpParamDivider3" };
 
+    struct ShownRange
+    {
+        bool operator== (const ShownRange&) const = default;
+
+        int lowest, highest; // octaves
+        int middleC;         // the octave that pitches are named by
+    };
+
     Label rangeLabel, rangeValue;
+    std::optional<ShownRange> shownRange;
     RangeSlider range;
 
     Events::Listener polls { context.polls, [this] { poll(); } };

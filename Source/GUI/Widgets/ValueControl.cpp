@@ -342,8 +342,7 @@ float ValueControl::proportionOf (juce::Point<float> movement) const
 
 void ValueControl::poll()
 {
-    if (drawnPosition == parameter->getNormalised() && drawnValue == parameter->getFloat()
-        && drawnPrecisely == isDragging())
+    if (drawnPrecisely == isDragging() && ! parameter->differsFrom (drawnPosition, drawnValue))
         return;
 
     look();

@@ -79,6 +79,29 @@ TEST (ArpBands, TellsTheSwingBesideThePointerAndLetsItsTextAndTheRangesBeTyped)
     }
 }
 
+TEST (ArpBands, NamesTheRangeOfOctavesAsItIsNow)
+{
+    Tests::ControlBench bench;
+    const auto params = bench.make<ArpParams>();
+    const auto& range = Tests::Hand::find<Label> (*params, "OctaveRangeValue");
+    auto& state = bench.getState();
+    auto settings = bench.settings.get();
+
+    const std::pair<std::function<void()>, const char*> rows[] {
+        { [] {}, "All" },
+        { [&] { state.lowestOctave.setInt (6); }, "C4B8" },
+        { [&] { state.highestOctave.setInt (9); }, "C4B6" },
+        { [&] { bench.settings.set ((settings.middleC = 4, settings)); }, "C5B7" },
+    };
+
+    for (const auto& [change, text] : rows)
+    {
+        change();
+        bench.polls.callListeners();
+        EXPECT_EQ (range.getText().retainCharacters ("ABCl012345678"), text);
+    }
+}
+
 TEST (ArpBands, FollowsTheKeyInOneStepOfUndo)
 {
     Tests::OpenEditor editor;

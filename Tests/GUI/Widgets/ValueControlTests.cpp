@@ -5,6 +5,7 @@
 #include "GUI/Widgets/Segments.h"
 #include "GUI/Widgets/Stepper.h"
 #include "GUI/Widgets/Toggle.h"
+#include "Parameters/AtomicBool.h"
 #include "Parameters/Connector.h"
 
 #include <gtest/gtest.h>
@@ -219,6 +220,41 @@ TEST_F (Controls, ChoicesAndSegmentsGoToTheOneBeforeAndAfter)
     sync.mouseEnter (Hand::mouseEvent (sync, {}, {}, {}));
     Hand::turnWheel (sync, -0.2f);
     EXPECT_EQ (segments->getShownText(), "Sync") << "too early to be meant";
+}
+
+TEST_F (Controls, ShowWhateverElseHasSetTheirValue)
+{
+    struct Shown : ValueControl
+    {
+        using ValueControl::shownPosition;
+        using ValueControl::shownText;
+        using ValueControl::ValueControl;
+
+        void paintControl (juce::Graphics&) override {}
+    };
+
+    const std::pair<const char*, std::shared_ptr<Parameters::Parameter>> rows[] = {
+        { "DelayMix", std::make_shared<Parameters::Connector> (mix) },
+        { "FilterCutoff", bench.of (synth.filter.cutoff) },
+        { "Osc1Volume", bench.of (synth.oscillators.oscillators[0].volume) },
+        { "Osc1Tune", bench.of (synth.oscillators.oscillators[0].tune) },
+        { "DelayMode", bench.of (synth.delay.mode) },
+        { "FilterEnable", bench.of (synth.filter.enable) },
+        { "KeyMode", std::make_shared<Parameters::AtomicBool> (bench.getState().keyMode, "Key mode") },
+    };
+
+    for (const auto& [element, value] : rows)
+    {
+        const auto control = bench.make<Shown> (element, value);
+
+        for (const auto normalised : { 1.0f, 0.0f, 0.4f, 0.41f })
+        {
+            value->setRawNormalised (normalised);
+            bench.polls.callListeners();
+            EXPECT_EQ (control->shownText(), control->getShownText()) << element << " " << normalised;
+            EXPECT_EQ (control->shownPosition(), value->getNormalised()) << element << " " << normalised;
+        }
+    }
 }
 
 TEST_F (Controls, TheEndsOfARangeStayApart)
