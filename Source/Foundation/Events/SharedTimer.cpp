@@ -11,6 +11,8 @@ namespace Zn::Events
 {
 namespace
 {
+constexpr auto longestPause = 3 * SharedTimer::intervalMilliseconds; // between two frames
+
 /** Leaves it to the message thread to delete the timer: when the last user goes on another thread, or inside a
     tick, that thread may be in the timer's function or about to call it.
 */
@@ -70,6 +72,26 @@ void SharedTimer::remove (TimerCallback& callback) noexcept
 
 void SharedTimer::timerCallback()
 {
+    if (getTimerInterval() == longestPause)
+        startTimer (intervalMilliseconds);
+
+    tick (juce::Time::getMillisecondCounter());
+}
+
+void SharedTimer::frame (juce::uint32 now)
+{
+    constexpr auto tolerance = 4u; // milliseconds: frames do not come evenly
+
+    if (now - lastTick + tolerance < juce::uint32 (intervalMilliseconds))
+        return;
+
+    startTimer (longestPause); // it comes only when no more frames do
+    tick (now);
+}
+
+void SharedTimer::tick (juce::uint32 now)
+{
+    lastTick = now;
     const juce::ScopedLock scopedLock (lock);
 
     if (isTicking) // a modal loop inside a callback

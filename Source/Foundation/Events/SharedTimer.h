@@ -32,15 +32,22 @@ public:
     /** Calls everyone once, as the clock does. Thread: message. */
     void timerCallback() override;
 
+    /** Told of each frame of a window and of its time in milliseconds, calls everyone with the one that is about due.
+        Meanwhile the clock waits: that it would wake two threads once more costs more than a tick. Thread: message.
+    */
+    void frame (juce::uint32 now);
+
     static constexpr int intervalMilliseconds =
         33; // as often as the screen is looked at: each tick wakes two threads
 
 private:
+    void tick (juce::uint32 now);
     void applyPending();
 
     juce::CriticalSection lock; // held during callbacks; the message thread may take it again inside them
     std::vector<TimerCallback*> active;  // null: removed during a tick
     std::vector<TimerCallback*> pending; // added since the last tick
     bool isTicking = false;
+    juce::uint32 lastTick = 0; // milliseconds
 };
 } // namespace Zn::Events

@@ -1,5 +1,6 @@
 #include "GUI/Editor/Page.h"
 
+#include "Foundation/Events/SharedTimer.h"
 #include "GUI/Editor/PageKeys.h"
 #include "GUI/Framework/AssetScheme/Base.h"
 #include "GUI/Popups/UpdateNotice.h"
@@ -27,6 +28,7 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
                 .actions = actions,
                 .keysInUse = keysInUse }
     , timer (Events::UpdateTimer::screenInterval, [this] { polls.callListeners(); })
+    , frames (this, [] { Events::SharedTimer::getInstance().frame (juce::Time::getMillisecondCounter()); })
 {
     setOpaque (true);
     setWantsKeyboardFocus (true);

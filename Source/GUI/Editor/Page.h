@@ -102,5 +102,6 @@ private:
     Events::Listener settingsListener { settings, [this] { followSettings(); } };
     Events::Listener failureListener { settings.getFailures(), [this] { tellOfFailure(); } };
     Events::UpdateTimer timer;
+    juce::VBlankAttachment frames;
 };
 } // namespace Zn::GUI

@@ -69,6 +69,26 @@ TEST (SharedTimer, GoesOnToTheNextCallbackWhenOneThrows)
     EXPECT_EQ (calls, 2);
 }
 
+TEST (SharedTimer, TicksAsOftenWithTheFramesOfAnyScreen)
+{
+    const Singleton::UserToken user;
+    auto calls = 0;
+    const TimerCallback counting ([&] { ++calls; });
+    tick();
+
+    for (const auto hertz : { 50u, 60u, 100u, 144u, 240u })
+    {
+        const auto start = juce::Time::getMillisecondCounter() + 1000;
+        calls = 0;
+
+        for (auto frame = 1u; frame <= 10 * hertz; ++frame)
+            SharedTimer::getInstance().frame (start + 1000 * frame / hertz);
+
+        EXPECT_GE (calls, 245) << hertz;
+        EXPECT_LE (calls, 345) << hertz;
+    }
+}
+
 TEST (UpdateTimer, KeepsItsIntervalOverManyTicksAndStartsItAnewWhenSwitchedOn)
 {
     const Singleton::UserToken user;
