@@ -81,6 +81,12 @@ void KeyboardStrip::Piano::paintKey (
     }
 }
 
+juce::Timer& KeyboardStrip::Piano::getTimer() noexcept
+{
+    using Base = juce::Timer&;
+    return Base (*this); // which a static_cast does not reach, as it is private
+}
+
 KeyboardStrip::Button::Button (const juce::String& name, TooltipText explanation)
     : TextButton (name), tooltip (std::move (explanation))
 {
@@ -105,6 +111,7 @@ KeyboardStrip::KeyboardStrip (EditorContext& contextToUse, juce::Component& wind
     , up ("+", octaveText ("Octave up", "higher", "X"))
     , schemeListener (context.canvas, [this] { schemeChanged(); })
     , settingsListener (context.settings, [this] { showOctaves(); })
+    , pollListener (context.polls, [this] { piano.getTimer().timerCallback(); })
 {
     setComponentID ("KeyboardStrip");
     setTitle ("Keyboard");
@@ -126,6 +133,7 @@ KeyboardStrip::KeyboardStrip (EditorContext& contextToUse, juce::Component& wind
     piano.setScrollButtonsVisible (false);
     piano.clearKeyMappings(); // the typed keys are ours
     piano.setWantsKeyboardFocus (false);
+    piano.getTimer().stopTimer(); // it looks with all others
 
     for (auto* child :
          std::initializer_list<juce::Component*> { &devices, &typing, &down, &octave, &up, &piano })

@@ -49,6 +49,9 @@ private:
         void paintKey (
             juce::Graphics& g, juce::Rectangle<float> key, juce::Colour colour, bool isDown, bool isOver);
 
+        /** By which it looks for keys that have been pressed elsewhere; JUCE keeps it to itself. */
+        juce::Timer& getTimer() noexcept;
+
         juce::Font font; // of the names on its keys
     };
 
@@ -59,6 +62,6 @@ private:
     Button devices, typing, down, up;
     juce::Label octave;
 
-    Events::Listener schemeListener, settingsListener;
+    Events::Listener schemeListener, settingsListener, pollListener;
 };
 } // namespace Zn::GUI
