@@ -131,6 +131,9 @@ void Meter::redraw()
 {
     const Drawing current { topOf (shown.level), topOf (shown.peak), shown.clipped };
 
+    if (drawing == current)
+        return;
+
     const auto before = std::exchange (drawing, current);
 
     if (before.isRed != current.isRed)

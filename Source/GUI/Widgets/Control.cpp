@@ -224,7 +224,7 @@ void Control::update()
 
 void Control::fade()
 {
-    const auto target = isEnabled() && showsHover() && isPointed (*this) ? 1.0f : 0.0f;
+    const auto target = isPointed (*this) && showsHover() && isEnabled() ? 1.0f : 0.0f;
 
     if (hover == target)
         return;
