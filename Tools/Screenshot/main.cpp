@@ -1,6 +1,8 @@
 #include "Foundation/Singleton.h"
 #include "GUI/Editor/Page.h"
 #include "GUI/Standalone/StandaloneView.h"
+#include "GUI/Support/Hand.h"
+#include "GUI/Support/HiddenWindow.h"
 #include "Plugin/Bases/StateEditor.h"
 
 #include <juce_gui_basics/juce_gui_basics.h>
@@ -18,6 +20,7 @@ namespace
 {
 using namespace Zn;
 using Audio::Plugins::Vornel::Processor;
+namespace Hand = Tests::Hand;
 
 constexpr auto usage = R"(Usage: vornel-screenshot FILE.png [OPTIONS]
 
@@ -85,21 +88,9 @@ void serveMessages (int milliseconds)
             juce::Thread::sleep (1);
 }
 
-juce::Component* find (juce::Component& root, const juce::String& name)
+void click (juce::Component& root, const juce::String& name, juce::ModifierKeys modifiers)
 {
-    if (root.getComponentID() == name)
-        return &root;
-
-    for (auto* child : root.getChildren())
-        if (auto* found = find (*child, name))
-            return found;
-
-    return nullptr;
-}
-
-void click (juce::Component& page, const juce::String& name, juce::ModifierKeys modifiers)
-{
-    const juce::Component::SafePointer<juce::Component> target (find (page, name)); // a press may be its end
+    const juce::Component::SafePointer<juce::Component> target (Hand::findOrNull (root, name));
 
     if (target == nullptr)
     {
@@ -108,26 +99,11 @@ void click (juce::Component& page, const juce::String& name, juce::ModifierKeys 
     }
 
     const auto centre = target->getLocalBounds().toFloat().getCentre();
-    const auto now = juce::Time::getCurrentTime();
-    const juce::MouseEvent event (juce::Desktop::getInstance().getMainMouseSource(),
-                                  centre,
-                                  modifiers,
-                                  0.0f,
-                                  0.0f,
-                                  0.0f,
-                                  0.0f,
-                                  0.0f,
-                                  target.getComponent(),
-                                  target.getComponent(),
-                                  now,
-                                  centre,
-                                  now,
-                                  1,
-                                  false);
+    const auto event = Hand::mouseEvent (*target, centre, centre, modifiers);
     target->mouseEnter (event);
     target->mouseDown (event);
 
-    if (target != nullptr)
+    if (target != nullptr) // the press may have been its end
         target->mouseUp (event);
 }
 
@@ -175,7 +151,7 @@ public:
         juce::Rectangle<int> area;
 
         for (const auto& name : parts)
-            if (auto* part = find (whole(), name))
+            if (auto* part = Hand::findOrNull (whole(), name))
                 area = area.getUnion (whole().getLocalArea (part, part->getLocalBounds()));
 
         return area.isEmpty() ? whole().getLocalBounds() : area;
@@ -260,11 +236,7 @@ int run (const juce::ArgumentList& arguments)
     View view { processor, isStandalone };
     auto& page = view.page();
     view.setWidth (has ("--width") ? option ("--width").getIntValue() : GUI::Page::defaultSize().width);
-    view.whole().setVisible (true);
-
-    if (juce::SystemStats::getEnvironmentVariable ("DISPLAY", {})
-            .isNotEmpty()) // focus and menus need a window
-        view.whole().addToDesktop (juce::ComponentPeer::windowIsTemporary);
+    const Tests::HiddenWindow window { view.whole() }; // focus and menus need one
 
     if (has ("--fold"))
         page.getContext().canvas.setFold (GUI::AssetScheme::Fold::folded);
@@ -296,10 +268,10 @@ int run (const juce::ArgumentList& arguments)
     serveMessages (milliseconds);
 
     for (const auto& name : namesIn (option ("--click")))
-        click (view.whole(), name, juce::ModifierKeys::leftButtonModifier);
+        click (view.whole(), name, Hand::leftButton);
 
     if (has ("--menu"))
-        click (view.whole(), option ("--menu"), juce::ModifierKeys::rightButtonModifier);
+        click (view.whole(), option ("--menu"), Hand::rightButton);
 
     const auto scale = has ("--scale") ? option ("--scale").getFloatValue() : 1.0f;
     const auto picture = [&] {
