@@ -208,11 +208,28 @@ bool Base::save (const juce::URL& destination)
     }
 
     lastFile = file;
+    takeIn (file);
+    return true;
+}
+
+bool Base::move (const juce::File& file, const juce::File& target)
+{
+    if (! file.moveFileTo (target))
+        return false;
+
+    if (lastFile == file)
+        lastFile = target;
+
+    takeIn (target);
+    return true;
+}
+
+/** A file of ours that has just come to be. */
+void Base::takeIn (const juce::File& file)
+{
     headers().forget (file);
     validator().setValid (getProduct(), file);
-    list.forget();
-    changed.callListeners();
-    return true;
+    rescan();
 }
 
 const std::vector<Base::Entry>& Base::getList()

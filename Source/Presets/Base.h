@@ -95,6 +95,9 @@ public:
     */
     bool save (const juce::URL& destination);
 
+    /** Gives a preset file another place, where there is none yet. Whether it is there now. */
+    bool move (const juce::File& file, const juce::File& target);
+
     /** Factory presets, then the user's. Built when first asked for, and again after each save. */
     const std::vector<Entry>& getList();
 
@@ -132,6 +135,7 @@ private:
     void reflectDocument (Reflector& r);
     void reflectBetweenEvents (Reflector& r);
     void reportLoaded();
+    void takeIn (const juce::File& file);
     void applyAsPreset (nlohmann::json document, const juce::String& name);
     Binaries::Bytes getFactoryZip() const;
     void loadFromArchive (const juce::File& file);

@@ -166,11 +166,10 @@ juce::String PresetActions::rename (const juce::File& file, const juce::String& 
     if (target.existsAsFile() && target != file)
         return "There is a preset of this name already.";
 
-    if (! file.moveFileTo (target))
+    if (! getLibrary().move (file, target))
         return "The file could not be renamed.";
 
     renameFavourite (oldName, name);
-    getLibrary().rescan();
 
     if (isCurrent)
     {

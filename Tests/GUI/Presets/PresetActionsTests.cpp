@@ -110,6 +110,11 @@ TEST_F (PresetActionsTest, RenameAndDeleteOwnFilesOnly)
     EXPECT_NE (patterns.rename (factoryFile, "Other"), "");
     EXPECT_TRUE (factoryFile.existsAsFile());
 
+    // A file of that name once was no preset.
+    ASSERT_TRUE (own ("Ours").create().wasOk());
+    EXPECT_FALSE (patterns.getLibrary().isValidFile (own ("Ours")));
+    own ("Ours").deleteFile();
+
     ASSERT_EQ (patterns.save (own ("Other")), "");
     ASSERT_EQ (patterns.save (own ("Mine")), "");
     patterns.setFavourite ("Mine", true);
