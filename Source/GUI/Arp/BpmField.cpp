@@ -1,6 +1,7 @@
 #include "GUI/Arp/BpmField.h"
 
 #include "GUI/Widgets/ControlMenu.h"
+#include "GUI/Widgets/ParameterEdit.h"
 
 namespace Zn::GUI
 {
@@ -101,7 +102,11 @@ void BpmField::showTempoMenu()
 void BpmField::tap()
 {
     if (const auto tempo = tapping->tap (secondsNow()))
-        changeJoining ([tempo] (auto& p) { p.setDouble (*tempo); });
+        context.edits.join (
+            &tapping,
+            "Tap tempo",
+            [&] { return changeAtOnce (*getParameter(), [tempo] (auto& p) { p.setDouble (*tempo); }); },
+            juce::uint32 (1000.0 * TapTempo::longestPause));
 }
 
 bool BpmField::isHosts() const

@@ -33,7 +33,7 @@ juce::String getText()
     return hasScreen() ? juce::SystemClipboard::getTextFromClipboard() : Singleton::get<OwnText>().text;
 }
 
-nlohmann::json getDocument (const std::string& kind)
+nlohmann::json getDocument (const Kind& kind)
 {
     const auto text = getText().trimStart();
 
@@ -41,12 +41,14 @@ nlohmann::json getDocument (const std::string& kind)
         return nullptr;
 
     auto document = Json::parse (text.toStdString(), Json::largestPresetText);
-    const auto found = document.is_object() ? document.find (kind) : document.end();
-    return document.is_object() && found != document.end() && found->is_object() ? *found : nlohmann::json();
+    const auto found = document.is_object() ? document.find (kind.name) : document.end();
+    const auto isOfKind = document.is_object() && found != document.end() && found->is_object()
+                          && found->contains (kind.content);
+    return isOfKind ? *found : nlohmann::json();
 }
 
-void setDocument (const std::string& kind, nlohmann::json document)
+void setDocument (const Kind& kind, nlohmann::json document)
 {
-    setText (juce::String::fromUTF8 (Json::toText ({ { kind, std::move (document) } }).c_str()));
+    setText (juce::String::fromUTF8 (Json::toText ({ { kind.name, std::move (document) } }).c_str()));
 }
 } // namespace Zn::GUI::Clipboard

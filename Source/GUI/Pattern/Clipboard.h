@@ -14,19 +14,26 @@ namespace Zn::GUI::Clipboard
 void setText (const juce::String& text);
 juce::String getText();
 
-/** The document of an object on the clipboard under a name for its kind; null when there is none. */
-nlohmann::json getDocument (const std::string& kind);
-void setDocument (const std::string& kind, nlohmann::json document);
+/** What is copied: the name that its document has on the clipboard, and what each such document has. */
+struct Kind
+{
+    const char* name;
+    const char* content;
+};
+
+/** Null when there is none of the kind. */
+nlohmann::json getDocument (const Kind& kind);
+void setDocument (const Kind& kind, nlohmann::json document);
 
 template <Reflectable T>
-void copy (const std::string& kind, T&& object)
+void copy (const Kind& kind, T&& object)
 {
     setDocument (kind, Json::save (object, ReflectorContext::forUndo()));
 }
 
 /** False when the clipboard holds no object of the kind, or one that cannot be read. */
 template <Reflectable T>
-bool paste (const std::string& kind, T&& object)
+bool paste (const Kind& kind, T&& object)
 {
     auto document = getDocument (kind);
 

@@ -31,8 +31,6 @@ struct Drawing
 
     Sequencer::TimedNote& note (int index) { return notes[static_cast<std::size_t> (index)]; }
     const Sequencer::TimedNote& note (int index) const { return notes[static_cast<std::size_t> (index)]; }
-
-    double columnLength() const noexcept { return 1.0 / grid; }
 };
 
 /** How an edit keeps to the columns. */

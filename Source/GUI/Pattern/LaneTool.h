@@ -4,6 +4,8 @@
 #include "GUI/Pattern/PatternEditor.h"
 
 #include <map>
+#include <optional>
+#include <utility>
 
 namespace Zn::GUI
 {
@@ -40,6 +42,12 @@ public:
 
     bool isDragging() const noexcept { return action != Action::none; }
     RollReadout getReadout() const;
+
+    /** While a ramp is drawn: from the press to the pointer. */
+    std::optional<std::pair<LanePointer, LanePointer>> getRamp() const
+    {
+        return action == Action::ramp ? std::optional (std::pair (pressed, last)) : std::nullopt;
+    }
 
 private:
     enum class Action

@@ -34,6 +34,12 @@ public:
 
             juce::String getTitle() const override { return cell.describe(); }
 
+            juce::AccessibleState getCurrentState() const override
+            {
+                const auto state = AccessibilityHandler::getCurrentState().withSelectable();
+                return cell.isSelected() ? state.withSelected() : state;
+            }
+
             const Cell& cell;
         };
 
@@ -48,6 +54,8 @@ public:
     int column = 0, numColumns = 1, row = 0; // of the table
 
 private:
+    bool isSelected() const { return context.pattern.getDrawing().selection.contains (note); }
+
     juce::String describe() const
     {
         const auto& drawing = context.pattern.getDrawing();

@@ -10,7 +10,7 @@ namespace Zn::GUI
 {
 namespace
 {
-const std::string kind = "Notes"; // of what is on the clipboard
+constexpr Clipboard::Kind kind { .name = "Notes", .content = "Steps" };
 
 bool isFirst (const Sequencer::TimedNote& a, const Sequencer::TimedNote& b)
 {
@@ -33,11 +33,12 @@ std::vector<Sequencer::TimedNote> scaled (std::vector<Sequencer::TimedNote> note
 
 void moveInside (std::vector<Sequencer::TimedNote>& notes, const NoteGrid& grid, double byTime, int byRows)
 {
-    auto end = 0.0;
+    auto start = 1.0, end = 0.0;
     auto low = NoteEdits::numRows, high = 0;
 
     for (const auto& note : notes)
     {
+        start = std::min (start, note.time.start);
         end = std::max (end, note.time.end());
         low = std::min (low, note.event.noteNum);
         high = std::max (high, note.event.noteNum);
@@ -45,7 +46,7 @@ void moveInside (std::vector<Sequencer::TimedNote>& notes, const NoteGrid& grid,
 
     const auto room = (1.0 - end) * grid.columns + 1.0e-6;
     const auto last = std::max (grid.snaps ? std::floor (room) / grid.columns : 1.0 - end, 0.0);
-    const auto delta = std::clamp (byTime, 0.0, last);
+    const auto delta = std::min (std::max (byTime, -start), last);
     const auto rows = std::clamp (byRows, -low, NoteEdits::numRows - 1 - high);
 
     for (auto& note : notes)
@@ -93,8 +94,9 @@ void NoteClip::paste (Drawing& drawing, const NoteGrid& grid, double atTime, int
     if (notes.empty())
         return;
 
-    const auto first = std::min_element (notes.begin(), notes.end(), isFirst)->event.noteNum;
-    moveInside (notes, grid, grid.snaps ? grid.columnStart (atTime) : atTime, row < 0 ? 0 : row - first);
+    const auto& first = *std::min_element (notes.begin(), notes.end(), isFirst);
+    const auto byTime = grid.snaps ? grid.columnStart (atTime) : atTime - first.time.start;
+    moveInside (notes, grid, byTime, row < 0 ? 0 : row - first.event.noteNum);
     drawing.selection = {};
 
     for (auto& note : notes)

@@ -73,6 +73,15 @@ double snappedMove (double start, double byTime, const NoteGrid& grid, const Roo
     return leftmost > rightmost ? 0.0 : std::clamp (line, leftmost, rightmost) / columns - start;
 }
 
+/** Whole columns, the first of which leads to the next line. */
+double lineBeyond (double length, double byTime, const NoteGrid& grid)
+{
+    constexpr auto tolerance = 1.0e-6;
+    const auto columns = length * grid.columns;
+    const auto line = byTime > 0.0 ? std::floor (columns + tolerance) : std::ceil (columns - tolerance);
+    return (line + std::round (byTime * grid.columns)) / grid.columns;
+}
+
 double selectedEnd (const Drawing& drawing)
 {
     auto end = 0.0;
@@ -159,7 +168,9 @@ void lengthenSelected (Drawing& drawing, const NoteGrid& grid, int inHand, doubl
         return;
 
     const auto length = drawing.note (reference).time.length;
-    const auto snapped = std::max (grid.nearestLine (length + byTime), grid.column());
+    const auto line =
+        drawing.hasNote (inHand) ? grid.nearestLine (length + byTime) : lineBeyond (length, byTime, grid);
+    const auto snapped = std::max (line, grid.column());
     const auto delta = grid.snaps ? snapped - length : byTime;
 
     for (const auto index : drawing.selection)

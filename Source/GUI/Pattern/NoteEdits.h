@@ -31,7 +31,9 @@ inline void eraseSelected (Drawing& drawing)
 */
 void moveSelected (Drawing& drawing, const NoteGrid& grid, int inHand, double byTime, int byRows);
 
-/** By as much as makes the note in hand whole columns if the grid snaps, the longest one when there is none in hand. */
+/** By as much as makes the note in hand whole columns if the grid snaps; when there is none in hand the longest one, by
+    whole columns from line to line.
+*/
 void lengthenSelected (Drawing& drawing, const NoteGrid& grid, int inHand, double byTime);
 
 /** Makes one note end in the column of a time, or there. */

@@ -3,6 +3,9 @@
 #include "GUI/Framework/AssetScheme/Base.h"
 #include "GUI/Pattern/RollBeats.h"
 
+#include <array>
+#include <utility>
+
 namespace Zn::GUI
 {
 NoteLane::NoteLane (RollContext& contextToUse)
@@ -29,6 +32,13 @@ void NoteLane::refresh()
     repaint();
 }
 
+/** Moves without a note's value, too. */
+void NoteLane::refreshRamp()
+{
+    if (std::exchange (hasRamp, tool.getRamp().has_value()) || hasRamp)
+        refresh();
+}
+
 void NoteLane::schemeChanged()
 {
     painter.load (getCanvas());
@@ -50,7 +60,9 @@ LanePointer NoteLane::pointerOf (const juce::MouseEvent& event) const
 bool NoteLane::cancel()
 {
     context.editor.overlay.hideReadout();
-    return tool.cancel();
+    const auto wasDragging = tool.cancel();
+    refreshRamp();
+    return wasDragging;
 }
 
 void NoteLane::mouseMove (const juce::MouseEvent& event)
@@ -75,6 +87,7 @@ void NoteLane::mouseDrag (const juce::MouseEvent& event)
 
     tool.drag (pointerOf (event));
     showReadout (event);
+    refreshRamp();
 }
 
 void NoteLane::mouseUp (const juce::MouseEvent& event)
@@ -83,6 +96,8 @@ void NoteLane::mouseUp (const juce::MouseEvent& event)
 
     if (tool.isDragging())
         tool.up (pointerOf (event));
+
+    refreshRamp();
 }
 
 void NoteLane::showReadout (const juce::MouseEvent& event)
@@ -117,6 +132,29 @@ void NoteLane::paintLane (juce::Graphics& g) const
     for (auto each = handles.rbegin(); each != handles.rend(); ++each) // the first of a fan lies on top
         if (each->position.x > -lane.handle && each->position.x < float (getWidth()) + lane.handle)
             paintHandle (g, *each);
+
+    paintRamp (g);
+}
+
+void NoteLane::paintRamp (juce::Graphics& g) const
+{
+    const auto ramp = tool.getRamp();
+
+    if (! ramp)
+        return;
+
+    const auto placeOf = [this] (const LanePointer& pointer) {
+        return juce::Point (float (context.view.get().xOf (pointer.time)) + lane.offsetOfFan(),
+                            lane.yOf (pointer.value));
+    };
+    const auto line = std::max (1.0f, context.editor.canvas.pixelsOf ("ThinnerStroke"));
+    const std::array dashes { 2.0f * line, 2.0f * line };
+
+    g.setColour (AssetScheme::Base::get().colourOf ("Time"));
+    g.drawDashedLine ({ placeOf (ramp->first), placeOf (ramp->second) },
+                      dashes.data(),
+                      static_cast<int> (dashes.size()),
+                      line);
 }
 
 void NoteLane::paintHandle (juce::Graphics& g, const LaneHandle& handle) const

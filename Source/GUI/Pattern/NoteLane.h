@@ -22,6 +22,7 @@ public:
 
     /** Esc: takes back what the drag has done; false when there is none. */
     bool cancel();
+    bool isDragging() const noexcept { return tool.isDragging(); }
 
     void mouseMove (const juce::MouseEvent& event) override;
     void mouseDown (const juce::MouseEvent& event) override;
@@ -34,9 +35,11 @@ public:
 
 private:
     void refresh();
+    void refreshRamp();
     LanePointer pointerOf (const juce::MouseEvent& event) const;
     void showReadout (const juce::MouseEvent& event);
     void paintLane (juce::Graphics& g) const;
+    void paintRamp (juce::Graphics& g) const;
     void paintHandle (juce::Graphics& g, const LaneHandle& handle) const;
 
     void
@@ -48,6 +51,7 @@ private:
     LaneGeometry lane;
     std::vector<LaneHandle> handles;
     LaneTool tool;
+    bool hasRamp = false;
     std::vector<std::unique_ptr<Events::Listener>> listeners;
 };
 } // namespace Zn::GUI

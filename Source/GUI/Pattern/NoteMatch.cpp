@@ -13,10 +13,10 @@ auto placeOf (const Sequencer::TimedNote& note)
 }
 } // namespace
 
-NoteSelection selectionAfterChange (const Drawing& before, const std::vector<Sequencer::TimedNote>& after)
+NoteSelection selectionStillIn (const std::vector<Sequencer::TimedNote>& after, const Drawing& before)
 {
-    if (before.selection.isEmpty() || before.notes.size() == after.size())
-        return before.selection;
+    if (before.selection.isEmpty())
+        return {};
 
     std::multimap<std::tuple<double, double, int>, int> places;
 

@@ -4,8 +4,8 @@
 
 namespace Zn::GUI
 {
-/** Which notes of a drawing to select after others have changed it: while no note has come or gone they keep their
-    places in the list; else those that are still there as they were.
+/** Which notes to select in place of those that were selected in a drawing, after others have changed it: those that are
+    still there as they were.
 */
-NoteSelection selectionAfterChange (const Drawing& before, const std::vector<Sequencer::TimedNote>& after);
+NoteSelection selectionStillIn (const std::vector<Sequencer::TimedNote>& after, const Drawing& before);
 } // namespace Zn::GUI

@@ -54,6 +54,19 @@ NoteSelection notesInRow (const Drawing& drawing, int row)
     return notesThat (drawing, [row] (const auto& note) { return note.event.noteNum == row; });
 }
 
+juce::Range<int> rowsOf (std::span<const Sequencer::TimedNote> notes)
+{
+    juce::Range<int> rows;
+
+    for (const auto& note : notes)
+    {
+        const auto row = juce::Range<int>::withStartAndLength (note.event.noteNum, 1);
+        rows = rows.isEmpty() ? row : rows.getUnionWith (row);
+    }
+
+    return rows;
+}
+
 NoteSelection notesIn (const Drawing& drawing, const RollArea& area)
 {
     const auto [left, right] = std::minmax (area.from.time, area.to.time);

@@ -3,6 +3,8 @@
 #include "GUI/Pattern/Drawing.h"
 #include "GUI/Pattern/RollPointer.h"
 
+#include <span>
+
 /** Which notes of a drawing somebody means. Thread: message. */
 namespace Zn::GUI::NoteQueries
 {
@@ -10,6 +12,9 @@ namespace Zn::GUI::NoteQueries
 NoteSelection selectionOr (const Drawing& drawing, int note);
 
 NoteSelection notesInRow (const Drawing& drawing, int row);
+
+/** From the lowest row with a note to the highest, of those that there are. */
+juce::Range<int> rowsOf (std::span<const Sequencer::TimedNote> notes);
 
 /** What a rectangle touches. */
 NoteSelection notesIn (const Drawing& drawing, const RollArea& area);

@@ -1,23 +1,20 @@
 #include "GUI/Pattern/NoteText.h"
 
+#include "GUI/Pattern/NoteValue.h"
+
 #include <cmath>
 
 namespace Zn::GUI
 {
 namespace
 {
-juce::String percent (float proportion)
-{
-    constexpr auto hundred = 100.0f;
-    return juce::String (juce::roundToInt (proportion * hundred)) + " %";
-}
-
 /** With two decimals where it is no whole number. */
 juce::String columns (double length)
 {
     constexpr auto hundred = 100.0;
     return juce::String (std::round (length * hundred) / hundred);
 }
+
 juce::StringArray placeParts (int row, double start, const RowNames& names, const RollBeats& beats)
 {
     const auto isInDrawing =
@@ -38,8 +35,8 @@ juce::String noteText (const Sequencer::TimedNote& note, const RowNames& names, 
 {
     auto parts = placeParts (note.event.noteNum, note.time.start, names, beats);
     parts.add ("length " + columns (note.time.length * beats.grid));
-    parts.add ("velocity " + percent (note.event.velocity));
-    parts.add ("chance " + percent (note.event.chance));
+    parts.add ("velocity " + percentText (note.event.velocity));
+    parts.add ("chance " + percentText (note.event.chance));
 
     if (! note.enabled)
         parts.add ("disabled");

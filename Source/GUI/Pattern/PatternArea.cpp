@@ -1,7 +1,10 @@
 #include "GUI/Pattern/PatternArea.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Pattern/NoteQueries.h"
 #include "GUI/Widgets/ValueKeys.h"
+
+#include <algorithm>
 
 namespace Zn::GUI
 {
@@ -12,8 +15,11 @@ PatternArea::PatternArea (EditorContext& contextToUse)
     , tables (contextToUse.state().pitchTables.getReader())
     , tableCount (tables.getChangeCount() - 1)
     , pollListener (contextToUse.polls, [this] { nameRows(); })
-    , fit (
-          contextToUse, "ZoomFit", { .icon = "fit.svg", .look = Button::Look::quiet }, [this] { view.fit(); })
+    , slotListener (contextToUse.shownSlot, [this] { bringIntoSight(); })
+    , loadListener (contextToUse.state().loaded, [this] { bringIntoSight(); })
+    , fit (contextToUse, "ZoomFit", { .icon = "fit.svg", .look = Button::Look::quiet }, [this] {
+        view.fit (rowsInUse());
+    })
 {
     setTitle ("Pattern");
     setOpaque (true);
@@ -26,11 +32,11 @@ PatternArea::PatternArea (EditorContext& contextToUse)
                                                                 &pitches,
                                                                 &drawing,
                                                                 &scrollBar,
-                                                                &hint,
                                                                 &velocity,
                                                                 &chance,
                                                                 &lane,
-                                                                &playLine })
+                                                                &playLine,
+                                                                &hint })
         addChildComponent (part);
 
     for (auto* part : std::initializer_list<juce::Component*> { &chord,
@@ -80,6 +86,12 @@ bool PatternArea::pressKey (const juce::KeyPress& key)
 {
     const auto modifiers = key.getModifiers();
 
+    if (key == juce::KeyPress::escapeKey)
+        return escape();
+
+    if (tools.isDragging() || lane.isDragging()) // the hand holds what keys would change
+        return ! key.isKeyCode (juce::KeyPress::spaceKey);
+
     if (key.isKeyCode (juce::KeyPress::tabKey)
         && modifiers.isCtrlDown()) // without it Tab goes from note to note
     {
@@ -93,7 +105,7 @@ bool PatternArea::pressKey (const juce::KeyPress& key)
         return true;
     }
 
-    return key == juce::KeyPress::escapeKey ? escape() : pressSlot (key) || keys.press (key);
+    return pressSlot (key) || keys.press (key);
 }
 
 /** 1 to 8, here without Ctrl. */
@@ -121,9 +133,32 @@ RollKeys::View PatternArea::viewOfKeys()
     return { .rowsPerCycle = [this] { return std::max (1, rowNames.get().heldKeys.size()); },
              .pasteTime = [this] { return pasteTime(); },
              .zoom = [this] (double factor) { view.zoomTime (factor, 0.5 * view.get().size.width); },
-             .fit = [this] { view.fit(); },
+             .fit = [this] { view.fit (rowsInUse()); },
              .reveal = [this] (double start, double end, int row) { view.showCell (start, end, row); },
              .names = [this]() -> const RowNames& { return rowNames.get(); } };
+}
+
+/** Of the slot itself: the drawing may not know yet that it is another one. */
+const std::vector<Sequencer::TimedNote>& PatternArea::notesInUse() const
+{
+    const auto shown = static_cast<std::size_t> (context.shownSlot.get());
+    return context.state().patterns.getSlots()[shown].pattern.steps;
+}
+
+juce::Range<int> PatternArea::rowsInUse() const
+{
+    return NoteQueries::rowsOf (notesInUse());
+}
+
+/** A pattern that has just been opened is not taken for an empty one. */
+void PatternArea::bringIntoSight()
+{
+    const auto isInSight = [this] (const Sequencer::TimedNote& note) {
+        return view.get().shows (juce::Range<int>::withStartAndLength (note.event.noteNum, 1));
+    };
+
+    if (! notesInUse().empty() && std::ranges::none_of (notesInUse(), isInSight))
+        view.centreOn (rowsInUse());
 }
 
 double PatternArea::pasteTime()

@@ -44,6 +44,9 @@ private:
     bool escape();
     RollKeys::View viewOfKeys();
     double pasteTime();
+    const std::vector<Sequencer::TimedNote>& notesInUse() const;
+    juce::Range<int> rowsInUse() const;
+    void bringIntoSight();
 
     EditorContext& context;
     PatternEditor pattern { context };
@@ -59,7 +62,7 @@ private:
     Midi::PitchTableRing::Reader tables;
     std::int32_t tableCount = 0; // of the table that was named last
     int middleC = 3;
-    Events::Listener pollListener;
+    Events::Listener pollListener, slotListener, loadListener;
 
     HeldChord chord { roll };
     Ruler ruler { roll };

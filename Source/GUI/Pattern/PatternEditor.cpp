@@ -26,6 +26,8 @@ PatternEditor::PatternEditor (EditorContext& contextToUse)
     , modelListener (contextToUse.state().patterns.getEditorBroadcaster(), [this] { followModel(); })
     , slotListener (contextToUse.shownSlot, [this] { followSlot(); })
     , pollListener (contextToUse.polls, [this] { publishWhenDue(); })
+    , departure (contextToUse.edits.aboutToTravel, [this] { isTravelling = true; })
+    , arrival (contextToUse.edits.travelled, [this] { isTravelling = false; })
 {}
 
 PatternEditor::~PatternEditor()
@@ -209,7 +211,8 @@ void PatternEditor::followModel()
         press->isDisowned = true;
 
     setLasso ({});
-    drawing.selection = selectionAfterChange (shown, drawing.notes);
+    const auto keepsPlaces = isTravelling && shown.notes.size() == drawing.notes.size(); // notes only move
+    drawing.selection = keepsPlaces ? shown.selection : selectionStillIn (drawing.notes, shown);
     written = drawing;
     show (std::move (drawing));
 }

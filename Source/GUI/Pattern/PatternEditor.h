@@ -100,10 +100,11 @@ private:
     int hovered = -1;
     std::optional<RollArea> lasso;
     bool isPublishing = false;
+    bool isTravelling = false;           // undo and redo
     juce::uint32 lastPublished = 0;      // milliseconds
     std::array<char, 4> nudgeTargets {}; // one for each kind, compared by address
 
     UndoneSlot undoneSlot { context };
-    Events::Listener modelListener, slotListener, pollListener;
+    Events::Listener modelListener, slotListener, pollListener, departure, arrival;
 };
 } // namespace Zn::GUI

@@ -12,25 +12,6 @@ namespace
 {
 using Sequencer::PatternController;
 
-/** The numbers that a grid's menu offers; others are typed. */
-constexpr std::array usualGrids { 4, 6, 8, 12, 16, 24, 32, 48, 64 };
-
-class GridParam : public Audio::Plugins::Vornel::ConnectedIntParam
-{
-public:
-    explicit GridParam (const ConnectedIntParam& columns) : ConnectedIntParam (columns) {}
-
-    std::vector<std::string> getChoiceTexts() const override
-    {
-        std::vector<std::string> texts;
-
-        for (const auto columns : usualGrids)
-            texts.push_back (std::to_string (columns));
-
-        return texts;
-    }
-};
-
 /** The length that new notes get, as percents of a column. It is the gate of the pattern, and saved with it. */
 class NoteLengthParam : public Parameters::IntLike
 {
@@ -101,7 +82,9 @@ PatternParams::PatternParams (EditorContext& context)
         return std::make_shared<ShownSlotParam> (context.shownSlot, context.edits.getUndo(), create);
     };
 
-    grid = follow ([&] (std::size_t slot) { return std::make_unique<GridParam> (state.gridOf (slot)); });
+    grid = follow ([&] (std::size_t slot) {
+        return std::make_unique<Audio::Plugins::Vornel::ConnectedIntParam> (state.gridOf (slot));
+    });
     noteLength = follow ([&] (std::size_t slot) {
         return std::make_unique<NoteLengthParam> (slots[slot].pattern.gate, patterns);
     });

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace Zn::GUI
@@ -29,11 +30,14 @@ PianoRoll::PianoRoll (RollContext& contextToUse)
                           &context.rowNames.getBroadcaster() })
         listeners.push_back (std::make_unique<Events::Listener> (*source, [this] { refresh(); }));
 
-    listeners.push_back (std::make_unique<Events::Listener> (context.pattern.lassoChanged, [this] {
-        repaint (paintedLasso);
-        paintedLasso = lassoBounds().expanded (2);
-        repaint (paintedLasso);
-    }));
+    listeners.push_back (
+        std::make_unique<Events::Listener> (context.pattern.lassoChanged, [this] { followLasso(); }));
+
+    listeners.push_back (
+        std::make_unique<Events::Listener> (context.editor.state().patterns.getEditorBroadcaster(), [this] {
+            if (isElsewhere())
+                refresh(); // the ghosts may be others
+        }));
 
     listeners.push_back (
         std::make_unique<Events::Listener> (context.pattern.cellCursor, [this] { followCell(); }));
@@ -74,6 +78,11 @@ void PianoRoll::setKeysInUse (bool areInUse)
     refresh();
 }
 
+float PianoRoll::cursorLine() const
+{
+    return std::max (1.0f, context.editor.canvas.pixelsOf ("ThinnerStroke"));
+}
+
 juce::Rectangle<int> PianoRoll::boundsOfCursor() const
 {
     const auto& cell = context.pattern.cellCursor.get();
@@ -86,6 +95,14 @@ juce::Rectangle<int> PianoRoll::boundsOfCursor() const
     return geometry.boundsOfCell (start, start + geometry.columnLength(), cell->row);
 }
 
+void PianoRoll::followLasso()
+{
+    const auto newLasso = context.pattern.getLasso() ? lassoBounds().expanded (2) : juce::Rectangle<int>();
+    repaint (paintedLasso);
+    repaint (newLasso);
+    paintedLasso = newLasso;
+}
+
 void PianoRoll::followCell()
 {
     const auto newCursor = boundsOfCursor();
@@ -93,7 +110,7 @@ void PianoRoll::followCell()
     if (newCursor == paintedCursor)
         return;
 
-    constexpr auto edge = 2;
+    const auto edge = static_cast<int> (std::ceil (cursorLine() + 0.5f)); // and what its antialiasing touches
     repaint (paintedCursor.expanded (edge));
     repaint (newCursor.expanded (edge));
     paintedCursor = newCursor;
@@ -153,6 +170,9 @@ void PianoRoll::refresh()
         repaint();
 
     followCell();
+
+    if (! paintedLasso.isEmpty())
+        followLasso();
 
     for (const auto& area : picture.show (gridLook(), noteLooks()))
         repaint (area);
@@ -247,9 +267,8 @@ void PianoRoll::paint (juce::Graphics& g)
 
     if (! paintedCursor.isEmpty())
     {
-        const auto line = std::max (1.0f, context.editor.canvas.pixelsOf ("ThinnerStroke"));
         g.setColour (AssetScheme::Base::get().colourOf ("Focus"));
-        g.drawRect (paintedCursor.toFloat().expanded (0.5f * line), line);
+        g.drawRect (paintedCursor.toFloat().expanded (0.5f * cursorLine()), cursorLine());
     }
 }
 

@@ -62,7 +62,9 @@ private:
     void refresh();
     void setKeysInUse (bool areInUse);
     bool showsFocus() const { return context.editor.keysInUse && hasKeyboardFocus (false); }
+    float cursorLine() const; // pixels
     void followCell();
+    void followLasso();
     juce::Rectangle<int> boundsOfCursor() const;
     GridLook gridLook() const;
     std::vector<NoteLook> noteLooks() const;

@@ -1,6 +1,7 @@
 #include "GUI/Pattern/PitchMap.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Pattern/NoteQueries.h"
 
 #include <cmath>
 
@@ -134,12 +135,11 @@ void PitchMap::mouseWheelMove (const juce::MouseEvent& event, const juce::MouseW
 void PitchMap::selectRow (int row, bool adds)
 {
     const auto& drawing = context.pattern.getDrawing();
-    auto selection = adds ? drawing.selection : NoteSelection();
+    auto selection = NoteQueries::notesInRow (drawing, row);
 
-    for (auto index = 0; index < drawing.numNotes(); ++index)
-        if (drawing.note (index).event.noteNum == row)
-            selection.set (index, true);
+    if (adds)
+        selection.add (drawing.selection);
 
-    context.pattern.select (std::move (selection));
+    context.pattern.select (selection);
 }
 } // namespace Zn::GUI

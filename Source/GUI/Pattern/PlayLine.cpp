@@ -36,7 +36,7 @@ void PlayLine::setTrack (juce::Rectangle<int> newTrack, juce::Rectangle<int> new
     const auto radius = std::round (canvas.pixelsOf ("LaneHandle") * radiusOfHandle);
     const auto tip = float (roll.getY() - track.getY());
     const auto wall = tip - radius;
-    headRadius = static_cast<int> (radius) + 1;
+    headRadius = static_cast<int> (std::ceil (radius + 0.5f * float (stroke))); // from the line's left edge
 
     head.clear();
     head.startNewSubPath (-radius, wall - radius * wallOfRadius);

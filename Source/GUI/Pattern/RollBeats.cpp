@@ -30,7 +30,7 @@ bool RollBeats::isBar (int beat) const noexcept
 
 int RollBeats::strideFor (double pixelsPerBeat, double leastPixels) const noexcept
 {
-    constexpr auto largest = 1 << 20; // beyond the longest pattern
+    constexpr auto largest = 1 << 30;
     auto stride = 1;
 
     while (stride < largest && pixelsPerBeat * stride < leastPixels)

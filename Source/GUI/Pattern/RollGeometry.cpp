@@ -86,7 +86,8 @@ RollGeometry::Hit RollGeometry::hit (juce::Point<float> point,
     return {};
 }
 
-RollGeometry RollGeometry::resized (Dimensions<int> newSize, double newRowHeight, double middle) const noexcept
+RollGeometry
+RollGeometry::resized (Dimensions<int> newSize, double newRowHeight, double middle) const noexcept
 {
     auto result = *this;
     result.size = { .width = std::max (1, newSize.width), .height = std::max (1, newSize.height) };
@@ -95,9 +96,21 @@ RollGeometry RollGeometry::resized (Dimensions<int> newSize, double newRowHeight
     return result.limited();
 }
 
-RollGeometry RollGeometry::fitted() const noexcept
+bool RollGeometry::shows (juce::Range<int> rows) const noexcept
+{
+    return rows.isEmpty() || (rows.getEnd() <= topRow && rows.getStart() >= topRow - rowsVisible());
+}
+
+RollGeometry RollGeometry::centredOn (juce::Range<int> rows) const noexcept
 {
     auto result = *this;
+    result.topRow = std::ceil (0.5 * (rows.getStart() + rows.getEnd() + rowsVisible()));
+    return result.limited();
+}
+
+RollGeometry RollGeometry::fitted (juce::Range<int> rows) const noexcept
+{
+    auto result = shows (rows) ? *this : centredOn (rows);
     result.time = { 0.0, 1.0 };
     return result;
 }
@@ -143,7 +156,8 @@ RollGeometry RollGeometry::showing (double start, double end, int row) const noe
 
 double RollGeometry::shortestTime() const noexcept
 {
-    return 1.0 / std::max (fewestPartsInView, double (grid));
+    const auto shortest = 1.0 / std::max (fewestPartsInView, double (grid));
+    return std::min (shortest, time.getLength()); // what a finer grid has shown stays as it is
 }
 
 RollGeometry RollGeometry::limited() const noexcept

@@ -80,8 +80,14 @@ struct RollGeometry
     /** Another size and row height around a middle, in rows; a whole row is uppermost. */
     RollGeometry resized (Dimensions<int> newSize, double newRowHeight, double middle) const noexcept;
 
-    /** Whole pattern; rows stay. */
-    RollGeometry fitted() const noexcept;
+    /** Whether all of these rows are in sight; of none, yes. */
+    bool shows (juce::Range<int> rows) const noexcept;
+
+    /** These rows in the middle. */
+    RollGeometry centredOn (juce::Range<int> rows) const noexcept;
+
+    /** Whole pattern; rows stay unless some of these are out of sight. */
+    RollGeometry fitted (juce::Range<int> rows) const noexcept;
 
     /** By parts of the pattern and by rows, upwards and rightwards. */
     RollGeometry scrolled (double byTime, double byRows) const noexcept;

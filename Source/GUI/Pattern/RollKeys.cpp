@@ -180,7 +180,8 @@ bool RollKeys::pressArrow (const KeyPress& key)
     if (modifiers.isAltDown())
     {
         if (rows != 0)
-            changeValue (rows * (modifiers.isShiftDown() ? 10 : 1));
+            tools.nudgeValue (NoteSelection (editor.getDrawing().selection),
+                              rows * (modifiers.isShiftDown() ? 10 : 1));
 
         return rows != 0;
     }
@@ -263,16 +264,6 @@ void RollKeys::lengthen (int columns)
     const auto grid = editor.getGrid();
     editor.nudge (PatternEditor::Nudge::length, "Lengthen notes", [&] (Drawing& drawing) {
         NoteEdits::lengthenSelected (drawing, grid, -1, columns * grid.column());
-    });
-}
-
-void RollKeys::changeValue (int percent)
-{
-    const auto value = tools.getValueOfBrush();
-    editor.nudge (PatternEditor::Nudge::value, nameOf (value), [&] (Drawing& drawing) {
-        NoteEdits::changeEvents (drawing, NoteSelection (drawing.selection), [&] (auto& event) {
-            setValue (event, value, valueOf (event, value) + 0.01f * static_cast<float> (percent));
-        });
     });
 }
 

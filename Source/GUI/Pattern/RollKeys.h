@@ -47,7 +47,6 @@ private:
     void moveCell (int columns, int rows);
     void editCell();
     void lengthen (int columns);
-    void changeValue (int percent);
     void selectNext (bool backwards);
     void take (Audio::Plugins::Vornel::Brush brush);
     void reveal (int note);

@@ -4,7 +4,7 @@
 #include "GUI/Pattern/NoteEdits.h"
 #include "GUI/Pattern/SlotEdits.h"
 #include "GUI/Pattern/WholePattern.h"
-#include "Parameters/ParameterText.h"
+#include "GUI/Widgets/TypedValue.h"
 
 #include <algorithm>
 #include <utility>
@@ -241,10 +241,10 @@ void RollMenus::askForVelocityScale (juce::Component& ruler)
     constexpr auto mostPercent = 1000.0;
 
     const auto accept = [this, weak = std::weak_ptr (token)] (const juce::String& text) {
-        const auto percent = Parameters::leadingNumber (text.replaceCharacter (',', '.'));
+        const auto number = readNumber (text, ValueStyle::wholePercent);
+        const auto percent = number ? number->getDoubleValue() : -1.0;
 
-        if (weak.expired() || ! (percent >= 0.0 && percent <= mostPercent)
-            || ! text.containsAnyOf ("0123456789"))
+        if (weak.expired() || percent < 0.0 || percent > mostPercent)
             return false;
 
         editor.perform ("Scale velocities",

@@ -20,6 +20,7 @@ RollMouse::RollMouse (RollContext& contextToUse, juce::Component& rollToServe)
     : context (contextToUse)
     , roll (rollToServe)
     , pollListener (contextToUse.editor.polls, [this] { scrollAtEdge(); })
+    , brushListener (contextToUse.editor.state().brush, [this] { followBrush(); })
 {}
 
 RollPointer RollMouse::pointerAt (juce::Point<float> position) const
@@ -53,6 +54,17 @@ void RollMouse::move (const juce::MouseEvent& event)
     auto pointer = pointerOf (event);
     pointer.moved = {};
     context.tools.hover (pointer);
+    showCursor (context.tools.cursorAt (pointer));
+}
+
+/** A key has brought another tool. */
+void RollMouse::followBrush()
+{
+    if (! roll.isMouseOver() || panStart)
+        return;
+
+    auto pointer = pointerAt (roll.getMouseXYRelative().toFloat());
+    pointer.modifiers = juce::ModifierKeys::getCurrentModifiers();
     showCursor (context.tools.cursorAt (pointer));
 }
 

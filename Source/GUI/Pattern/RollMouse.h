@@ -30,6 +30,7 @@ private:
     RollPointer pointerAt (juce::Point<float> position) const;
     void showCursor (RollCursor cursor);
     void showReadout (const juce::MouseEvent& event);
+    void followBrush();
     void scrollAtEdge();
     void pan (juce::Point<float> position);
     juce::MouseCursor makePencil() const;
@@ -42,6 +43,6 @@ private:
     juce::Point<float> pressed, last;     // where the button went down, where the pointer was last
     juce::ModifierKeys lastModifiers;
     WheelSteps wheelSteps;
-    Events::Listener pollListener;
+    Events::Listener pollListener, brushListener;
 };
 } // namespace Zn::GUI

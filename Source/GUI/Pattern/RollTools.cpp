@@ -51,6 +51,11 @@ RollTools::RollTools (EditorContext& contextToUse, PatternEditor& editorToUse)
     , tools (std::make_unique<Tools> (editorToUse))
     , brushBefore (contextToUse.state().brush.get())
     , brushListener (contextToUse.state().brush, [this] { followBrush(); })
+    , slotListener (contextToUse.shownSlot, [this] { letGo(); })
+    , drawingListener (editor.drawingChanged, [this] {
+        if (! editor.isDragging())
+            letGo();
+    })
 {}
 
 RollTools::~RollTools() = default;
@@ -127,17 +132,22 @@ bool RollTools::turnWheel (const RollPointer& pointer, int percent)
     if (isDragging() || ! editor.getDrawing().hasNote (pointer.note))
         return false;
 
-    const auto value = getValueOfBrush();
-    editor.nudge (PatternEditor::Nudge::value, nameOf (value), [&] (Drawing& drawing) {
-        NoteEdits::changeEvents (
-            drawing,
-            NoteQueries::selectionOr (drawing, pointer.note),
-            [&] (auto& event) {
-                setValue (event, value, valueOf (event, value) + 0.01f * static_cast<float> (percent));
-            });
-    });
-
+    nudgeValue (NoteQueries::selectionOr (editor.getDrawing(), pointer.note), percent);
     return true;
+}
+
+void RollTools::nudgeValue (const NoteSelection& notes, int percent)
+{
+    const auto value = getValueOfBrush();
+
+    if (const Nudged now { .value = value, .notes = notes }; std::exchange (nudged, now) != now)
+        context.edits.finish();
+
+    editor.nudge (PatternEditor::Nudge::value, nameOf (value), [&] (Drawing& drawing) {
+        NoteEdits::changeEvents (drawing, notes, [&] (auto& event) {
+            setValue (event, value, valueOf (event, value) + 0.01f * static_cast<float> (percent));
+        });
+    });
 }
 
 RollCursor RollTools::cursorAt (const RollPointer& pointer) const
@@ -181,6 +191,12 @@ bool RollTools::isUpToDate() const
     const auto seen = editor.getDrawing();
     context.processor.finishPendingLoad();
     return seen.playsAs (editor.getDrawing());
+}
+
+void RollTools::letGo()
+{
+    current = nullptr;
+    editor.setLasso ({});
 }
 
 void RollTools::followBrush()

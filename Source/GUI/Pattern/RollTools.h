@@ -4,6 +4,8 @@
 #include "GUI/Pattern/PatternEditor.h"
 #include "GUI/Pattern/RollTool.h"
 
+#include <optional>
+
 namespace Zn::GUI
 {
 /** The tools of the roll: gives each press of the pointer to the one that the brush, the button and the modifiers ask for,
@@ -31,6 +33,9 @@ public:
     /** A turn of the wheel over a note, with Alt: its value by whole percents. False where there is no note. */
     bool turnWheel (const RollPointer& pointer, int percent);
 
+    /** What the brush in hand changes, of some notes and by whole percents; joins the last one if that was the same. */
+    void nudgeValue (const NoteSelection& notes, int percent);
+
     bool isDragging() const noexcept { return current != nullptr; }
     bool scrolls() const { return current != nullptr && current->scrolls(); }
     RollCursor cursorAt (const RollPointer& pointer) const;
@@ -50,6 +55,17 @@ private:
     bool isUpToDate() const;
     void followBrush();
 
+    /** The drawing has become another one: what the hand held is no longer there. */
+    void letGo();
+
+    struct Nudged
+    {
+        NoteValue value;
+        NoteSelection notes;
+
+        bool operator== (const Nudged&) const = default;
+    };
+
     EditorContext& context;
     PatternEditor& editor;
     struct Tools;
@@ -59,6 +75,7 @@ private:
     NoteSelection selectionBefore;
     bool hasDragged = false;
     Audio::Plugins::Vornel::Brush brushBefore {};
-    Events::Listener brushListener;
+    std::optional<Nudged> nudged; // last
+    Events::Listener brushListener, slotListener, drawingListener;
 };
 } // namespace Zn::GUI

@@ -90,6 +90,14 @@ void RollView::scrollRows (float amount, bool isSmooth)
     set (geometry.scrolled (0.0, rows));
 }
 
+void RollView::fit (juce::Range<int> rows)
+{
+    if (rows.getLength() > geometry.rowsVisible())
+        zoomRows (geometry.rowsVisible() / rows.getLength(), 0.0);
+
+    set (geometry.fitted (rows));
+}
+
 void RollView::zoomRows (double factor, double aroundY)
 {
     rowUnits = std::clamp (static_cast<float> (double (rowUnits) * factor),

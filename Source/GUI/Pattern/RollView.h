@@ -22,7 +22,8 @@ public:
     /** Follows the editor's size and fold: rows keep their height as a part of the editor. */
     void setSize (Dimensions<int> rollPixels);
 
-    void fit() { set (geometry.fitted()); }
+    /** The whole pattern, whose notes lie in some rows: lower ones where there are too many to be seen. */
+    void fit (juce::Range<int> rows);
 
     /** A turn of the wheel over the roll, or beside it at `x` of the roll. With Alt it does nothing. */
     void turnWheel (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel, float x);
@@ -33,6 +34,7 @@ public:
     /** Above 1 makes rows taller, within what the scheme allows. */
     void zoomRows (double factor, double aroundY);
 
+    void centreOn (juce::Range<int> rows) { set (geometry.centredOn (rows)); }
     void showCell (double start, double end, int row) { set (geometry.showing (start, end, row)); }
 
 private:
@@ -42,7 +44,7 @@ private:
     AssetScheme::Canvas& canvas;
     RollGeometry geometry;
     double middle = RollGeometry::firstCentre; // of the rows, kept when the size changes
-    float rowUnits = 0.0f; // thousandths of the editor's height
+    float rowUnits = 0.0f;                     // thousandths of the editor's height
 };
 
 /** How much a turn of the wheel zooms. */

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GUI/Framework/AssetScheme/Element.h"
+#include "GUI/Pattern/NoteQueries.h"
 #include "GUI/Pattern/RollBeats.h"
 #include "GUI/Pattern/RollContext.h"
 #include "GUI/Pattern/ScaledImage.h"
@@ -23,7 +24,10 @@ public:
     void paint (juce::Graphics& g) override { picture.paint (g, getLocalBounds()); }
     void schemeChanged() override;
     void mouseUp (const juce::MouseEvent& event) override;
-    void mouseDoubleClick (const juce::MouseEvent&) override { context.view.fit(); }
+    void mouseDoubleClick (const juce::MouseEvent&) override
+    {
+        context.view.fit (NoteQueries::rowsOf (context.pattern.getDrawing().notes));
+    }
     void mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel) override
     {
         context.view.turnWheel (event, wheel, event.position.x);

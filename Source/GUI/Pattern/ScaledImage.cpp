@@ -15,13 +15,15 @@ juce::Image imageAtScale (juce::Rectangle<int> area, float scale, juce::Image::P
     return { format, pixels (area.getWidth()), pixels (area.getHeight()), isClear };
 }
 
-void drawAtScale (juce::Graphics& g, const juce::Image& image, float scale)
+void drawAtScale (juce::Graphics& g, const juce::Image& image, float scale, float opacity)
 {
-    g.setOpacity (1.0f);
+    // Pixel for pixel, even where the place on the screen is no whole one.
+    g.setImageResamplingQuality (juce::Graphics::lowResamplingQuality);
+    g.setOpacity (opacity);
     g.drawImageTransformed (image, juce::AffineTransform::scale (1.0f / scale));
 }
 
-void ScaledImage::paint (juce::Graphics& g, juce::Rectangle<int> size)
+void ScaledImage::paint (juce::Graphics& g, juce::Rectangle<int> size, float opacity)
 {
     const auto screenScale = g.getInternalContext().getPhysicalPixelScaleFactor();
 
@@ -36,6 +38,6 @@ void ScaledImage::paint (juce::Graphics& g, juce::Rectangle<int> size)
         ++numPaints;
     }
 
-    drawAtScale (g, image, scale);
+    drawAtScale (g, image, scale, opacity);
 }
 } // namespace Zn::GUI

@@ -22,7 +22,7 @@ public:
     void invalidate() { image = {}; }
 
     /** From the component's corner. What is painted must cover all of the size where the format has no transparency. */
-    void paint (juce::Graphics& g, juce::Rectangle<int> size);
+    void paint (juce::Graphics& g, juce::Rectangle<int> size, float opacity = 1.0f);
 
     /** How often it was painted anew, for tests. */
     int getNumPaints() const noexcept { return numPaints; }
@@ -40,5 +40,5 @@ juce::Image
 imageAtScale (juce::Rectangle<int> area, float scale, juce::Image::PixelFormat format = juce::Image::RGB);
 
 /** Puts such an image to the component's corner, pixel for pixel. */
-void drawAtScale (juce::Graphics& g, const juce::Image& image, float scale);
+void drawAtScale (juce::Graphics& g, const juce::Image& image, float scale, float opacity = 1.0f);
 } // namespace Zn::GUI

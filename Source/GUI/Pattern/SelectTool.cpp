@@ -16,6 +16,11 @@ int copyOf (const Drawing& drawing, int note)
         std::distance (selection.begin(), std::find (selection.begin(), selection.end(), note));
     return drawing.numNotes() + static_cast<int> (place);
 }
+
+bool isAtPlaceOf (const Sequencer::TimedNote& note, const Sequencer::TimedNote& other)
+{
+    return note.time.start == other.time.start && note.event.noteNum == other.event.noteNum;
+}
 } // namespace
 
 void LassoTool::down (const RollPointer& pointer)
@@ -65,7 +70,9 @@ void SelectTool::down (const RollPointer& pointer)
         editor.select (selection);
     }
 
-    editor.beginDrag (pointer.isAtEnd ? "Lengthen notes" : "Move notes");
+    editor.beginDrag (pointer.isAtEnd                     ? "Lengthen notes"
+                      : pointer.modifiers.isCommandDown() ? "Copy notes"
+                                                          : "Move notes");
 }
 
 void SelectTool::drag (const RollPointer& pointer)
@@ -129,19 +136,24 @@ void SelectTool::move (const RollPointer& pointer)
         keepsToAxis && goesSideways ? 0.0 : std::floor (pointer.at.row) - std::floor (pressed.at.row);
 
     editor.updateDrag ([&] (Drawing& drawing) {
-        auto inHand = pressed.note;
+        const auto moveFrom = [&] (int inHand) {
+            NoteEdits::moveSelected (drawing,
+                                     editor.getGrid (pointer.modifiers.isAltDown()),
+                                     inHand,
+                                     byTime,
+                                     static_cast<int> (byRows));
+        };
 
-        if (pointer.modifiers.isCommandDown())
-        {
-            inHand = copyOf (drawing, inHand);
-            NoteEdits::duplicateInPlace (drawing);
-        }
+        if (! pointer.modifiers.isCommandDown())
+            return moveFrom (pressed.note);
 
-        NoteEdits::moveSelected (drawing,
-                                 editor.getGrid (pointer.modifiers.isAltDown()),
-                                 inHand,
-                                 byTime,
-                                 static_cast<int> (byRows));
+        const auto before = drawing;
+        const auto copy = copyOf (drawing, pressed.note);
+        NoteEdits::duplicateInPlace (drawing);
+        moveFrom (copy);
+
+        if (! drawing.hasNote (copy) || isAtPlaceOf (drawing.note (copy), drawing.note (pressed.note)))
+            drawing = before; // nobody would see or hear that there are two
     });
 }
 

@@ -11,7 +11,7 @@ namespace Zn::GUI
 {
 namespace
 {
-const std::string kind = "Slot"; // of what is on the clipboard
+constexpr Clipboard::Kind kind { .name = "Slot", .content = "Pattern" };
 
 juce::String named (const char* verb, int slot)
 {
@@ -19,10 +19,9 @@ juce::String named (const char* verb, int slot)
 }
 } // namespace
 
-void SlotEdits::copyTo (int from, int to)
+bool SlotEdits::copyTo (int from, int to)
 {
-    if (from != to)
-        perform (named ("Copy", from), [&] { slot (to) = slot (from); });
+    return from != to && perform (named ("Copy", from), [&] { slot (to) = slot (from); });
 }
 
 void SlotEdits::swap (int first, int second)
@@ -91,8 +90,9 @@ Sequencer::PatternSlot& SlotEdits::slot (int index) const
     return slots[static_cast<std::size_t> (juce::jlimit (0, Sequencer::numSlots - 1, index))];
 }
 
-void SlotEdits::perform (const juce::String& name, const std::function<void()>& change)
+bool SlotEdits::perform (const juce::String& name, const std::function<void()>& change)
 {
+    auto hasChanged = false;
     context.edits.perform (name, [&] {
         auto& patterns = context.state().patterns;
         std::vector<Drawing> before;
@@ -105,11 +105,13 @@ void SlotEdits::perform (const juce::String& name, const std::function<void()>& 
             change();
         }
 
-        return ! std::equal (
-            before.begin(),
-            before.end(),
-            patterns.getSlots().begin(),
-            [] (const auto& drawing, const auto& now) { return drawing.playsAs (Drawing::of (now)); });
+        const auto playsAs = [] (const auto& drawing, const auto& now) {
+            return drawing.playsAs (Drawing::of (now));
+        };
+        hasChanged = ! std::equal (before.begin(), before.end(), patterns.getSlots().begin(), playsAs);
+        return hasChanged;
     });
+
+    return hasChanged;
 }
 } // namespace Zn::GUI

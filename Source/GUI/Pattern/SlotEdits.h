@@ -15,7 +15,8 @@ class SlotEdits
 public:
     explicit SlotEdits (EditorContext& contextToUse) noexcept : context (contextToUse) {}
 
-    void copyTo (int from, int to);
+    /** Whether the other slot plays otherwise now. */
+    bool copyTo (int from, int to);
     void swap (int first, int second);
 
     /** Back to an empty drawing over one bar. */
@@ -36,7 +37,9 @@ public:
 
 private:
     Sequencer::PatternSlot& slot (int index) const;
-    void perform (const juce::String& name, const std::function<void()>& change);
+
+    /** Whether anything plays otherwise now. */
+    bool perform (const juce::String& name, const std::function<void()>& change);
 
     EditorContext& context;
 };

@@ -6,11 +6,6 @@
 
 namespace Zn::GUI
 {
-namespace
-{
-constexpr auto joinMilliseconds = 600u;
-}
-
 Edits::Edits (Undo::Interface& undoToUse, CallbackFunc finishPendingLoadToUse)
     : history (undoToUse)
     , finishPendingLoad (std::move (finishPendingLoadToUse))
@@ -32,14 +27,18 @@ std::unique_ptr<Undo::Transaction> Edits::begin (const juce::String& name)
     return std::make_unique<Undo::Transaction> (history, name);
 }
 
-void Edits::join (const void* target, const juce::String& name, const std::function<bool()>& change)
+void Edits::join (const void* target,
+                  const juce::String& name,
+                  const std::function<bool()>& change,
+                  juce::uint32 longestPause)
 {
-    const auto now = juce::Time::getMillisecondCounter();
+    closeWhenOld();
 
-    if (! joined || joined->target != target || now - joined->lastTime > joinMilliseconds)
-        joined = Joined { .target = target, .transaction = begin (name), .lastTime = now };
+    if (! joined || joined->target != target)
+        joined = Joined { .target = target, .transaction = begin (name), .lastTime = 0, .longestPause = 0 };
 
-    joined->lastTime = now;
+    joined->lastTime = juce::Time::getMillisecondCounter();
+    joined->longestPause = longestPause;
     auto& transaction = *joined->transaction;
 
     if (change())
@@ -72,7 +71,7 @@ void Edits::travel (void (Undo::Interface::*step)())
 
 void Edits::closeWhenOld()
 {
-    if (joined && juce::Time::getMillisecondCounter() - joined->lastTime > joinMilliseconds)
+    if (joined && juce::Time::getMillisecondCounter() - joined->lastTime > joined->longestPause)
         finish();
 }
 } // namespace Zn::GUI

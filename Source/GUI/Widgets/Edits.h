@@ -5,6 +5,8 @@
 #include "Foundation/Events/UpdateTimer.h"
 #include "Presets/Undo/Transaction.h"
 
+#include <juce_core/juce_core.h>
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -28,10 +30,15 @@ public:
     /** A drag: the step lasts as long as the transaction that is returned, which is told of changes by markChanged(). */
     std::unique_ptr<Undo::Transaction> begin (const juce::String& name);
 
-    /** A turn of the wheel or a press of an arrow key: joins the last one if that was on the same target less than
-        600 ms ago. The target is only compared.
+    static constexpr juce::uint32 shortPause = 600; // milliseconds
+
+    /** A turn of the wheel or a press of an arrow key: joins the last one if that was on the same target, and not longer
+        ago than a pause in milliseconds. The target is only compared.
     */
-    void join (const void* target, const juce::String& name, const std::function<bool()>& change);
+    void join (const void* target,
+               const juce::String& name,
+               const std::function<bool()>& change,
+               juce::uint32 longestPause = shortPause);
 
     /** Closes the step that later turns might have joined. */
     void finish();
@@ -49,7 +56,7 @@ private:
     {
         const void* target;
         std::unique_ptr<Undo::Transaction> transaction;
-        juce::uint32 lastTime; // milliseconds
+        juce::uint32 lastTime, longestPause; // milliseconds
     };
 
     void travel (void (Undo::Interface::*step)());

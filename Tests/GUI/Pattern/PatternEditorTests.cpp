@@ -267,6 +267,9 @@ TEST_F (PatternEditing, KeepsTheSelectionOfWhatIsStillThere)
 
     bare.edits.undo();
     EXPECT_EQ (editor.getDrawing().selection, NoteSelection { 3 });
+
+    bare.set (Tests::steps ("..xxxx"));
+    EXPECT_TRUE (editor.getDrawing().selection.isEmpty()) << "as many notes, but others";
 }
 } // namespace
 } // namespace Zn::GUI

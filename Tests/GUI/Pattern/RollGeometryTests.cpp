@@ -87,6 +87,13 @@ TEST (RollGeometry, ShowsNothingBeyondThePattern)
     EXPECT_EQ (roll.zoomedTime (4.0, 0.0).scrolled (-2.0, 0.0).time.getStart(), 0.0);
     EXPECT_EQ (roll.zoomedTime (4.0, 0.0).scrolled (9.0, 0.0).time.getEnd(), 1.0);
     EXPECT_EQ (roll.scrolled (0.0, 500.0).topRow, 128.0);
+
+    auto fine = roll;
+    fine.grid = 128;
+    fine = fine.zoomedTime (1000.0, 0.0);
+    fine.grid = 16; // another slot has been opened
+    EXPECT_EQ (fine.scrolled (0.0, 1.0).time, fine.time);
+    EXPECT_EQ (fine.zoomedTime (1.25, 0.0).time, fine.time);
     EXPECT_EQ (roll.scrolled (0.0, -500.0).rowAt (roll.size.height - 1), 0);
 }
 

@@ -84,6 +84,11 @@ TEST_F (RollKeysTest, EditTheSelection)
     EXPECT_FLOAT_EQ (editor.getDrawing().note (1).event.velocity, 0.69f);
     EXPECT_FALSE (editor.getDrawing().note (1).enabled);
     EXPECT_TRUE (editor.getDrawing().note (0).enabled);
+
+    bare.set ({ note (60, 0.0, 0.03125) });
+    editor.select ({ 0 });
+    press ("shift + cursor right");
+    EXPECT_EQ (text(), "60 @0+0.0625") << "to the next line";
 }
 
 TEST_F (RollKeysTest, QuickPressesOfOneKindAreOneStep)
@@ -224,6 +229,17 @@ TEST_F (RollKeysTest, MenusActOnWhatTheyWereOpenedFor)
     bare.overlay.choose ("Paste here");
     EXPECT_EQ (text(), "60 @0+0.0625, 70 @0.6875+0.125");
 
+    bare.getState().snap = false;
+    bare.set ({ note (60, 0.02, 0.125) });
+    editor.select ({ 0 });
+    menus.showForRoll ({ .at = { 0.03, 60.5 }, .note = 0 });
+    bare.overlay.choose ("Cut");
+    menus.showForRoll ({ .at = { 0.5, 70.5 } });
+    bare.overlay.choose ("Paste here");
+    EXPECT_EQ (text(), "70 @0.5+0.125") << "at the pointer, as nothing snaps";
+    bare.getState().snap = true;
+    bare.set ({ note (60, 0.0, 0.0625), note (70, 0.6875, 0.125) });
+
     menus.showForRow (70);
     bare.overlay.choose ("Row down");
     EXPECT_EQ (text(), "60 @0+0.0625, 69 @0.6875+0.125");
@@ -231,6 +247,7 @@ TEST_F (RollKeysTest, MenusActOnWhatTheyWereOpenedFor)
     menus.showForRuler (roll);
     bare.overlay.choose (juce::String::fromUTF8 ("Scale velocities…"));
     EXPECT_FALSE (bare.overlay.accept ("loud"));
+    EXPECT_FALSE (bare.overlay.accept ("x2"));
     EXPECT_TRUE (bare.overlay.accept ("50 %"));
     EXPECT_FLOAT_EQ (editor.getDrawing().note (0).event.velocity, 0.4f);
 }

@@ -106,6 +106,7 @@ TEST_F (RollToolsTest, DoWhatTheTableOfToolsSays)
           "125 @10+1*, 127 @14+2*" },
         { "keep to one axis", Brush::cursor, {}, shift, at (0, 60), at (2, 61), "60 @2+1*, 62 @4+2" },
         { "copy", Brush::cursor, {}, ctrl, at (0, 60), at (1, 61), untouched + ", 61 @1+1*" },
+        { "copy to the same place", Brush::cursor, {}, ctrl, at (0, 60), at (0.3, 60), "60 @0+1*, 62 @4+2" },
         { "lengthen all", Brush::cursor, { 0, 1 }, 0, end (1, 60), end (3, 60), "60 @0+3*, 62 @4+4*" },
         { "no shorter than a column",
           Brush::cursor,
@@ -188,6 +189,20 @@ TEST_F (RollToolsTest, BrushesSwitchTheLaneAndClearAllIsNoneOfThem)
     EXPECT_EQ (inColumns (editor.getDrawing()), "60 @0+1, 62 @4+2");
 }
 
+TEST_F (RollToolsTest, LetGoWhenThePatternIsTakenAway)
+{
+    start (Brush::cursor);
+    bare.set ({ note (61, 0.25, 0.125) }, 1);
+    pen.press (Pen::cell (3, 70));
+    pen.moveTo (Pen::cell (4, 62));
+    bare.shownSlot.set (1);
+    pen.moveTo (Pen::cell (4, 61));
+    pen.release();
+
+    EXPECT_TRUE (editor.getDrawing().selection.isEmpty());
+    EXPECT_FALSE (editor.getLasso());
+}
+
 TEST_F (RollToolsTest, RightClickAsksForAMenuAndTurnsOfTheWheelAreOneStep)
 {
     start (Brush::pencil);
@@ -202,6 +217,9 @@ TEST_F (RollToolsTest, RightClickAsksForAMenuAndTurnsOfTheWheelAreOneStep)
         EXPECT_TRUE (tools.turnWheel (pen.pointer (Pen::cell (4, 62)), -1));
 
     EXPECT_FLOAT_EQ (editor.getDrawing().note (1).event.velocity, 0.77f);
+    tools.turnWheel (pen.pointer (Pen::cell (0, 60)), -1);
+    bare.edits.undo();
+    EXPECT_NE (bare.document(), before) << "another note, another step";
     bare.edits.undo();
     EXPECT_EQ (bare.document(), before);
 }

@@ -92,13 +92,15 @@ TEST_F (SlotEditing, AVariationKeepsTheRhythmAndTheRowsInUse)
 
 TEST_F (SlotEditing, TextFromElsewhereIsNoSlot)
 {
-    for (const auto* text : { "", "Hello", "{", "{\"Slot\": 3}", "[1, 2]", "{\"Notes\": {}}" })
+    for (const auto* text :
+         { "", "Hello", "{", "{\"Slot\": 3}", "{\"Slot\": {}}", "[1, 2]", "{\"Notes\": {}}" })
     {
         Clipboard::setText (text);
         EXPECT_FALSE (edits.canPaste()) << text;
         edits.paste (0);
     }
 
+    EXPECT_FALSE (edits.copyTo (4, 5)) << "as empty as the other";
     EXPECT_FALSE (bare.edits.getUndo().canUndo());
 }
 
