@@ -23,7 +23,7 @@ void DragMidi::mouseDrag (const juce::MouseEvent& event)
 {
     constexpr auto threshold = 4; // pixels
 
-    if (isOut || event.getDistanceFromDragStart() < threshold)
+    if (isOut || ! isPressed() || event.getDistanceFromDragStart() < threshold)
         return;
 
     isOut = true;

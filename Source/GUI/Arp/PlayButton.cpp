@@ -34,8 +34,13 @@ void PlayButton::poll()
 {
     const auto now = playHead.isPlaying.load();
 
-    if (std::exchange (plays, now) != now)
-        repaint();
+    if (std::exchange (plays, now) == now)
+        return;
+
+    repaint();
+
+    if (auto* handler = getAccessibilityHandler())
+        handler->notifyAccessibilityEvent (juce::AccessibilityEvent::valueChanged);
 }
 
 void PlayButton::mouseDown (const juce::MouseEvent& event)
@@ -105,9 +110,11 @@ void PlayButton::paintControl (juce::Graphics& g)
         g.fillEllipse (circle);
     }
 
-    // What is only shown is still to be seen well.
-    g.setColour (AssetScheme::Base::get().colourOf (isEnabled() ? "Time" : "Choice"));
-    g.drawEllipse (circle, stroke);
+    if (plays || ! isEnabled()) // what is only shown is still to be seen well
+    {
+        g.setColour (AssetScheme::Base::get().colourOf (isEnabled() ? "Time" : "Choice"));
+        g.drawEllipse (circle, stroke);
+    }
 
     const auto size = pixels ("PlayIcon");
     auto& icon = plays ? stopIcon : playIcon;

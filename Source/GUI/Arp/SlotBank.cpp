@@ -189,13 +189,9 @@ void SlotBank::open (int slot)
 void SlotBank::drop (int from, int onto, bool swaps)
 {
     if (swaps)
-    {
         slotEdits.swap (from, onto);
-        return;
-    }
-
-    slotEdits.copyTo (from, onto);
-    context.overlay.showUndo ("Pattern copied to slot " + juce::String (onto + 1));
+    else if (slotEdits.copyTo (from, onto))
+        context.overlay.showUndo ("Pattern copied to slot " + juce::String (onto + 1));
 }
 
 void SlotBank::showMenu (SlotTile& tile)

@@ -2,8 +2,7 @@
 
 #include "GUI/Widgets/StepsPicture.h"
 
-#include <algorithm>
-#include <cmath>
+#include <utility>
 
 namespace Zn::GUI
 {
@@ -20,7 +19,11 @@ std::string elementOf (int slotIndex)
 SlotPreview::SlotPreview (AssetScheme::Canvas& canvasToLieOn,
                           int slotIndex,
                           const Sequencer::PatternSlot& slotToShow)
-    : Element (canvasToLieOn, elementOf (slotIndex)), slot (slotToShow), steps (slotToShow.pattern.steps)
+    : Element (canvasToLieOn, elementOf (slotIndex))
+    , slot (slotToShow)
+    , steps (slotToShow.pattern.steps)
+    , picture ([this] (auto& g) { paintSteps (g, getCanvas(), getLocalBounds().toFloat(), steps); },
+               juce::Image::ARGB)
 {
     setInterceptsMouseClicks (false, false);
     setAccessible (false);
@@ -32,7 +35,7 @@ bool SlotPreview::update()
         return false;
 
     steps = slot.pattern.steps;
-    image = {};
+    picture.invalidate();
     repaint();
     return true;
 }
@@ -45,30 +48,7 @@ void SlotPreview::setBright (bool shouldBeBright)
 
 void SlotPreview::paint (juce::Graphics& g)
 {
-    if (steps.empty())
-        return;
-
-    const auto scale = g.getInternalContext().getPhysicalPixelScaleFactor();
-
-    if (image.isNull() || ! juce::approximatelyEqual (scale, imageScale))
-        render (scale);
-
-    g.setOpacity (isBright ? 1.0f : dimmed);
-    g.drawImageTransformed (image, juce::AffineTransform::scale (1.0f / imageScale));
-}
-
-void SlotPreview::render (float scale)
-{
-    const auto deviceSize = [scale] (int size) {
-        return std::max (1, int (std::ceil (float (size) * scale)));
-    };
-
-    imageScale = scale;
-    image = { juce::Image::ARGB, deviceSize (getWidth()), deviceSize (getHeight()), true };
-
-    juce::Graphics g (image);
-    g.addTransform (juce::AffineTransform::scale (scale));
-
-    paintSteps (g, getCanvas(), getLocalBounds().toFloat(), steps);
+    if (! steps.empty())
+        picture.paint (g, getLocalBounds(), isBright ? 1.0f : dimmed);
 }
 } // namespace Zn::GUI

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GUI/Framework/AssetScheme/Element.h"
+#include "GUI/Pattern/ScaledImage.h"
 #include "Sequencer/PatternSlot.h"
 
 #include <vector>
@@ -26,17 +27,14 @@ public:
     int getNumNotes() const noexcept { return static_cast<int> (steps.size()); }
 
     void paint (juce::Graphics& g) override;
-    void schemeChanged() override { image = {}; }
+    void schemeChanged() override { picture.invalidate(); }
 
 private:
     using Steps = std::vector<Sequencer::TimedNote>;
 
-    void render (float scale);
-
     const Sequencer::PatternSlot& slot;
     Steps steps; // what is shown
-    juce::Image image;
-    float imageScale = 0.0f; // device pixels of the image for one of ours
+    ScaledImage picture;
     bool isBright = false;
 };
 } // namespace Zn::GUI

@@ -87,8 +87,15 @@ void SlotTile::setPulse (float newPulse)
 
 void SlotTile::patternChanged()
 {
-    if (preview.update())
-        repaint();
+    const auto before = preview.getNumNotes();
+
+    if (! preview.update())
+        return;
+
+    repaint();
+
+    if (auto* handler = getAccessibilityHandler(); handler != nullptr && preview.getNumNotes() != before)
+        handler->notifyAccessibilityEvent (juce::AccessibilityEvent::titleChanged);
 }
 
 void SlotTile::schemeChanged()

@@ -10,7 +10,10 @@ BrowserPopup::BrowserPopup (EditorContext& contextToUse,
                             BrowserColours colours)
     : Popup (contextToUse, prefix + "Popup", title)
     , search (context.canvas, prefix + "Search", "search.svg")
-    , groups (context.canvas, prefix, colours, [this] { showFound(); })
+    , groups (context.canvas, prefix, colours, [this] {
+        groupBeforeSearch = groups.getChosen();
+        showFound();
+    })
 {
     search.onKey = [this] (const juce::KeyPress& key) { return answerSearchKey (key); };
     addAndMakeVisible (search);

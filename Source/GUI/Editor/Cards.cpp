@@ -180,7 +180,11 @@ void MessageCard::place()
 
     const auto linkWidth = link.isVisible() ? linkFont.getStringWidth (link.getButtonText()) + 2 * inset : 0;
     const auto width = font.getStringWidth (text) + linkWidth + 3 * inset;
-    setBounds (whole.withSizeKeepingCentre (std::min (width, whole.getWidth()), whole.getHeight()));
+    numLines = width > whole.getWidth() ? 2 : 1;
+
+    const auto height = whole.getHeight() + (numLines - 1) * juce::roundToInt (font.getHeight());
+    setBounds (whole.withSizeKeepingCentre (std::min (width, whole.getWidth()), whole.getHeight())
+                   .withTop (whole.getBottom() - height));
     link.setBounds (getLocalBounds().withTrimmedRight (inset / 2).removeFromRight (linkWidth));
     repaint();
 }
@@ -195,6 +199,6 @@ void MessageCard::paint (juce::Graphics& g)
                           .withRight (link.isVisible() ? link.getX() : getWidth() - inset);
     g.setColour (colour ("Text"));
     g.setFont (font);
-    g.drawText (text, area, juce::Justification::centredLeft, true);
+    g.drawFittedText (text, area, juce::Justification::centredLeft, numLines, 1.0f);
 }
 } // namespace Zn::GUI

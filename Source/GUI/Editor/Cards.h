@@ -66,6 +66,7 @@ private:
     const AssetScheme::Canvas& canvas;
     juce::String text;
     juce::Font font;
+    int numLines = 1;
     juce::HyperlinkButton link;
 };
 } // namespace Zn::GUI

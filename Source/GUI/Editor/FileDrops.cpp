@@ -57,7 +57,7 @@ void DropTarget::paint (juce::Graphics& g)
 }
 
 FileDrops::FileDrops (EditorContext& contextToUse, std::vector<Kind> kindsToTake)
-    : kinds (std::move (kindsToTake)), target (contextToUse)
+    : context (contextToUse), kinds (std::move (kindsToTake)), target (contextToUse)
 {}
 
 void FileDrops::enter (const juce::StringArray& files)
@@ -76,6 +76,9 @@ void FileDrops::drop (const juce::StringArray& files)
 
 const FileDrops::Kind* FileDrops::kindOf (const juce::StringArray& files) const
 {
+    if (files.contains (context.draggedOut.getFullPathName()))
+        return nullptr; // somebody has thought better of it
+
     const auto kind = std::ranges::find_if (kinds, [&files] (const Kind& k) { return k.accepts (files); });
     return kind != kinds.end() ? &*kind : nullptr;
 }

@@ -59,6 +59,7 @@ public:
 private:
     const Kind* kindOf (const juce::StringArray& files) const;
 
+    EditorContext& context;
     const std::vector<Kind> kinds;
     DropTarget target;
 };

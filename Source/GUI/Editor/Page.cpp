@@ -26,7 +26,8 @@ Page::Page (Audio::Plugins::Vornel::Processor& processor)
                 .polls = polls,
                 .shownSlot = shownSlot,
                 .actions = actions,
-                .keysInUse = keysInUse }
+                .keysInUse = keysInUse,
+                .draggedOut = draggedOut }
     , timer (Events::UpdateTimer::screenInterval, [this] { polls.callListeners(); })
     , frames (this, [] { Events::SharedTimer::getInstance().frame (juce::Time::getMillisecondCounter()); })
 {

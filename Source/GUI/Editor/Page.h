@@ -78,6 +78,7 @@ private:
     Events::Value<int> shownSlot;
     PageActions actions { ownActions() };
     bool keysInUse = false;
+    juce::File draggedOut;
     OverlayLayer overlay;
     EditorContext context;
 

@@ -92,8 +92,7 @@ void ValueEntry::schemeChanged()
 {
     const auto font = getCanvas().fontOf ("FontBody");
     applyFontToAllText (font);
-    setIndents (juce::roundToInt (getCanvas().pixelsOf ("MenuItemInset")),
-                juce::roundToInt ((float (getHeight()) - font.getHeight()) / 2.0f));
+    setIndents (juce::roundToInt (getCanvas().pixelsOf ("MenuItemInset")), 0);
     setJustification (juce::Justification::centredLeft);
 
     if (control == nullptr || getParentComponent() == nullptr)

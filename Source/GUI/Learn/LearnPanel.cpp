@@ -125,6 +125,7 @@ LearnPanel::LearnPanel (EditorContext& contextToUse)
     setTitle ("Learned");
     view.setViewedComponent (&list, false);
     view.setScrollBarsShown (true, false);
+    forgetAll.setEnabled (false);
     addAndMakeVisible (view);
     addAndMakeVisible (forgetAll);
 }
@@ -137,6 +138,7 @@ void LearnPanel::setLines (std::vector<Line> newLines)
         return;
 
     rows.clear();
+    forgetAll.setEnabled (! lines.empty());
 
     for (const auto& line : lines)
         list.addAndMakeVisible (*rows.emplace_back (std::make_unique<Row> (*this, line)));

@@ -7,7 +7,7 @@
 namespace Zn::GUI
 {
 /** What the roll, its ruler, its lane and its pitch map see of the drawing, and how a hand scrolls and zooms it. Edits,
-    undo and other slots leave it alone. Tells when it has changed. Thread: message.
+    undo and other slots leave it alone, but for a slot whose notes would be out of sight. Tells when it has changed. Thread: message.
 */
 class RollView : public Events::HasBroadcaster
 {

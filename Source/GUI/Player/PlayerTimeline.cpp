@@ -130,15 +130,18 @@ void PlayerTimeline::poll()
     }
 }
 
-/** Where it is heard: as the engine does, from the song's beginning. */
+/** As the engine counts it, from the song's beginning. */
+double PlayerTimeline::getPosition() const
+{
+    return std::fmod (context.state().playHead->positionPpq.load(), song->slot.playLength);
+}
+
 int PlayerTimeline::chordNow() const
 {
-    const auto& playHead = *context.state().playHead;
-
-    if (song == nullptr || ! context.state().player.isHeard() || ! playHead.isPlaying.load())
+    if (song == nullptr || ! context.state().player.isHeard() || ! context.state().playHead->isPlaying.load())
         return -1;
 
-    const auto position = std::fmod (playHead.positionPpq.load(), song->slot.playLength);
+    const auto position = getPosition();
     const auto playing = std::ranges::find_if (chords, [position] (const SongChord& chord) {
         return chord.time.start <= position && position < chord.time.end();
     });
@@ -194,9 +197,13 @@ bool PlayerTimeline::keyPressed (const juce::KeyPress& key)
     if (step == 0 || chords.empty())
         return false;
 
+    const auto begunBy = [position = getPosition()] (const SongChord& chord) {
+        return chord.time.start <= position;
+    };
+    const auto numBegun = static_cast<int> (std::ranges::count_if (chords, begunBy));
     const auto count = static_cast<int> (chords.size());
     ring.keyPressed();
-    jumpTo ((std::max (chordNow(), 0) + step + count) % count);
+    jumpTo ((std::max (numBegun - 1, 0) + step + count) % count);
     return true;
 }
 

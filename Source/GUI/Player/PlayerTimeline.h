@@ -41,6 +41,7 @@ private:
     void readSong();
     void layOut();
     bool canJump() const;
+    double getPosition() const; // in the song, quarters; there is one
     int chordNow() const;
     int chordAt (juce::Point<float> position) const;
     void pointAt (juce::Point<float> position);

@@ -121,6 +121,7 @@ RoutingPopup::RoutingPopup (EditorContext& contextToUse)
     offer.emplace (context, "RoutingButton", Button::Options { .text = text (current().offerText) }, [this] {
         acceptOffer();
     });
+    offer->setEnabledWhen ([this] { return ! isSoAlready(); });
     addAndMakeVisible (*offer);
     choose (0);
 }
@@ -143,6 +144,26 @@ void RoutingPopup::choose (int newIndex)
     offer->setTitle (text (current().offerText));
     steps.show (current());
     picture.show (current());
+}
+
+/** What the button offers. */
+bool RoutingPopup::isSoAlready() const
+{
+    const auto& state = context.state();
+
+    switch (current().offer)
+    {
+    case RoutingCase::Offer::synthOn:
+        return state.params.sound.synthEnable.get();
+    case RoutingCase::Offer::synthOff:
+        return ! state.params.sound.synthEnable.get();
+    case RoutingCase::Offer::internalClock:
+        return state.playHead->internalClock.load();
+    case RoutingCase::Offer::panic:
+        break;
+    }
+
+    return false;
 }
 
 void RoutingPopup::acceptOffer()

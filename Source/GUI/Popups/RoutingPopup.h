@@ -27,6 +27,7 @@ private:
     class Row;
 
     const RoutingCase& current() const;
+    bool isSoAlready() const;
     void acceptOffer();
 
     AssetScheme::Element<> list;

@@ -52,7 +52,7 @@ float CategoryParam::getNormalised() const
 
 void CategoryParam::setNormalisedNotifying (float normalised)
 {
-    setInt (static_cast<int> (normalised * static_cast<float> (getNumSteps())));
+    setInt (juce::roundToInt (normalised * static_cast<float> (getNumSteps())));
 }
 
 void CategoryParam::setInt (int value)

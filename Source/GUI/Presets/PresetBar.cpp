@@ -1,5 +1,6 @@
 #include "GUI/Presets/PresetBar.h"
 
+#include "GUI/Pattern/Clipboard.h"
 #include "GUI/Presets/PresetMenus.h"
 #include "GUI/Presets/PresetPopup.h"
 #include "GUI/Presets/SavePopup.h"
@@ -81,7 +82,7 @@ void PresetBar::openBrowser()
 
 void PresetBar::showMenu()
 {
-    const auto canPaste = actions.isPreset (juce::SystemClipboard::getTextFromClipboard());
+    const auto canPaste = actions.isPreset (Clipboard::getText());
     context.overlay.showMenu (presetMenu (actions.getKind(), canPaste), &menuButton, [this] (int command) {
         choose (command);
     });
@@ -100,9 +101,9 @@ void PresetBar::choose (int command)
     case PresetCommand::randomise:
         return actions.randomiseSound();
     case PresetCommand::copy:
-        return juce::SystemClipboard::copyTextToClipboard (actions.toText());
+        return Clipboard::setText (actions.toText());
     case PresetCommand::paste:
-        actions.loadText (juce::SystemClipboard::getTextFromClipboard());
+        actions.loadText (Clipboard::getText());
         return;
     case PresetCommand::showFolder:
         return actions.showFolder();

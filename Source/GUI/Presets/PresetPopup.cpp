@@ -1,5 +1,7 @@
 #include "GUI/Presets/PresetPopup.h"
 
+#include <algorithm>
+
 namespace Zn::GUI
 {
 namespace
@@ -91,7 +93,8 @@ void PresetPopup::rebuild()
         listed = newList;
         favourites = newFavourites;
 
-        const auto* const selected = list.presetAt (list.getSelectedRow());
+        const auto row = list.getSelectedRow();
+        const auto* const selected = list.presetAt (row);
         const auto selectedFile = selected != nullptr ? selected->file : juce::File();
 
         catalogue = catalogueOf (actions.getLibrary(), favourites);
@@ -100,9 +103,21 @@ void PresetPopup::rebuild()
         showGroups();
         showFound();
         list.selectFile (selectedFile);
+
+        if (list.getSelectedRow() < 0 && row >= 0) // it has another name now, or is gone
+            list.selectRow (std::min (row, list.getNumRows() - 1));
     }
 
     list.setCurrent (actions.getCurrentFile());
+}
+
+void PresetPopup::markFound()
+{
+    const auto current = getWords().isEmpty() ? actions.getCurrentFile() : std::nullopt;
+    list.selectFile (current.value_or (juce::File()));
+
+    if (list.getSelectedRow() < 0)
+        list.selectRow (0);
 }
 
 void PresetPopup::showGroups()
@@ -137,7 +152,8 @@ void PresetPopup::showFound()
 juce::String PresetPopup::hintOf (const PresetGroup& group) const
 {
     if (getWords().isNotEmpty())
-        return "Nothing has these words. Try fewer, or \"All\".";
+        return group.kind == PresetGroup::Kind::all ? "Nothing has these words. Try fewer."
+                                                    : "Nothing has these words. Try fewer, or \"All\".";
 
     if (group.kind == PresetGroup::Kind::favourites)
         return "No favourites yet. Click the star of a " + actions.getKind().noun + ".";

@@ -18,6 +18,7 @@ private:
     BrowserList& getList() override { return list; }
     void showGroups() override;
     void showFound() override;
+    void markFound() override;
     void poll();
     void rebuild();
     PresetGroup getGroup() const;

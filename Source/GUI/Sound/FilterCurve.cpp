@@ -144,7 +144,7 @@ juce::String FilterCurve::describe() const
 
 std::pair<juce::String, juce::String> FilterCurve::readoutOf (std::size_t) const
 {
-    return { ValueText (ValueStyle::hertz).current (*cutoff, ValueDetail::precise),
+    return { ValueText (ValueStyle::hertz).current (*cutoff, ValueDetail::full),
              "Q " + ValueText (ValueStyle::decimals).current (*resonance) };
 }
 

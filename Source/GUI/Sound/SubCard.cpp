@@ -15,12 +15,8 @@ SubCard::SubCard (EditorContext& contextToUse)
               "SubVolume",
               Parameters::createForwarder (contextToUse.state().params.sound.synth.sub.subVolume))
 {
+    octave.setShortLabel (true); // as those of the oscillators beside it
+    volume.setShortLabel (true);
     add ({ &title, &octave, &volume });
-}
-
-void SubCard::schemeChanged()
-{
-    SoundCard::schemeChanged();
-    fitLabels ({ &octave, &volume });
 }
 } // namespace Zn::GUI

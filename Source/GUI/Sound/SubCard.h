@@ -12,8 +12,6 @@ class SubCard : public SoundCard
 public:
     explicit SubCard (EditorContext& contextToUse);
 
-    void schemeChanged() override;
-
 private:
     Label title;
     Knob octave, volume;

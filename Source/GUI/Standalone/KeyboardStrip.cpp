@@ -87,28 +87,56 @@ juce::Timer& KeyboardStrip::Piano::getTimer() noexcept
     return Base (*this); // which a static_cast does not reach, as it is private
 }
 
-KeyboardStrip::Button::Button (const juce::String& name, TooltipText explanation)
-    : TextButton (name), tooltip (std::move (explanation))
+KeyboardStrip::Button::Button (const EditorContext& context,
+                               const juce::String& name,
+                               TooltipText explanation)
+    : TextButton (name), tooltip (std::move (explanation)), ring (*this, context)
 {
     setTitle (tooltip.title);
     setDescription (tooltip.help);
 }
 
+void KeyboardStrip::Button::focusGained (FocusChangeType cause)
+{
+    TextButton::focusGained (cause);
+    ring.focusGained (cause);
+}
+
+void KeyboardStrip::Button::focusLost (FocusChangeType cause)
+{
+    TextButton::focusLost (cause);
+    ring.focusLost();
+}
+
+bool KeyboardStrip::Button::keyPressed (const juce::KeyPress& key)
+{
+    ring.keyPressed();
+    return TextButton::keyPressed (key);
+}
+
+void KeyboardStrip::Button::mouseDown (const juce::MouseEvent& event)
+{
+    ring.mousePressed();
+    TextButton::mouseDown (event);
+}
+
 KeyboardStrip::KeyboardStrip (EditorContext& contextToUse, juce::Component& window, CallbackFunc showDevices)
     : context (contextToUse)
     , typedKeys (window, keys)
-    , devices ("Audio and MIDI",
+    , devices (context,
+               "Audio and MIDI",
                { .title = "Audio and MIDI",
                  .value = {},
                  .help = "Choose what Vornel is heard through, and which MIDI devices play it.",
                  .shortcut = {} })
-    , typing ("Type to play",
+    , typing (context,
+              "Type to play",
               { .title = "Type to play",
                 .value = {},
                 .help = "The row from A plays notes, Z and X move it by an octave.",
                 .shortcut = {} })
-    , down (juce::String::charToString (0x2212), octaveText ("Octave down", "lower", "Z"))
-    , up ("+", octaveText ("Octave up", "higher", "X"))
+    , down (context, juce::String::charToString (0x2212), octaveText ("Octave down", "lower", "Z"))
+    , up (context, "+", octaveText ("Octave up", "higher", "X"))
     , schemeListener (context.canvas, [this] { schemeChanged(); })
     , settingsListener (context.settings, [this] { showOctaves(); })
     , pollListener (context.polls, [this] { piano.getTimer().timerCallback(); })

@@ -2,6 +2,7 @@
 
 #include "GUI/Standalone/TypedKeys.h"
 #include "GUI/Widgets/EditorContext.h"
+#include "GUI/Widgets/FocusRing.h"
 #include "GUI/Widgets/TooltipSource.h"
 
 #include <juce_audio_utils/juce_audio_utils.h>
@@ -33,10 +34,16 @@ private:
 
     struct Button : juce::TextButton, TooltipSource
     {
-        Button (const juce::String& text, TooltipText explanation);
+        Button (const EditorContext& context, const juce::String& text, TooltipText explanation);
         TooltipText getTooltipText() const override { return tooltip; }
 
+        void focusGained (FocusChangeType cause) override;
+        void focusLost (FocusChangeType cause) override;
+        bool keyPressed (const juce::KeyPress& key) override;
+        void mouseDown (const juce::MouseEvent& event) override;
+
         const TooltipText tooltip;
+        FocusRing ring;
     };
 
     /** Flat, in the editor's colours. */

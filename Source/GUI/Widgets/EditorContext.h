@@ -32,6 +32,9 @@ struct EditorContext
     /** Whether the last thing that a hand did was to press a key, and no click: only then the focus is shown. */
     bool& keysInUse;
 
+    /** What was last dragged out of this editor as a file: over its own window it is not welcome. */
+    juce::File& draggedOut;
+
     Audio::Plugins::Vornel::State& state() const noexcept { return processor.getState(); }
 };
 } // namespace Zn::GUI

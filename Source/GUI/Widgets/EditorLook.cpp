@@ -76,8 +76,11 @@ void EditorLook::paintField (juce::Graphics& g, juce::Rectangle<float> area, juc
 void EditorLook::drawButtonBackground (
     juce::Graphics& g, juce::Button& button, const juce::Colour&, bool isOver, bool isDown)
 {
-    const auto* const fill = isDown ? "ControlPressed" : isOver ? "ControlHover" : "Control";
-    paintField (g, button.getLocalBounds().toFloat(), colour (fill));
+    constexpr auto lighter = 0.15f;
+    const auto on = button.findColour (juce::TextButton::buttonOnColourId);
+    const auto off = colour (isDown ? "ControlPressed" : isOver ? "ControlHover" : "Control");
+    const auto fill = ! button.getToggleState() ? off : isOver ? on.brighter (lighter) : on;
+    paintField (g, button.getLocalBounds().toFloat(), fill);
 }
 
 void EditorLook::drawComboBox (

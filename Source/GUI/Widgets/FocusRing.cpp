@@ -13,7 +13,9 @@ struct Ring : juce::FocusOutline::OutlineWindowProperties
     juce::Rectangle<int> getOutlineBounds (juce::Component& component) override
     {
         const auto distance = canvas.pixelsOf ("FocusDistance") + canvas.pixelsOf ("ThinStroke");
-        return component.getScreenBounds().expanded (juce::roundToInt (distance));
+        const auto bounds = component.getScreenBounds().expanded (juce::roundToInt (distance));
+        const auto* const parent = component.getParentComponent(); // which cuts off what lies outside of it
+        return parent != nullptr ? bounds.getIntersection (parent->getScreenBounds()) : bounds;
     }
 
     void drawOutline (juce::Graphics& g, int width, int height) override

@@ -19,7 +19,8 @@ struct FormContext
                     .polls = editor.polls,
                     .shownSlot = editor.shownSlot,
                     .actions = editor.actions,
-                    .keysInUse = editor.keysInUse }
+                    .keysInUse = editor.keysInUse,
+                    .draggedOut = editor.draggedOut }
     {}
 
     Undo::Interface forgetful;

@@ -49,7 +49,7 @@ void MenuLook::getIdealPopupMenuItemSize (
         width = std::max (width, font.getStringWidth (line));
 
     // a column in front for ticks and icons, one behind for the arrow of a menu in the menu
-    idealWidth = width + 2 * juce::roundToInt (itemInset()) + 2 * idealHeight;
+    idealWidth = width + 2 * (juce::roundToInt (itemInset()) + getPopupMenuBorderSize()) + 2 * idealHeight;
 
     if (isSeparator)
         idealHeight /= separatorPart;
@@ -83,7 +83,7 @@ void MenuLook::drawPopupMenuItem (juce::Graphics& g,
                                   const juce::Drawable* icon,
                                   const juce::Colour* textColour)
 {
-    auto line = area.toFloat();
+    auto line = area.reduced (getPopupMenuBorderSize(), 0).toFloat(); // as JUCE lays headings
 
     if (isSeparator)
     {

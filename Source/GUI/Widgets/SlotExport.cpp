@@ -1,6 +1,9 @@
 #include "GUI/Widgets/SlotExport.h"
 
 #include "Plugin/Vornel/ExportSlot.h"
+#include "Presets/AtomicFile.h"
+
+#include <string_view>
 
 namespace Zn::GUI
 {
@@ -22,10 +25,11 @@ void SlotExport::drag (int slot, juce::Component& source)
     const auto file =
         juce::File::getSpecialLocation (juce::File::tempDirectory).getChildFile (fileName (slot));
 
-    if (canWrite (slot) && save (slot, file))
-        juce::DragAndDropContainer::performExternalDragDropOfFiles ({ file.getFullPathName() },
-                                                                    false,
-                                                                    &source);
+    if (! canWrite (slot) || ! save (slot, file))
+        return;
+
+    context.draggedOut = file;
+    juce::DragAndDropContainer::performExternalDragDropOfFiles ({ file.getFullPathName() }, false, &source);
 }
 
 bool SlotExport::canWrite (int slot) const
@@ -82,20 +86,12 @@ juce::Result SlotExport::write (int slot, const juce::File& file) const
     if (midi.getNumTracks() == 0)
         return juce::Result::fail ("The pattern is empty.");
 
-    // Whole or not at all: a file that was there stays until the new one is complete.
-    const juce::TemporaryFile temporary (file);
-    juce::FileOutputStream stream (temporary.getFile());
+    juce::MemoryOutputStream bytes;
+    midi.writeTo (bytes);
+    const std::string_view content { static_cast<const char*> (bytes.getData()), bytes.getDataSize() };
 
-    if (stream.openedOk())
-        midi.writeTo (stream);
-
-    stream.flush();
-
-    if (stream.getStatus().failed())
-        return stream.getStatus();
-
-    return temporary.overwriteTargetFileWithTemporary()
+    return Presets::replaceFile (file, content, Presets::Durability::canBeMadeAgain)
                ? juce::Result::ok()
-               : juce::Result::fail ("The file that is there cannot be replaced.");
+               : juce::Result::fail ("The file could not be written. Is the disk full?");
 }
 } // namespace Zn::GUI

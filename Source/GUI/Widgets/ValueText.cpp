@@ -43,12 +43,15 @@ juce::String writeDecibels (double decibels, ValueDetail detail)
     return fixed (decibels, decimals + precise) + unit;
 }
 
-juce::String writeHertz (double hertz, int more)
+/** With one digit more there is no room for the whole unit. */
+juce::String writeHertz (double hertz, ValueDetail detail)
 {
+    const auto more = detail == ValueDetail::shown ? 0 : 1;
+
     if (std::round (hertz) < thousand)
         return fixed (hertz, more) + " Hz";
 
-    return fixed (hertz / thousand, 1 + more) + " kHz";
+    return fixed (hertz / thousand, 1 + more) + (detail == ValueDetail::precise ? " k" : " kHz");
 }
 
 juce::String writeSeconds (double seconds, int more)
@@ -109,7 +112,7 @@ juce::String ValueText::write (double plain, ValueDetail detail) const
         case ValueStyle::decibels:
             return writeDecibels (plain, detail);
         case ValueStyle::hertz:
-            return writeHertz (plain, more);
+            return writeHertz (plain, detail);
         case ValueStyle::seconds:
             return writeSeconds (plain, more);
         case ValueStyle::tempo:

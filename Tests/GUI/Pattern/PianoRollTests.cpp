@@ -233,13 +233,23 @@ TEST (RollView, ScrollsAndZoomsAndStaysSoThroughEdits)
     EXPECT_GT (seen().rowHeight, first.rowHeight);
 
     const auto zoomed = seen();
-    editor.draw ({ { 0.25, 60 } });
-    editor.page.getContext().shownSlot.set (3);
-    editor.page.getContext().shownSlot.set (0);
+    const auto openAnotherAndBack = [&] {
+        editor.page.getContext().shownSlot.set (3);
+        editor.page.getContext().shownSlot.set (0);
+    };
+    editor.draw ({ { 0.25, static_cast<int> (zoomed.centreRow()) } });
+    openAnotherAndBack();
     EXPECT_EQ (seen(), zoomed);
 
+    editor.draw ({ { 0.25, 20 } });
+    EXPECT_EQ (seen(), zoomed);
+    openAnotherAndBack();
+    EXPECT_TRUE (seen().shows ({ 20, 21 })) << "it is not taken for an empty one";
+
+    editor.draw ({ { 0.25, 20 }, { 0.5, 110 } });
     Tests::Hand::click (editor.find ("ZoomFit"));
     EXPECT_EQ (seen().time, first.time);
+    EXPECT_LT (seen().rowHeight, zoomed.rowHeight);
 }
 
 TEST (RollView, FoldsAndUnfoldsAroundTheSameRows)

@@ -101,6 +101,11 @@ TEST (PlayerBand, LightsTheChordThatPlaysAndJumps)
         EXPECT_EQ (playHead.positionPpq.load(), position);
     }
 
+    playHead.isPlaying = false;
+    playHead.positionPpq = 9.5;
+    editor.timeline.keyPressed (juce::KeyPress (juce::KeyPress::rightKey));
+    EXPECT_EQ (playHead.positionPpq.load(), 12.0);
+
     editor.getState().player.setActive (false);
     editor.poll();
     EXPECT_EQ (editor.timeline.getLit(), -1);
@@ -169,6 +174,10 @@ TEST (PlayerBand, PlaysWhatIsDroppedOnTheWindow)
 
     EXPECT_FALSE (editor.page.isInterestedInFileDrag ({ "/song.wav" }));
     ASSERT_TRUE (editor.page.isInterestedInFileDrag ({ "/song.wav", good.getFullPathName() }));
+
+    editor.page.getContext().draggedOut = good;
+    EXPECT_FALSE (editor.page.isInterestedInFileDrag ({ good.getFullPathName() })) << "it came from here";
+    editor.page.getContext().draggedOut = juce::File();
 
     editor.page.fileDragEnter ({ good.getFullPathName() }, 1, 1);
     EXPECT_TRUE (target());

@@ -49,6 +49,7 @@ struct BareEditor
     Events::Value<int> shownSlot;
     GUI::PageActions actions;
     bool keysInUse = false;
+    juce::File draggedOut;
     GUI::EditorContext context { .processor = processor,
                                  .canvas = canvas,
                                  .settings = settings,
@@ -58,6 +59,7 @@ struct BareEditor
                                  .polls = polls,
                                  .shownSlot = shownSlot,
                                  .actions = actions,
-                                 .keysInUse = keysInUse };
+                                 .keysInUse = keysInUse,
+                                 .draggedOut = draggedOut };
 };
 } // namespace Zn::Tests

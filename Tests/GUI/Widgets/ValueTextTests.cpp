@@ -30,7 +30,7 @@ TEST (ValueText, WritesEachValueAsItsKindIsWritten)
 
     const Row rows[] = {
         { synth.filter.cutoff, Style::hertz, "840", "840 Hz", "840.0 Hz", "840.0 Hz" },
-        { synth.filter.cutoff, Style::hertz, "2412", "2.4 kHz", "2.41 kHz", "2.41 kHz" },
+        { synth.filter.cutoff, Style::hertz, "2412", "2.4 kHz", "2.41 k", "2.41 kHz" },
         { synth.filter.resonance, Style::decimals, "2.1", "2.10", "2.100", "2.100" },
         { synth.adsr.attack, Style::seconds, "0.02", "20 ms", "20.0 ms", "20.0 ms" },
         { synth.adsr.attack, Style::seconds, "1", "1.00 s", "1.000 s", "1.000 s" },
