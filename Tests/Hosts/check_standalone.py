@@ -210,6 +210,14 @@ def look_at_devices(editor):
     display.press("Escape")
 
 
+def end_from_outside(program, folder):
+    """As at the end of a session: what was being done is there the next time."""
+    program.terminate()
+    demand_that(program.wait(timeout=20) == 0, "the program did not end cleanly when it was told to")
+    kept = any("filterState" in settings.read_text() for settings in folder.rglob("*.settings"))
+    demand_that(kept, "what was done is lost when the program is ended from outside")
+
+
 def check(program, scheme, pictures):
     demand(PROGRAMS)
 
@@ -226,6 +234,7 @@ def check(program, scheme, pictures):
                 use(editor, environment, folder)
                 look_at_devices(editor)
                 demand_that(running_program.poll() is None, "the program ended by itself")
+                end_from_outside(running_program, folder)
 
 
 def main():

@@ -2,6 +2,7 @@
 // processor, and keeps the settings of both.
 
 #include "Plugin/Host/HostedProcessor.h"
+#include "Plugin/Host/QuitSignals.h"
 
 #include "GUI/Standalone/StandaloneView.h"
 
@@ -59,6 +60,8 @@ public:
 
     ~MainWindow() override
     {
+        holder->savePluginState(); // however the program ends
+
         if (auto* settings = holder->settings.get())
             settings->setValue (placeKey, getWindowStateAsString());
 
@@ -68,8 +71,6 @@ public:
     }
 
     void closeButtonPressed() override { juce::JUCEApplicationBase::getInstance()->systemRequestedQuit(); }
-
-    void save() { holder->savePluginState(); }
 
 private:
     static constexpr auto placeKey = "window";
@@ -129,14 +130,13 @@ public:
 
     void shutdown() override
     {
+        quitSignals.reset();
         window.reset();
         properties.saveIfNeeded();
     }
 
     void systemRequestedQuit() override
     {
-        window->save();
-
         // The dialogue for devices must not outlive them; it goes by itself, a moment later.
         if (! juce::ModalComponentManager::getInstance()->cancelAllModalComponents())
             return quit();
@@ -190,10 +190,12 @@ private:
         options.filenameSuffix = ".settings";
         properties.setStorageParameters (options);
         window = std::make_unique<MainWindow> (getApplicationName(), properties.getUserSettings());
+        quitSignals.emplace();
     }
 
     juce::ApplicationProperties properties;
     std::unique_ptr<MainWindow> window;
+    std::optional<QuitSignals> quitSignals;
 };
 } // namespace
 } // namespace Zn::Audio
