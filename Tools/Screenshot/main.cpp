@@ -168,6 +168,13 @@ private:
     std::optional<GUI::StandaloneView> window;
 };
 
+void showOnScreen (juce::Component& whole)
+{
+    whole.setVisible (true);
+    whole.addToDesktop (0);
+    whole.toFront (true);
+}
+
 void turnPlayerOn (Processor& processor, const juce::String& file)
 {
     using Resource = Sequencer::MidiPlayer::Resource;
@@ -236,7 +243,12 @@ int run (const juce::ArgumentList& arguments)
     View view { processor, isStandalone };
     auto& page = view.page();
     view.setWidth (has ("--width") ? option ("--width").getIntValue() : GUI::Page::defaultSize().width);
-    const Tests::HiddenWindow window { view.whole() }; // focus and menus need one
+    std::optional<Tests::HiddenWindow> window;
+
+    if (juce::Desktop::getInstance().getDisplays().displays.isEmpty())
+        window.emplace (view.whole()); // enough for the focus
+    else
+        showOnScreen (view.whole()); // menus are open only in front of all else
 
     if (has ("--fold"))
         page.getContext().canvas.setFold (GUI::AssetScheme::Fold::folded);
@@ -291,6 +303,11 @@ int run (const juce::ArgumentList& arguments)
 
 int main (int argc, char** argv)
 {
+    // JUCE lets a program of its own live on when a bare X server does not know what it is asked for.
+    juce::JUCEApplicationBase::createInstance = [] {
+        return static_cast<juce::JUCEApplicationBase*> (nullptr);
+    };
+
     const juce::ScopedJuceInitialiser_GUI juceIsRunning;
     const Singleton::UserToken singletonsStay;
     return run (juce::ArgumentList (argc, argv));
