@@ -5,6 +5,7 @@
 #include <array>
 
 #if JUCE_LINUX
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -33,11 +34,8 @@ public:
         });
 
         for (const auto signal : signals)
-            std::signal (signal, [] (int number) {
-                const auto byte = static_cast<char> (number);
-                [[maybe_unused]] const auto written =
-                    ::write (writeEnd, &byte, 1); // all that a handler may do
-            });
+            if (std::signal (signal, tell) == SIG_IGN)
+                std::signal (signal, SIG_IGN); // as nohup has it
     }
 
     ~QuitSignals()
@@ -58,6 +56,15 @@ public:
     QuitSignals& operator= (const QuitSignals&) = delete;
 
 private:
+    /** Writes a byte, which is about all that a handler may do. */
+    static void tell (int signal)
+    {
+        const auto errorBefore = errno;
+        const auto byte = static_cast<char> (signal);
+        [[maybe_unused]] const auto written = ::write (writeEnd, &byte, 1);
+        errno = errorBefore;
+    }
+
     static constexpr std::array signals { SIGINT, SIGTERM, SIGHUP };
     static inline volatile std::sig_atomic_t writeEnd = -1;
 

@@ -130,9 +130,9 @@ public:
 
     void shutdown() override
     {
-        quitSignals.reset();
         window.reset();
         properties.saveIfNeeded();
+        quitSignals.reset(); // last: a second signal must not break off the saving
     }
 
     void systemRequestedQuit() override
