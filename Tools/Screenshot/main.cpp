@@ -2,7 +2,6 @@
 #include "GUI/Editor/Page.h"
 #include "GUI/Standalone/StandaloneView.h"
 #include "GUI/Support/Hand.h"
-#include "GUI/Support/HiddenWindow.h"
 #include "Plugin/Bases/StateEditor.h"
 
 #include <juce_gui_basics/juce_gui_basics.h>
@@ -168,9 +167,14 @@ private:
     std::optional<GUI::StandaloneView> window;
 };
 
+/** If there is one: focus and menus need a window in front of all else. */
 void showOnScreen (juce::Component& whole)
 {
     whole.setVisible (true);
+
+    if (juce::Desktop::getInstance().getDisplays().displays.isEmpty())
+        return;
+
     whole.addToDesktop (0);
     whole.toFront (true);
 }
@@ -243,12 +247,7 @@ int run (const juce::ArgumentList& arguments)
     View view { processor, isStandalone };
     auto& page = view.page();
     view.setWidth (has ("--width") ? option ("--width").getIntValue() : GUI::Page::defaultSize().width);
-    std::optional<Tests::HiddenWindow> window;
-
-    if (juce::Desktop::getInstance().getDisplays().displays.isEmpty())
-        window.emplace (view.whole()); // enough for the focus
-    else
-        showOnScreen (view.whole()); // menus are open only in front of all else
+    showOnScreen (view.whole());
 
     if (has ("--fold"))
         page.getContext().canvas.setFold (GUI::AssetScheme::Fold::folded);
