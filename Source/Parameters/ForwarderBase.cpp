@@ -10,7 +10,7 @@ HostForwarder::ForwarderBase (juce::AudioProcessorParameter& targetToUse)
 
 bool HostForwarder::differsFrom (float normalised, float plain) const
 {
-    // Of the two, the one that JUCE stores: the other would take a curved range each time.
+    // Of a float the form that JUCE stores: the other would take a curved range each time.
     return floatTarget != nullptr ? floatTarget->get() != plain : target->getValue() != normalised;
 }
 

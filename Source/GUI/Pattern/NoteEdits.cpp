@@ -171,7 +171,8 @@ void lengthenSelected (Drawing& drawing, const NoteGrid& grid, int inHand, doubl
     const auto line =
         drawing.hasNote (inHand) ? grid.nearestLine (length + byTime) : lineBeyond (length, byTime, grid);
     const auto snapped = std::max (line, grid.column());
-    const auto delta = grid.snaps ? snapped - length : byTime;
+    const auto snappedBy = byTime < 0.0 ? std::min (snapped - length, 0.0) : snapped - length;
+    const auto delta = grid.snaps ? snappedBy : byTime;
 
     for (const auto index : drawing.selection)
     {

@@ -5,6 +5,7 @@
 #include "GUI/Widgets/ValueKeys.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Zn::GUI
 {
@@ -157,8 +158,13 @@ void PatternArea::bringIntoSight()
         return view.get().shows (juce::Range<int>::withStartAndLength (note.event.noteNum, 1));
     };
 
-    if (! notesInUse().empty() && std::ranges::none_of (notesInUse(), isInSight))
-        view.centreOn (rowsInUse());
+    if (notesInUse().empty() || std::ranges::any_of (notesInUse(), isInSight))
+        return;
+
+    const auto rows = rowsInUse();
+    const auto first = notesInUse().front().event.noteNum;
+    const auto haveRoom = rows.getLength() <= view.get().rowsVisible();
+    view.centreOn (haveRoom ? rows : juce::Range<int>::withStartAndLength (first, 1));
 }
 
 double PatternArea::pasteTime()
@@ -190,6 +196,9 @@ void PatternArea::schemeChanged()
     playLine.setTrack (
         rollBounds.withTop (boundsOf ("Ruler").getY()).withBottom (boundsOf ("NoteLane").getBottom()),
         rollBounds);
+
+    if (context.canvas.getDimensions().get().height > 0 && ! std::exchange (wasPlaced, true))
+        bringIntoSight();
 }
 
 void PatternArea::paint (juce::Graphics& g)

@@ -62,6 +62,7 @@ private:
     Midi::PitchTableRing::Reader tables;
     std::int32_t tableCount = 0; // of the table that was named last
     int middleC = 3;
+    bool wasPlaced = false; // with a size
     Events::Listener pollListener, slotListener, loadListener;
 
     HeldChord chord { roll };

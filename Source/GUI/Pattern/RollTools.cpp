@@ -100,7 +100,7 @@ void RollTools::up (const RollPointer& pointer)
     auto* tool = std::exchange (current, nullptr);
 
     if (tool == nullptr)
-        return;
+        return editor.endDrag(); // what it held has been taken away
 
     tool->up (pointer);
 

@@ -7,7 +7,8 @@
 namespace Zn::GUI
 {
 /** What the roll, its ruler, its lane and its pitch map see of the drawing, and how a hand scrolls and zooms it. Edits,
-    undo and other slots leave it alone, but for a slot whose notes would be out of sight. Tells when it has changed. Thread: message.
+    undo and other slots leave it alone, but for a slot whose notes would be out of sight. Tells when it has changed.
+    Thread: message.
 */
 class RollView : public Events::HasBroadcaster
 {
@@ -22,7 +23,7 @@ public:
     /** Follows the editor's size and fold: rows keep their height as a part of the editor. */
     void setSize (Dimensions<int> rollPixels);
 
-    /** The whole pattern, whose notes lie in some rows: lower ones where there are too many to be seen. */
+    /** The whole pattern, whose notes lie in some rows; rows that are less high where there are too many to be seen. */
     void fit (juce::Range<int> rows);
 
     /** A turn of the wheel over the roll, or beside it at `x` of the roll. With Alt it does nothing. */

@@ -203,7 +203,8 @@ bool PlayerTimeline::keyPressed (const juce::KeyPress& key)
     const auto numBegun = static_cast<int> (std::ranges::count_if (chords, begunBy));
     const auto count = static_cast<int> (chords.size());
     ring.keyPressed();
-    jumpTo ((std::max (numBegun - 1, 0) + step + count) % count);
+    const auto next = step > 0 ? numBegun : std::max (numBegun, 1) - 2;
+    jumpTo ((next + count) % count);
     return true;
 }
 

@@ -87,6 +87,8 @@ TEST_F (RollKeysTest, EditTheSelection)
 
     bare.set ({ note (60, 0.0, 0.03125) });
     editor.select ({ 0 });
+    press ("shift + cursor left");
+    EXPECT_EQ (text(), "60 @0+0.03125") << "no longer than it was";
     press ("shift + cursor right");
     EXPECT_EQ (text(), "60 @0+0.0625") << "to the next line";
 }

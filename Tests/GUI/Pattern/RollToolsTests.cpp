@@ -201,6 +201,14 @@ TEST_F (RollToolsTest, LetGoWhenThePatternIsTakenAway)
 
     EXPECT_TRUE (editor.getDrawing().selection.isEmpty());
     EXPECT_FALSE (editor.getLasso());
+
+    // A note in the hand that is no longer there leaves no step open for others to join.
+    pen.press (Pen::cell (4, 61));
+    pen.moveTo (Pen::cell (6, 61));
+    bare.set ({}, 1);
+    pen.release();
+    bare.edits.perform ("Else", [] { return true; });
+    EXPECT_TRUE (bare.edits.getUndo().canUndo());
 }
 
 TEST_F (RollToolsTest, RightClickAsksForAMenuAndTurnsOfTheWheelAreOneStep)
