@@ -79,6 +79,8 @@ void PatternArea::connect()
 
 void PatternArea::mouseDown (const juce::MouseEvent&)
 {
+    drawing.setKeysInUse (false);
+
     if (drawing.isShowing())
         drawing.grabKeyboardFocus();
 }

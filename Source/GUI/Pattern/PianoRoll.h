@@ -58,9 +58,11 @@ public:
         return cells.createTable();
     }
 
+    /** Whether its focus is to be seen. */
+    void setKeysInUse (bool areInUse);
+
 private:
     void refresh();
-    void setKeysInUse (bool areInUse);
     bool showsFocus() const { return context.editor.keysInUse && hasKeyboardFocus (false); }
     float cursorLine() const; // pixels
     void followCell();

@@ -163,7 +163,7 @@ double RollGeometry::shortestTime() const noexcept
 RollGeometry RollGeometry::limited() const noexcept
 {
     auto result = *this;
-    const auto length = std::clamp (time.getLength(), shortestTime(), 1.0);
+    const auto length = std::min (time.getLength(), 1.0);
     const auto start = std::clamp (time.getStart(), 0.0, 1.0 - length);
     result.time = { start, start + length };
     result.topRow = std::clamp (topRow, std::min (rowsVisible(), double (numRows)), double (numRows));

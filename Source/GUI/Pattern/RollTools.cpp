@@ -193,12 +193,6 @@ bool RollTools::isUpToDate() const
     return seen.playsAs (editor.getDrawing());
 }
 
-void RollTools::letGo()
-{
-    current = nullptr;
-    editor.setLasso ({});
-}
-
 void RollTools::followBrush()
 {
     auto& brush = context.state().brush;

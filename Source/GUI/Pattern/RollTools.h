@@ -56,7 +56,7 @@ private:
     void followBrush();
 
     /** The drawing has become another one: what the hand held is no longer there. */
-    void letGo();
+    void letGo() noexcept { current = nullptr; }
 
     struct Nudged
     {

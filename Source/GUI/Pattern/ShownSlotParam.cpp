@@ -48,18 +48,6 @@ void ShownSlotParam::setNormalisedNotifying (float normalised)
     change (target(), [&] { target().setNormalisedNotifying (normalised); });
 }
 
-Parameters::MenuItems::Item ShownSlotParam::getMenuChoices()
-{
-    auto& parameter = target();
-    auto menu = parameter.getMenuChoices();
-
-    for (auto& line : menu.subItems)
-        if (line.action != nullptr)
-            line.action = [this, &parameter, choose = line.action] { change (parameter, [&] { choose(); }); };
-
-    return menu;
-}
-
 Parameters::Parameter& ShownSlotParam::target() const
 {
     return *targets[static_cast<std::size_t> (

@@ -37,9 +37,6 @@ public:
     void setFromText (const juce::String& text) override;
     void setNormalisedNotifying (float normalised) override;
 
-    /** The lines set the slot that is shown now, and must not outlive this. */
-    Parameters::MenuItems::Item getMenuChoices() override;
-
     float getFloat() const override { return target().getFloat(); }
     int getInt() const override { return target().getInt(); }
     bool getBool() const override { return target().getBool(); }

@@ -1,6 +1,7 @@
 #include "GUI/Popups/AboutPopup.h"
 
 #include "GUI/Framework/AssetScheme/Base.h"
+#include "GUI/Pattern/Clipboard.h"
 #include "GUI/Popups/TextPopup.h"
 #include "Presets/Reflection/Build.h"
 
@@ -42,7 +43,7 @@ AboutPopup::AboutPopup (EditorContext& contextToUse)
             "AboutCopy",
             {},
             [this] {
-                juce::SystemClipboard::copyTextToClipboard (programDetails());
+                Clipboard::setText (programDetails());
                 context.overlay.showMessage ("Details copied");
             })
     , closeButton (context, "AboutClose", {}, [this] { close(); })

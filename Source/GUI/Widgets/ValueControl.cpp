@@ -39,13 +39,6 @@ ValueControl::Drag::Drag (ValueControl& control, juce::Point<float> start)
     , position (double (edit.getStart()))
 {}
 
-void ValueControl::setParameter (std::shared_ptr<Parameters::Parameter> newParameter)
-{
-    endDrag();
-    parameter = std::move (newParameter);
-    poll();
-}
-
 juce::String ValueControl::getShownText (ValueDetail detail) const
 {
     return valueText.current (*parameter, detail);

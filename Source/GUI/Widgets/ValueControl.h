@@ -23,9 +23,6 @@ public:
     /** Never null. */
     const std::shared_ptr<Parameters::Parameter>& getParameter() const noexcept { return parameter; }
 
-    /** Shows another value of the same kind from now on, for instance that of another slot. */
-    void setParameter (std::shared_ptr<Parameters::Parameter> newParameter);
-
     /** What it chooses is how one works, and not what plays: its changes are no steps of undo. */
     void setUndoable (bool shouldBeUndoable) noexcept { isUndoable = shouldBeUndoable; }
 
@@ -128,7 +125,7 @@ private:
     void setLimit (float normalised);
     void look();
 
-    std::shared_ptr<Parameters::Parameter> parameter;
+    const std::shared_ptr<Parameters::Parameter> parameter;
     const ValueText valueText;
     std::optional<Drag> drag;
     bool isUndoable = true;
